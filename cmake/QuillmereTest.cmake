@@ -1,0 +1,13 @@
+# quillmere_test(FOLDER SOURCES … [LINK …]) makes test_FOLDER. It links the folder that it tests
+# and nothing above it.
+function(quillmere_test FOLDER)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+  string(REPLACE "-" "_" _name "${FOLDER}")
+  set(_target test_${_name})
+  add_executable(${_target} ${ARG_SOURCES})
+  set_target_properties(${_target} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${_target} PRIVATE
+    quillmere_${_name} quillmere_test_support ${ARG_LINK} quillmere_compiler)
+  gtest_discover_tests(${_target} TEST_PREFIX "${FOLDER}/" DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES
+    PROPERTIES TIMEOUT 120)
+endfunction()

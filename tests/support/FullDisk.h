@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QtCore/QtGlobal>
+
+#include <functional>
+
+namespace quillmere::test {
+
+/// Runs `body` in a child process in which no file can grow beyond `bytes`: what is written past
+/// them fails as on a full disk. Returns whether `body` returned true.
+[[nodiscard]] bool holdsOnDiskFullAfter(qint64 bytes, const std::function<bool()>& body);
+
+}  // namespace quillmere::test
