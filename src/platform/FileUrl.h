@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QtCore/QString>
+#include <QtCore/QUrl>
+
+namespace quillmere {
+
+/// A file URL for a path of this machine; every character of the path is meant as itself.
+[[nodiscard]] QUrl fileUrl(const QString& path);
+
+/// The path of a file URL, without a trailing slash (but for the root).
+[[nodiscard]] QString filePath(const QUrl& url);
+
+/// `url` with a relative path appended, whether or not `url` ends in a slash.
+[[nodiscard]] QUrl appendingPath(const QUrl& url, QStringView relativePath);
+
+}  // namespace quillmere

@@ -1,0 +1,113 @@
+#include <QtCore/QLocale>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/NameOrdering.h"
+
+namespace quillmere {
+namespace {
+
+using testing::ElementsAre;
+
+int sign(int value) {
+  return (value > 0) - (value < 0);
+}
+
+struct Pair {
+  const char* left;
+  const char* right;
+  int order;
+};
+
+class NameOrderingIn : public testing::TestWithParam<const char*> {
+ protected:
+  const NameOrdering ordering_{QLocale(QString::fromLatin1(GetParam()))};
+};
+
+TEST_P(NameOrderingIn, OrdersNumbersByValueAndIgnoresCase) {
+  const Pair pairs[] = {
+      {"1.9", "1.10", -1},
+      {"1.10", "1.9", 1},
+      {"120.0", "121.0.1", -1},
+      {"9", "121", -1},
+      {"python@3.9", "python@3.13", -1},
+      {"1.2.3", "1.2.3_1", -1},
+      {"1.2.3_2", "1.2.3_10", -1},
+      {"1.01", "1.1", 0},
+      {"2026-01-09", "2026-01-10", -1},
+      {"wget", "WGET", 0},
+      {"apple", "Banana", -1},
+      {"Apple", "banana", -1},
+      {"Zebra", "apple", 1},
+      {"wget", "wget2", -1},
+      {"", "a", -1},
+      {"", "", 0},
+      {"123456789012345678901234567890", "123456789012345678901234567891", -1},
+  };
+  for (const Pair& pair : pairs) {
+    const QString left = QString::fromUtf8(pair.left);
+    const QString right = QString::fromUtf8(pair.right);
+    EXPECT_EQ(sign(ordering_.compare(left, right)), pair.order) << pair.left << " " << pair.right;
+    EXPECT_EQ(sign(ordering_.sortKey(left).compare(ordering_.sortKey(right))), pair.order)
+        << "by key: " << pair.left << " " << pair.right;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, NameOrderingIn,
+                         testing::Values("C", "en_US", "de_DE", "sv_SE", "tr_TR", "ja_JP"));
+
+TEST(NameOrdering, OfTheUserOrdersNumbersByValueAndIgnoresCase) {
+  const NameOrdering& ordering = NameOrdering::ofUser();
+  EXPECT_LT(ordering.compare(u"1.9", u"1.10"), 0);
+  EXPECT_LT(ordering.compare(u"apple", u"Banana"), 0);
+  EXPECT_EQ(ordering.compare(u"wget", u"WGET"), 0);
+}
+
+TEST(NameOrdering, FollowsTheLanguage) {
+  const NameOrdering german(QLocale(QLocale::German));
+  const NameOrdering swedish(QLocale(QLocale::Swedish));
+  EXPECT_LT(german.compare(u"\u00e4", u"z"), 0);
+  EXPECT_GT(swedish.compare(u"\u00e4", u"z"), 0);
+}
+
+struct Item {
+  QString name;
+  int number = 0;
+};
+
+TEST(NameOrdering, SortsAndKeepsTheOrderOfEqualNames) {
+  std::vector<Item> items = {{QStringLiteral("zlib"), 1}, {QStringLiteral("Wget"), 2},
+                             {QStringLiteral("a10"), 3},  {QStringLiteral("wget"), 4},
+                             {QStringLiteral("a9"), 5},   {QStringLiteral("WGET"), 6},
+                             {QStringLiteral("a9"), 7}};
+  NameOrdering(QLocale::c()).stableSort(items, [](const Item& item) { return item.name; });
+  std::vector<int> numbers;
+  for (const Item& item : items) {
+    numbers.push_back(item.number);
+  }
+  EXPECT_THAT(numbers, ElementsAre(5, 7, 3, 2, 4, 6, 1));
+}
+
+TEST(NameOrdering, AsksEachItemForItsNameOnce) {
+  std::vector<Item> items;
+  for (int i = 0; i < 100; ++i) {
+    items.push_back({QStringLiteral("package-%1").arg(100 - i), 100 - i});
+  }
+  int asked = 0;
+  NameOrdering::ofUser().stableSort(items, [&asked](const Item& item) {
+    ++asked;
+    return item.name;
+  });
+  EXPECT_EQ(asked, 100);
+  EXPECT_TRUE(std::ranges::is_sorted(items, {}, &Item::number));
+}
+
+TEST(NameOrdering, SortsNothing) {
+  std::vector<Item> items;
+  NameOrdering::ofUser().stableSort(items, [](const Item& item) { return item.name; });
+  EXPECT_TRUE(items.empty());
+}
+
+}  // namespace
+}  // namespace quillmere
