@@ -1,0 +1,1 @@
+quillmere_benchmark(commands SOURCES commands.cpp LINK quillmere_commands)
