@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QtCore/QDateTime>
+#include <QtCore/QString>
+#include <QtCore/QUrl>
+#include <QtCore/QUuid>
+
+#include <optional>
+#include <vector>
+
+#include "prefix/HomebrewPrefixLocation.h"
+
+namespace quillmere {
+
+/// One location of a folder that is being considered as a prefix: counted, not listed.
+struct HomebrewPrefixProbeResult {
+  using Status = HomebrewPrefixLocation::Status;
+
+  /// New for every probe.
+  QUuid id;
+  QString label;
+  QString relativePath;
+  Status status = Status::missing;
+  /// Visible entries of a readable location that can be listed.
+  std::optional<qsizetype> itemCount;
+
+  bool operator==(const HomebrewPrefixProbeResult&) const = default;
+};
+
+/// The text of a row's status: "Readable (3 items)", "Readable", "Missing" or "Not readable".
+[[nodiscard]] QString statusText(const HomebrewPrefixProbeResult& result);
+
+struct HomebrewPrefixProbeSummary {
+  QUrl prefixURL;
+  QDateTime scannedAt;
+  /// Seven rows in the order of `homebrewPrefixLocations`.
+  std::vector<HomebrewPrefixProbeResult> results;
+
+  bool operator==(const HomebrewPrefixProbeSummary&) const = default;
+
+  /// Whether "bin/brew" is there and readable; nothing else matters.
+  [[nodiscard]] bool looksLikeHomebrewPrefix() const;
+};
+
+/// Looks at a folder of this machine. Blocks on the disk for seven look-ups and listings; any
+/// thread.
+[[nodiscard]] HomebrewPrefixProbeSummary probeHomebrewPrefix(const QUrl& folder);
+
+}  // namespace quillmere

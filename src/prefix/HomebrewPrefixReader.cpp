@@ -1,0 +1,74 @@
+#include "prefix/HomebrewPrefixReader.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/FileUrl.h"
+#include "platform/SecurityScopedAccess.h"
+
+namespace quillmere {
+namespace {
+
+/// The rank of a UTF-16 unit in an order by code points: surrogates, which stand for what lies
+/// beyond U+FFFF, come last.
+constexpr int codePointRank(QChar unit) {
+  return unit.isSurrogate() ? unit.unicode() + 0x10000 : unit.unicode();
+}
+
+bool comesBefore(const QString& left, const QString& right) {
+  return std::ranges::lexicographical_compare(left, right, {}, codePointRank, codePointRank);
+}
+
+QString lastPathComponent(const QUrl& url) {
+  const QString path = filePath(url);
+  return path.sliced(path.lastIndexOf(u'/') + 1);
+}
+
+QStringList sortedChildNames(const HomebrewPrefixFileSystem& fileSystem, const QUrl& url) {
+  QStringList names;
+  if (const auto contents = fileSystem.contentsOfDirectory(url)) {
+    names.reserve(contents->size());
+    std::ranges::transform(*contents, std::back_inserter(names), lastPathComponent);
+    std::ranges::sort(names, comesBefore);
+  }
+  return names;
+}
+
+HomebrewPrefixLocation readLocation(const HomebrewPrefixFileSystem& fileSystem,
+                                    const QUrl& prefixURL, const HomebrewPrefixLocationInfo& info) {
+  using Status = HomebrewPrefixLocation::Status;
+  HomebrewPrefixLocation location{.kind = info.kind,
+                                  .label = info.label,
+                                  .relativePath = info.relativePath,
+                                  .url = appendingPath(prefixURL, QString(info.relativePath)),
+                                  .status = Status::readable,
+                                  .childNames = {}};
+  const QString path = filePath(location.url);
+  if (!fileSystem.fileExists(path)) {
+    location.status = Status::missing;
+  } else if (!fileSystem.isReadableFile(path)) {
+    location.status = Status::notReadable;
+  } else {
+    location.childNames = sortedChildNames(fileSystem, location.url);
+  }
+  return location;
+}
+
+}  // namespace
+
+HomebrewPrefixReader::HomebrewPrefixReader(QUrl prefixURL, HomebrewPrefixFileSystemPtr fileSystem)
+    : prefixURL_(std::move(prefixURL)), fileSystem_(std::move(fileSystem)) {
+}
+
+HomebrewPrefixReadResult HomebrewPrefixReader::read() const {
+  const SecurityScopedAccess access(prefixURL_);
+  HomebrewPrefixReadResult result{
+      .prefixURL = prefixURL_, .scannedAt = QDateTime::currentDateTimeUtc(), .locations = {}};
+  result.locations.reserve(homebrewPrefixLocations.size());
+  for (const HomebrewPrefixLocationInfo& info : homebrewPrefixLocations) {
+    result.locations.push_back(readLocation(*fileSystem_, prefixURL_, info));
+  }
+  return result;
+}
+
+}  // namespace quillmere

@@ -1,0 +1,134 @@
+#include <QtCore/QSet>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "platform/SecurityScopedAccess.h"
+#include "prefix/HomebrewPrefixProbe.h"
+#include "support/DemoPrefix.h"
+#include "support/UnprivilegedUser.h"
+
+namespace quillmere {
+namespace {
+
+using namespace Qt::StringLiterals;
+using test::DemoPrefix;
+using Status = HomebrewPrefixProbeResult::Status;
+
+const HomebrewPrefixProbeResult& row(const HomebrewPrefixProbeSummary& summary,
+                                     const QString& relativePath) {
+  return *std::ranges::find(summary.results, relativePath,
+                            &HomebrewPrefixProbeResult::relativePath);
+}
+
+TEST(HomebrewPrefixProbe, ShowsTheSevenLocationsInOrder) {
+  const DemoPrefix prefix;
+  const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
+  EXPECT_EQ(summary.prefixURL, prefix.url());
+  ASSERT_EQ(summary.results.size(), homebrewPrefixLocations.size());
+  for (std::size_t i = 0; i < summary.results.size(); ++i) {
+    EXPECT_EQ(summary.results[i].label, homebrewPrefixLocations[i].label);
+    EXPECT_EQ(summary.results[i].relativePath, homebrewPrefixLocations[i].relativePath);
+  }
+}
+
+TEST(HomebrewPrefixProbe, AcceptsAFolderWithReadableBrewAndNothingElse) {
+  DemoPrefix prefix;
+  prefix.withBrew("#!/bin/sh\n");
+  const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
+  EXPECT_TRUE(summary.looksLikeHomebrewPrefix());
+  for (const HomebrewPrefixProbeResult& result : summary.results) {
+    EXPECT_EQ(statusText(result), result.relativePath == u"bin/brew" ? u"Readable" : u"Missing");
+  }
+}
+
+TEST(HomebrewPrefixProbe, RejectsAFolderWithUnreadableBrew) {
+  DemoPrefix prefix;
+  prefix.withBrew("#!/bin/sh\n");
+  ASSERT_EQ(chmod(prefix.path().toUtf8().constData(), 0755), 0);
+  ASSERT_EQ(chmod(prefix.pathOf(u"bin/brew"_s).toUtf8().constData(), 0), 0);
+  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+    const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
+    return !summary.looksLikeHomebrewPrefix() &&
+           statusText(row(summary, u"bin/brew"_s)) == u"Not readable" &&
+           !row(summary, u"bin/brew"_s).itemCount;
+  }));
+}
+
+TEST(HomebrewPrefixProbe, RejectsAFolderThatHasEverythingButBrew) {
+  DemoPrefix prefix;
+  prefix.withAllLocations();
+  EXPECT_FALSE(probeHomebrewPrefix(prefix.url()).looksLikeHomebrewPrefix());
+}
+
+TEST(HomebrewPrefixProbe, CountsAnEmptyFolderAsNoItems) {
+  DemoPrefix prefix;
+  prefix.withFolder(u"Cellar"_s);
+  const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
+  const HomebrewPrefixProbeResult& cellar = row(summary, u"Cellar"_s);
+  EXPECT_EQ(cellar.itemCount, 0);
+  EXPECT_EQ(statusText(cellar), u"Readable (0 items)");
+}
+
+TEST(HomebrewPrefixProbe, CountsVisibleItems) {
+  DemoPrefix prefix;
+  prefix.withFolder(u"Caskroom/firefox"_s).withFolder(u"Caskroom/.metadata"_s);
+  prefix.withFolder(u"Cellar/wget"_s).withFolder(u"Cellar/zlib"_s).withFile(u"Cellar/notes"_s);
+  const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
+  EXPECT_EQ(statusText(row(summary, u"Caskroom"_s)), u"Readable (1 items)");
+  EXPECT_EQ(statusText(row(summary, u"Cellar"_s)), u"Readable (3 items)");
+}
+
+TEST(HomebrewPrefixProbe, GivesEachRowOfEachProbeItsOwnIdentity) {
+  const DemoPrefix prefix;
+  QSet<QUuid> identifiers;
+  for (int probe = 0; probe < 2; ++probe) {
+    const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
+    for (const HomebrewPrefixProbeResult& result : summary.results) {
+      identifiers.insert(result.id);
+    }
+  }
+  EXPECT_EQ(identifiers.size(), 14);
+}
+
+TEST(HomebrewPrefixProbe, TakesTheTimeOfTheProbe) {
+  const DemoPrefix prefix;
+  const QDateTime before = QDateTime::currentDateTimeUtc();
+  const QDateTime scannedAt = probeHomebrewPrefix(prefix.url()).scannedAt;
+  EXPECT_GE(scannedAt, before);
+  EXPECT_LE(scannedAt, QDateTime::currentDateTimeUtc());
+}
+
+TEST(HomebrewPrefixProbe, StartsAndStopsAccessOnce) {
+  const DemoPrefix prefix;
+  const auto before = SecurityScopedAccess::counts();
+  static_cast<void>(probeHomebrewPrefix(prefix.url()));
+  EXPECT_EQ(SecurityScopedAccess::counts().started, before.started + 1);
+  EXPECT_EQ(SecurityScopedAccess::counts().stopped, before.stopped + 1);
+}
+
+struct StatusTextRow {
+  Status status;
+  std::optional<qsizetype> itemCount;
+  QString text;
+};
+
+TEST(HomebrewPrefixProbe, PutsEachStatusInWords) {
+  const std::vector<StatusTextRow> table{
+      {Status::readable, std::nullopt, u"Readable"_s},
+      {Status::readable, 0, u"Readable (0 items)"_s},
+      {Status::readable, 1, u"Readable (1 items)"_s},
+      {Status::readable, 1234, u"Readable (1234 items)"_s},
+      {Status::missing, std::nullopt, u"Missing"_s},
+      {Status::notReadable, std::nullopt, u"Not readable"_s},
+  };
+  for (const auto& [status, itemCount, text] : table) {
+    HomebrewPrefixProbeResult result;
+    result.status = status;
+    result.itemCount = itemCount;
+    EXPECT_EQ(statusText(result), text);
+  }
+}
+
+}  // namespace
+}  // namespace quillmere
