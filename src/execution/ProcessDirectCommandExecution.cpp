@@ -1,0 +1,236 @@
+#include "execution/ProcessDirectCommandExecution.h"
+
+#include <QtCore/QFile>
+
+#include <array>
+#include <chrono>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <system_error>
+#include <thread>
+#include <utility>
+
+#include "platform/FileUrl.h"
+
+namespace quillmere {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+// How long a pipe that someone else still holds is listened to after the child's exit. All that the
+// child wrote is in the pipe by then; this is for the last words of what it started.
+constexpr auto graceAfterExit = 500ms;
+// How often the child is looked at where the system offers no descriptor to wait for.
+constexpr auto exitPollInterval = 50ms;
+
+std::unexpected<DirectCommandRunnerError> launchFailure(std::error_code error) {
+  return std::unexpected(DirectCommandRunnerError(LaunchFailure{error}));
+}
+
+QString valueOrUnset(const Environment& environment, const std::string& name) {
+  const auto entry = environment.find(name);
+  return entry == environment.end() ? QStringLiteral("unset")
+                                    : QString::fromStdString(entry->second);
+}
+
+pollfd listenTo(const FileDescriptor& fd) {
+  // A negative descriptor is passed over, so that a closed one needs no case of its own.
+  return {.fd = fd.get(), .events = POLLIN, .revents = 0};
+}
+
+/// Reads once if `entry` says that there is something, and closes at the end.
+void readIfReady(FileHandleDataReader& reader, const pollfd& entry) {
+  if (entry.revents != 0 && reader.readAvailable() == FileHandleDataReader::State::atEnd) {
+    reader.finish();
+  }
+}
+
+}  // namespace
+
+auto ProcessDirectCommandExecution::start(Run run)
+    -> std::expected<std::shared_ptr<DirectCommandExecution>, DirectCommandRunnerError> {
+  auto standardOutput = ChildProcess::openPipe();
+  auto standardError = ChildProcess::openPipe();
+  FileDescriptor cancelSignal(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+  if (!standardOutput || !standardError || !cancelSignal.isOpen()) {
+    return launchFailure(std::make_error_code(std::errc::too_many_files_open));
+  }
+  std::shared_ptr<ProcessDirectCommandExecution> execution(
+      new ProcessDirectCommandExecution(std::move(run), std::move(*standardOutput),
+                                        std::move(*standardError), std::move(cancelSignal)));
+  execution->logPreparation();
+  try {
+    // Nothing joins this thread: the run may outlive the screen that started it, and the thread
+    // owns all that it touches.
+    std::thread([execution] { execution->runToEnd(); }).detach();
+  } catch (const std::system_error& error) {
+    return launchFailure(error.code());
+  }
+  return execution;
+}
+
+ProcessDirectCommandExecution::ProcessDirectCommandExecution(Run run,
+                                                             ChildProcess::Pipe standardOutput,
+                                                             ChildProcess::Pipe standardError,
+                                                             FileDescriptor cancelSignal)
+    : run_(std::move(run)),
+      startedAt_(QDateTime::currentDateTimeUtc()),
+      output_(std::make_shared<OutputChunkStream>()),
+      logger_(output_),
+      standardOutput_(std::move(standardOutput)),
+      standardError_(std::move(standardError)),
+      standardOutputReader_(
+          makeReader(standardOutput_, DirectExecutionOutputStream::standardOutput)),
+      standardErrorReader_(makeReader(standardError_, DirectExecutionOutputStream::standardError)),
+      cancelSignal_(std::move(cancelSignal)) {
+  if (run_.prefixURL) {
+    access_.emplace(*run_.prefixURL);
+  }
+  promise_.start();
+}
+
+StreamingFileHandleDataReader ProcessDirectCommandExecution::makeReader(
+    ChildProcess::Pipe& pipe, DirectExecutionOutputStream stream) const {
+  return {std::move(pipe.reading), [output = output_, stream](const QByteArray& text) {
+            output->yield(makeChunk(stream, text));
+          }};
+}
+
+void ProcessDirectCommandExecution::logPreparation() const {
+  const Environment& environment = run_.environment;
+  logger_.log(QStringLiteral("Preparing Direct Homebrew process."));
+  logger_.log(QStringLiteral("Executable: ") + filePath(run_.brewExecutableURL));
+  logger_.log(QStringLiteral("Arguments: ") + run_.arguments.join(u' '));
+  logger_.log(QStringLiteral("Selected prefix: ") +
+              (run_.prefixURL ? filePath(*run_.prefixURL) : QStringLiteral("none")));
+  logger_.log(QStringLiteral("Security scope started: ") +
+              (access_ && access_->started() ? QStringLiteral("yes") : QStringLiteral("no")));
+  logger_.log(QStringLiteral("PATH: ") + valueOrUnset(environment, "PATH"));
+  logger_.log(QStringLiteral("Homebrew flags: HOMEBREW_NO_AUTO_UPDATE=") +
+              valueOrUnset(environment, "HOMEBREW_NO_AUTO_UPDATE") +
+              QStringLiteral(", HOMEBREW_NO_INPUT=") +
+              valueOrUnset(environment, "HOMEBREW_NO_INPUT") +
+              QStringLiteral(", HOMEBREW_NO_ANALYTICS=") +
+              valueOrUnset(environment, "HOMEBREW_NO_ANALYTICS"));
+}
+
+void ProcessDirectCommandExecution::cancel() {
+  cancellationState_.cancel();
+  eventfd_write(cancelSignal_.get(), 1);
+}
+
+void ProcessDirectCommandExecution::runToEnd() {
+  const DirectCommandOutcome outcome = launchAndFollow();
+  access_.reset();
+  promise_.addResult(outcome);
+  promise_.finish();
+}
+
+DirectCommandOutcome ProcessDirectCommandExecution::launchAndFollow() {
+  logger_.log(QStringLiteral("Output readers started. Launching process."));
+  if (cancellationState_.isCancelled()) {
+    logger_.log(QStringLiteral(
+        "Cancellation requested before process launch. Closing Direct session stream."));
+    output_->finish();
+    // Tells a child that never ran from every exit status that one could have.
+    constexpr std::int32_t neverLaunched = -1;
+    return makeResult(neverLaunched);
+  }
+
+  ChildProcess::Launch launch{
+      QFile::encodeName(filePath(run_.brewExecutableURL)).toStdString(), {}, run_.environment};
+  for (const QString& argument : std::as_const(run_.arguments)) {
+    launch.arguments.push_back(argument.toStdString());
+  }
+  auto child = ChildProcess::launch(launch, standardOutput_, standardError_);
+  if (!child) {
+    logger_.log(QStringLiteral("Process launch failed: ") +
+                description(LaunchFailure{child.error()}));
+    output_->finish();
+    return launchFailure(child.error());
+  }
+
+  logger_.log(QStringLiteral("Process launched with pid %1. Waiting for exit.").arg(child->pid()));
+  if (cancellationState_.isCancelled() && !child->hasExited()) {
+    logger_.log(
+        QStringLiteral("Cancellation requested after process launch. Terminating process."));
+    child->terminateSession();
+  }
+  followUntilExit(*child);
+  const std::int32_t exitCode = child->reap();
+  logger_.log(
+      QStringLiteral("Process exited with status %1. Collecting remaining output.").arg(exitCode));
+  collectRemainingOutput();
+  logger_.log(QStringLiteral("Output collection finished. Closing Direct session stream."));
+  output_->finish();
+  return makeResult(exitCode);
+}
+
+void ProcessDirectCommandExecution::followUntilExit(const ChildProcess& child) {
+  while (!child.hasExited()) {
+    readUntilExitOrCancel(child);
+    eventfd_t requests = 0;
+    if (eventfd_read(cancelSignal_.get(), &requests) == 0 && !child.hasExited()) {
+      child.terminateSession();
+    }
+  }
+  if (cancellationState_.isCancelled()) {
+    // What the child started between the request and its own end has not heard of it yet.
+    child.terminateSession();
+  }
+}
+
+void ProcessDirectCommandExecution::readUntilExitOrCancel(const ChildProcess& child) {
+  const bool canWaitForExit = child.exitSignal().isOpen();
+  const int timeout = canWaitForExit ? -1 : static_cast<int>(exitPollInterval.count());
+  for (bool woken = false; !woken;) {
+    std::array entries = {listenTo(standardOutputReader_.fileHandle()),
+                          listenTo(standardErrorReader_.fileHandle()), listenTo(cancelSignal_),
+                          listenTo(child.exitSignal())};
+    const int ready = poll(entries.data(), entries.size(), timeout);
+    if (ready > 0) {
+      readIfReady(standardOutputReader_, entries[0]);
+      readIfReady(standardErrorReader_, entries[1]);
+    }
+    woken = !canWaitForExit || (ready > 0 && (entries[2].revents != 0 || entries[3].revents != 0));
+  }
+}
+
+void ProcessDirectCommandExecution::collectRemainingOutput() {
+  const auto deadline = Clock::now() + graceAfterExit;
+  while (standardOutputReader_.fileHandle().isOpen() ||
+         standardErrorReader_.fileHandle().isOpen()) {
+    const auto left =
+        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
+    std::array entries = {listenTo(standardOutputReader_.fileHandle()),
+                          listenTo(standardErrorReader_.fileHandle())};
+    if (left < 0ms || poll(entries.data(), entries.size(), static_cast<int>(left.count())) == 0) {
+      break;
+    }
+    readIfReady(standardOutputReader_, entries[0]);
+    readIfReady(standardErrorReader_, entries[1]);
+  }
+  for (FileHandleDataReader* reader : {static_cast<FileHandleDataReader*>(&standardOutputReader_),
+                                       static_cast<FileHandleDataReader*>(&standardErrorReader_)}) {
+    if (reader->fileHandle().isOpen()) {
+      reader->finish();
+    }
+  }
+}
+
+DirectCommandResult ProcessDirectCommandExecution::makeResult(std::int32_t exitCode) const {
+  return {
+      .command = run_.command,
+      .brewExecutableURL = run_.brewExecutableURL,
+      .arguments = run_.arguments,
+      .standardOutput = standardOutputReader_.text(),
+      .standardError = standardErrorReader_.text(),
+      .exitCode = exitCode,
+      .startedAt = startedAt_,
+      .endedAt = QDateTime::currentDateTimeUtc(),
+      .wasCancelled = cancellationState_.isCancelled(),
+  };
+}
+
+}  // namespace quillmere
