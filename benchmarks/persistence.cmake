@@ -1,0 +1,1 @@
+quillmere_benchmark(persistence SOURCES persistence.cpp LINK quillmere_persistence)

@@ -1,0 +1,276 @@
+#include "persistence/LocalPersistenceStore.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QFile>
+#include <QtCore/QFileInfo>
+#include <QtCore/QStandardPaths>
+
+#include <utility>
+
+#include "platform/AtomicFile.h"
+#include "platform/FileUrl.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quillmere {
+namespace {
+
+namespace keys {
+
+constexpr QLatin1StringView onboarding = "hasCompletedOnboarding"_L1;
+constexpr QLatin1StringView prefixPath = "selectedHomebrewPrefixPath"_L1;
+constexpr QLatin1StringView prefixBookmark = "selectedHomebrewPrefixBookmarkData"_L1;
+constexpr QLatin1StringView refreshDate = "catalogLastRefreshDate"_L1;
+constexpr QLatin1StringView scanDate = "localInventoryLastScanDate"_L1;
+constexpr QLatin1StringView history = "commandHistory"_L1;
+constexpr QLatin1StringView oldFormulaCatalog = "cachedFormulaCatalogData"_L1;
+constexpr QLatin1StringView oldCaskCatalog = "cachedCaskCatalogData"_L1;
+
+}  // namespace keys
+
+/// Absent where the settings hold nothing, or something of another type.
+template <typename T>
+std::optional<T> valueOf(const QSettings& settings, QLatin1StringView key) {
+  const QVariant value = settings.value(key);
+  return value.typeId() == qMetaTypeId<T>() ? std::optional(value.value<T>()) : std::nullopt;
+}
+
+/// A settings file keeps a flag as text.
+bool flagOf(const QSettings& settings, QLatin1StringView key) {
+  return settings.value(key).toString() == "true"_L1;
+}
+
+std::optional<QDateTime> dateOf(const QSettings& settings, QLatin1StringView key) {
+  const auto date = valueOf<QDateTime>(settings, key);
+  return date && date->isValid() ? date : std::nullopt;
+}
+
+CommandHistory historyOf(const QSettings& settings) {
+  const auto json = valueOf<QByteArray>(settings, keys::history);
+  return json ? decodeCommandHistory(*json).value_or(CommandHistory()) : CommandHistory();
+}
+
+QVariant toVariant(bool flag) {
+  return flag;
+}
+
+QVariant toVariant(const CommandHistory& history) {
+  return encodeCommandHistory(history);
+}
+
+template <typename T>
+QVariant toVariant(const std::optional<T>& value) {
+  return value ? QVariant(*value) : QVariant();
+}
+
+/// On a disk that fills up while the settings are written their old file is lost with the new one
+/// and nothing is reported, so that this asks beforehand.
+bool hasRoomFor(const QSettings& settings, const QVariant& value) {
+  constexpr qint64 longestEscape = 4;
+  constexpr qint64 keyAndDate = 1024;
+  const QFileInfo file(settings.fileName());
+  const qint64 size = file.size() + longestEscape * value.toByteArray().size() + keyAndDate;
+  return !file.exists() || hasRoomBeside(file.filePath(), size);
+}
+
+bool isReadableFile(const QString& path) {
+  // A pipe by that name would keep open() waiting.
+  return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
+}
+
+}  // namespace
+
+LocalPersistenceStore::LocalPersistenceStore(
+    std::unique_ptr<QSettings> defaults, QUrl cacheDirectoryURL,
+    std::shared_ptr<const SecurityScopedBookmarks> bookmarks, QObject* parent)
+    : QObject(parent),
+      defaults_(std::move(defaults)),
+      cacheDirectoryURL_(std::move(cacheDirectoryURL)),
+      bookmarks_(std::move(bookmarks)) {
+  // What the user has reset must not come back out of settings of the whole machine.
+  defaults_->setFallbacksEnabled(false);
+  load();
+  migrateCatalogDocument(keys::oldFormulaCatalog, formulaCacheURL());
+  migrateCatalogDocument(keys::oldCaskCatalog, caskCacheURL());
+}
+
+LocalPersistenceStore::~LocalPersistenceStore() = default;
+
+QUrl LocalPersistenceStore::defaultCacheDirectoryURL() {
+  QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+  if (base.isEmpty()) {
+    base = QDir::tempPath();
+  }
+  return appendingPath(fileUrl(base), u"Quillmere/CatalogCache/");
+}
+
+void LocalPersistenceStore::load() {
+  hasCompletedOnboarding_ = flagOf(*defaults_, keys::onboarding);
+  selectedHomebrewPrefixPath_ = valueOf<QString>(*defaults_, keys::prefixPath);
+  selectedHomebrewPrefixBookmarkData_ = valueOf<QByteArray>(*defaults_, keys::prefixBookmark);
+  catalogLastRefreshDate_ = dateOf(*defaults_, keys::refreshDate);
+  localInventoryLastScanDate_ = dateOf(*defaults_, keys::scanDate);
+  commandHistory_ = historyOf(*defaults_);
+}
+
+void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file) {
+  const auto document = valueOf<QByteArray>(*defaults_, oldKey);
+  if (document && !isReadableFile(filePath(file))) {
+    writeCacheFile(document, file);
+  }
+  if (defaults_->contains(oldKey)) {
+    write(oldKey, QVariant());
+  }
+}
+
+void LocalPersistenceStore::write(QLatin1StringView key, const QVariant& value) {
+  if (!hasRoomFor(*defaults_, value)) {
+    return;
+  }
+  if (value.isValid()) {
+    defaults_->setValue(key, value);
+  } else {
+    defaults_->remove(key);
+  }
+  defaults_->sync();
+}
+
+template <typename T>
+void LocalPersistenceStore::set(T& property, const T& value, QLatin1StringView key,
+                                ChangeSignal changed) {
+  const bool isChange = property != value;
+  property = value;
+  write(key, toVariant(property));
+  if (isChange) {
+    Q_EMIT(this->*changed)();
+  }
+}
+
+void LocalPersistenceStore::setHasCompletedOnboarding(bool completed) {
+  set(hasCompletedOnboarding_, completed, keys::onboarding,
+      &LocalPersistenceStore::hasCompletedOnboardingChanged);
+}
+
+void LocalPersistenceStore::setSelectedHomebrewPrefixPath(const std::optional<QString>& path) {
+  set(selectedHomebrewPrefixPath_, path, keys::prefixPath,
+      &LocalPersistenceStore::selectedHomebrewPrefixPathChanged);
+}
+
+void LocalPersistenceStore::setSelectedHomebrewPrefixBookmarkData(
+    const std::optional<QByteArray>& bookmark) {
+  set(selectedHomebrewPrefixBookmarkData_, bookmark, keys::prefixBookmark,
+      &LocalPersistenceStore::selectedHomebrewPrefixBookmarkDataChanged);
+}
+
+void LocalPersistenceStore::setCatalogLastRefreshDate(const std::optional<QDateTime>& date) {
+  set(catalogLastRefreshDate_, date, keys::refreshDate,
+      &LocalPersistenceStore::catalogLastRefreshDateChanged);
+}
+
+void LocalPersistenceStore::setLocalInventoryLastScanDate(const std::optional<QDateTime>& date) {
+  set(localInventoryLastScanDate_, date, keys::scanDate,
+      &LocalPersistenceStore::localInventoryLastScanDateChanged);
+}
+
+void LocalPersistenceStore::setCommandHistory(const CommandHistory& history) {
+  set(commandHistory_, history, keys::history, &LocalPersistenceStore::commandHistoryChanged);
+}
+
+QUrl LocalPersistenceStore::formulaCacheURL() const {
+  return appendingPath(cacheDirectoryURL_, u"formula.json");
+}
+
+QUrl LocalPersistenceStore::caskCacheURL() const {
+  return appendingPath(cacheDirectoryURL_, u"cask.json");
+}
+
+void LocalPersistenceStore::saveFormulaCatalog(const QByteArray& document,
+                                               const QDateTime& refreshedAt) {
+  saveCatalog(document, formulaCacheURL(), refreshedAt);
+}
+
+void LocalPersistenceStore::saveCaskCatalog(const QByteArray& document,
+                                            const QDateTime& refreshedAt) {
+  saveCatalog(document, caskCacheURL(), refreshedAt);
+}
+
+void LocalPersistenceStore::saveCatalog(const QByteArray& document, const QUrl& file,
+                                        const QDateTime& refreshedAt) {
+  writeCacheFile(document, file);
+  setCatalogLastRefreshDate(refreshedAt);
+}
+
+void LocalPersistenceStore::writeCacheFile(const std::optional<QByteArray>& bytes,
+                                           const QUrl& file) {
+  if (!QDir().mkpath(filePath(cacheDirectoryURL_))) {
+    return;
+  }
+  // A cache that could not be written is downloaded again, one that could not be removed is
+  // written over: there is nothing to tell anybody.
+  if (bytes) {
+    (void)replaceFile(filePath(file), *bytes);
+  } else {
+    (void)QFile::remove(filePath(file));
+  }
+}
+
+void LocalPersistenceStore::selectPrefix(const QUrl& folder) {
+  setSelectedHomebrewPrefixPath(filePath(folder));
+  setSelectedHomebrewPrefixBookmarkData(bookmarks_->create(folder));
+}
+
+std::optional<QUrl> LocalPersistenceStore::resolvedPrefixURL() {
+  if (!selectedHomebrewPrefixBookmarkData_) {
+    return selectedHomebrewPrefixPath_ ? std::optional(fileUrl(*selectedHomebrewPrefixPath_))
+                                       : std::nullopt;
+  }
+  const auto resolved = bookmarks_->resolve(*selectedHomebrewPrefixBookmarkData_);
+  if (!resolved) {
+    return std::nullopt;
+  }
+  if (resolved->isStale) {
+    renewBookmark(resolved->url);
+  }
+  return resolved->url;
+}
+
+void LocalPersistenceStore::renewBookmark(const QUrl& folder) {
+  setSelectedHomebrewPrefixPath(filePath(folder));
+  const auto bookmark = bookmarks_->create(folder);
+  if (bookmark && bookmark != selectedHomebrewPrefixBookmarkData_) {
+    setSelectedHomebrewPrefixBookmarkData(bookmark);
+  }
+}
+
+void LocalPersistenceStore::clearCacheMarkers() {
+  setCatalogLastRefreshDate(std::nullopt);
+  writeCacheFile(std::nullopt, formulaCacheURL());
+  writeCacheFile(std::nullopt, caskCacheURL());
+}
+
+void LocalPersistenceStore::resetPrefix() {
+  setSelectedHomebrewPrefixPath(std::nullopt);
+  setSelectedHomebrewPrefixBookmarkData(std::nullopt);
+  setLocalInventoryLastScanDate(std::nullopt);
+}
+
+void LocalPersistenceStore::clearHistory() {
+  setCommandHistory({});
+}
+
+void LocalPersistenceStore::resetOnboarding() {
+  setHasCompletedOnboarding(false);
+}
+
+void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
+  commandHistory_.prepend(record);
+  write(keys::history, toVariant(commandHistory_));
+  Q_EMIT commandHistoryChanged();
+}
+
+void LocalPersistenceStore::recordExecution(const DirectCommandResult& result,
+                                            const std::optional<QString>& sourceScreen) {
+  appendHistory(executionRecord(result, sourceScreen));
+}
+
+}  // namespace quillmere

@@ -1,0 +1,130 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QDateTime>
+#include <QtCore/QObject>
+#include <QtCore/QSettings>
+#include <QtCore/QString>
+#include <QtCore/QUrl>
+
+#include <memory>
+#include <optional>
+
+#include "persistence/CommandHistory.h"
+#include "platform/SecurityScopedBookmarks.h"
+
+namespace quillmere {
+
+/// The one owner of everything that the program remembers between launches. Made once at start and
+/// shared by all windows; every setter writes through to the settings, synced to the disk before it
+/// returns, and reports no error: a failed write is lost, the old value on the disk is not. UI
+/// thread only.
+class LocalPersistenceStore : public QObject {
+  Q_OBJECT
+ public:
+  /// Loads everything from `defaults` and moves catalog documents that an older version kept there
+  /// into the cache directory.
+  explicit LocalPersistenceStore(
+      std::unique_ptr<QSettings> defaults, QUrl cacheDirectoryURL = defaultCacheDirectoryURL(),
+      std::shared_ptr<const SecurityScopedBookmarks> bookmarks = platformBookmarks(),
+      QObject* parent = nullptr);
+  ~LocalPersistenceStore() override;
+
+  /// "Quillmere/CatalogCache" under the user's application data.
+  [[nodiscard]] static QUrl defaultCacheDirectoryURL();
+
+  [[nodiscard]] bool hasCompletedOnboarding() const { return hasCompletedOnboarding_; }
+
+  void setHasCompletedOnboarding(bool completed);
+
+  [[nodiscard]] const std::optional<QString>& selectedHomebrewPrefixPath() const {
+    return selectedHomebrewPrefixPath_;
+  }
+
+  void setSelectedHomebrewPrefixPath(const std::optional<QString>& path);
+
+  [[nodiscard]] const std::optional<QByteArray>& selectedHomebrewPrefixBookmarkData() const {
+    return selectedHomebrewPrefixBookmarkData_;
+  }
+
+  void setSelectedHomebrewPrefixBookmarkData(const std::optional<QByteArray>& bookmark);
+
+  [[nodiscard]] const std::optional<QDateTime>& catalogLastRefreshDate() const {
+    return catalogLastRefreshDate_;
+  }
+
+  void setCatalogLastRefreshDate(const std::optional<QDateTime>& date);
+
+  [[nodiscard]] const std::optional<QDateTime>& localInventoryLastScanDate() const {
+    return localInventoryLastScanDate_;
+  }
+
+  void setLocalInventoryLastScanDate(const std::optional<QDateTime>& date);
+
+  [[nodiscard]] const CommandHistory& commandHistory() const { return commandHistory_; }
+
+  void setCommandHistory(const CommandHistory& history);
+
+  [[nodiscard]] const QUrl& cacheDirectoryURL() const { return cacheDirectoryURL_; }
+
+  [[nodiscard]] QUrl formulaCacheURL() const;
+  [[nodiscard]] QUrl caskCacheURL() const;
+
+  /// Writes the document as it was downloaded and records when. The date is set even where the
+  /// write fails. Blocks on the disk.
+  void saveFormulaCatalog(const QByteArray& document, const QDateTime& refreshedAt);
+  void saveCaskCatalog(const QByteArray& document, const QDateTime& refreshedAt);
+  /// Replaces a file of the cache, making its folder first, or removes it when there are no bytes.
+  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file);
+
+  /// Remembers a folder that the user chose: its path and a bookmark of it.
+  void selectPrefix(const QUrl& folder);
+  /// The selected prefix; absent when none is selected or its bookmark leads nowhere. Renews a
+  /// stale bookmark.
+  [[nodiscard]] std::optional<QUrl> resolvedPrefixURL();
+
+  /// Forgets the catalog documents and their date; the scan date stays.
+  void clearCacheMarkers();
+  /// Forgets the selected prefix and the scan date; the prefix itself is not touched.
+  void resetPrefix();
+  void clearHistory();
+  void resetOnboarding();
+
+  /// Puts `record` at the front of the history, which has no maximum length.
+  void appendHistory(const CommandHistoryRecord& record);
+  /// Appends the record of a finished run.
+  void recordExecution(const DirectCommandResult& result,
+                       const std::optional<QString>& sourceScreen);
+
+ Q_SIGNALS:
+  void hasCompletedOnboardingChanged();
+  void selectedHomebrewPrefixPathChanged();
+  void selectedHomebrewPrefixBookmarkDataChanged();
+  void catalogLastRefreshDateChanged();
+  void localInventoryLastScanDateChanged();
+  void commandHistoryChanged();
+
+ private:
+  using ChangeSignal = void (LocalPersistenceStore::*)();
+
+  void load();
+  void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
+  void renewBookmark(const QUrl& folder);
+  void saveCatalog(const QByteArray& document, const QUrl& file, const QDateTime& refreshedAt);
+  template <typename T>
+  void set(T& property, const T& value, QLatin1StringView key, ChangeSignal changed);
+  /// Syncs `value` to the disk, or the removal of the key where there is none.
+  void write(QLatin1StringView key, const QVariant& value);
+
+  std::unique_ptr<QSettings> defaults_;
+  QUrl cacheDirectoryURL_;
+  std::shared_ptr<const SecurityScopedBookmarks> bookmarks_;
+  bool hasCompletedOnboarding_ = false;
+  std::optional<QString> selectedHomebrewPrefixPath_;
+  std::optional<QByteArray> selectedHomebrewPrefixBookmarkData_;
+  std::optional<QDateTime> catalogLastRefreshDate_;
+  std::optional<QDateTime> localInventoryLastScanDate_;
+  CommandHistory commandHistory_;
+};
+
+}  // namespace quillmere

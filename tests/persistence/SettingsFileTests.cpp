@@ -1,0 +1,167 @@
+#include <QtCore/QFile>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "persistence/LocalPersistenceStore.h"
+#include "support/FullDisk.h"
+#include "support/TemporarySettings.h"
+
+namespace quillmere {
+namespace {
+
+using namespace Qt::StringLiterals;
+using Store = LocalPersistenceStore;
+
+CommandHistoryRecord copyOf(const QString& command) {
+  CommandHistoryRecord record;
+  record.id = QUuid::createUuid();
+  record.command = command;
+  record.copiedAt = QDateTime::fromMSecsSinceEpoch(1'795'207'320'125, Qt::UTC);
+  record.operationType = u"info"_s;
+  return record;
+}
+
+std::unique_ptr<Store> startOver(const test::TemporarySettings& settings) {
+  return std::make_unique<Store>(settings.open(), settings.cacheDirectoryURL());
+}
+
+/// A store over a copy of the file: what the disk holds, whatever this process remembers of it.
+std::unique_ptr<Store> startOverTheBytesOf(const test::TemporarySettings& settings) {
+  const QString copy = settings.file() + QUuid::createUuid().toString(QUuid::WithoutBraces);
+  EXPECT_TRUE(QFile::copy(settings.file(), copy));
+  return std::make_unique<Store>(std::make_unique<QSettings>(copy, QSettings::IniFormat),
+                                 settings.cacheDirectoryURL());
+}
+
+template <typename Body>
+pid_t inAnotherProcess(Body body) {
+  const pid_t child = fork();
+  if (child == 0) {
+    body();
+    _exit(0);
+  }
+  return child;
+}
+
+bool hasEndedWell(pid_t child) {
+  int status = 0;
+  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+TEST(SettingsFile, KeepsTheKeysOfTwoStoresThatWriteInTurn) {
+  const test::TemporarySettings settings;
+  const auto first = startOver(settings);
+  const auto second = startOver(settings);
+  first->setHasCompletedOnboarding(true);
+  second->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
+  first->appendHistory(copyOf(u"brew update"_s));
+  second->setSelectedHomebrewPrefixPath(std::nullopt);
+  second->setSelectedHomebrewPrefixBookmarkData("bookmark");
+  const auto restarted = startOverTheBytesOf(settings);
+  EXPECT_TRUE(restarted->hasCompletedOnboarding());
+  EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), std::nullopt);
+  EXPECT_EQ(restarted->selectedHomebrewPrefixBookmarkData(), "bookmark");
+  EXPECT_EQ(restarted->commandHistory(), first->commandHistory());
+}
+
+TEST(SettingsFile, KeepsTheKeysOfAnotherProcessThatWasOpenAllTheTime) {
+  const test::TemporarySettings settings;
+  const auto store = startOver(settings);
+  store->setHasCompletedOnboarding(true);
+  ASSERT_TRUE(hasEndedWell(inAnotherProcess([&] {
+    const auto other = startOver(settings);
+    other->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
+    other->appendHistory(copyOf(u"brew update"_s));
+  })));
+  store->setSelectedHomebrewPrefixBookmarkData("bookmark");
+  const auto restarted = startOverTheBytesOf(settings);
+  EXPECT_TRUE(restarted->hasCompletedOnboarding());
+  EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/opt/homebrew"_s);
+  EXPECT_EQ(restarted->selectedHomebrewPrefixBookmarkData(), "bookmark");
+  EXPECT_EQ(restarted->commandHistory().size(), 1);
+}
+
+TEST(SettingsFile, KeepsTheKeysOfTwoProcessesThatWriteAtTheSameTime) {
+  const test::TemporarySettings settings;
+  constexpr int rounds = 50;
+  const pid_t paths = inAnotherProcess([&] {
+    const auto store = startOver(settings);
+    for (int i = 0; i <= rounds; ++i) {
+      store->setSelectedHomebrewPrefixPath(u"/prefix/"_s + QString::number(i));
+    }
+  });
+  const pid_t histories = inAnotherProcess([&] {
+    const auto store = startOver(settings);
+    for (int i = 0; i < rounds; ++i) {
+      store->appendHistory(copyOf(u"brew update"_s));
+    }
+  });
+  EXPECT_TRUE(hasEndedWell(paths));
+  EXPECT_TRUE(hasEndedWell(histories));
+  const auto restarted = startOverTheBytesOf(settings);
+  EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/prefix/50"_s);
+  EXPECT_EQ(restarted->commandHistory().size(), rounds);
+}
+
+/// Short and long values fail at different moments of a write.
+TEST(SettingsFile, KeepsTheOldValuesOnAFullDisk) {
+  const test::TemporarySettings settings;
+  const CommandHistory history = {copyOf(u"brew update"_s)};
+  const auto store = startOver(settings);
+  store->setCommandHistory(history);
+  store->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
+  const qint64 size = QFile(settings.file()).size();
+  for (const qint64 room : {qint64(0), size / 2, size - 1, size, size + 50}) {
+    for (const qsizetype length : {10, 5'000, 20'000, 100'000, 1'000'000}) {
+      EXPECT_TRUE(test::holdsOnDiskFullAfter(room, [&] {
+        const auto other = startOver(settings);
+        other->appendHistory(copyOf(QString(length, u'x')));
+        other->setSelectedHomebrewPrefixPath(std::nullopt);
+        other->setSelectedHomebrewPrefixPath(QString(length, u'x'));
+        return other->commandHistory().size() == 2;
+      }));
+      const auto restarted = startOverTheBytesOf(settings);
+      EXPECT_EQ(restarted->commandHistory(), history) << room << ' ' << length;
+      EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/opt/homebrew"_s);
+    }
+  }
+}
+
+TEST(SettingsFile, IsWrittenAgainOnceThereIsRoom) {
+  const test::TemporarySettings settings;
+  startOver(settings)->setHasCompletedOnboarding(true);
+  EXPECT_TRUE(test::holdsOnDiskFullAfter(0, [&] {
+    startOver(settings)->resetOnboarding();
+    return true;
+  }));
+  EXPECT_TRUE(startOverTheBytesOf(settings)->hasCompletedOnboarding());
+  startOver(settings)->resetOnboarding();
+  EXPECT_FALSE(startOverTheBytesOf(settings)->hasCompletedOnboarding());
+}
+
+TEST(SettingsFile, KeepsTheOldDocumentOnAFullDisk) {
+  const test::TemporarySettings settings;
+  startOver(settings)->saveFormulaCatalog("[]", QDateTime::fromMSecsSinceEpoch(1000, Qt::UTC));
+  EXPECT_TRUE(test::holdsOnDiskFullAfter(4096, [&] {
+    const QDateTime later = QDateTime::fromMSecsSinceEpoch(2000, Qt::UTC);
+    const auto store = startOver(settings);
+    store->saveFormulaCatalog(QByteArray(100'000, ' '), later);
+    return store->catalogLastRefreshDate() == later;
+  }));
+  QFile document(startOver(settings)->formulaCacheURL().toLocalFile());
+  ASSERT_TRUE(document.open(QFile::ReadOnly));
+  EXPECT_EQ(document.readAll(), "[]");
+}
+
+TEST(SettingsFile, HidesNoSettingsOfTheWholeMachineBehindAReset) {
+  const test::TemporarySettings settings;
+  auto defaults = settings.open();
+  const QSettings* borrowed = defaults.get();
+  const Store store(std::move(defaults), settings.cacheDirectoryURL());
+  EXPECT_FALSE(borrowed->fallbacksEnabled());
+}
+
+}  // namespace
+}  // namespace quillmere
