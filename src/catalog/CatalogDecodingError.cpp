@@ -1,0 +1,41 @@
+#include "catalog/CatalogDecodingError.h"
+
+#include <algorithm>
+
+namespace quillmere {
+namespace {
+
+constexpr qsizetype longestExcerpt = 80;
+
+}  // namespace
+
+QString quotedExcerpt(const QString& text) {
+  QString line = text.left(longestExcerpt);
+  if (line.size() < text.size()) {
+    if (line.back().isHighSurrogate()) {
+      line.chop(1);
+    }
+    line += QChar(u'\u2026');
+  }
+  std::ranges::replace_if(
+      line, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; },
+      QChar(u' '));
+  return u'"' + line + u'"';
+}
+
+QString CatalogDecodingError::description() const {
+  QString sentence = document == Document::formulae ? QStringLiteral("The formula document")
+                                                    : QStringLiteral("The cask document");
+  if (index) {
+    sentence += QStringLiteral("'s record at index %1").arg(*index);
+    if (name) {
+      sentence += QStringLiteral(", ") + quotedExcerpt(*name) + QStringLiteral(",");
+    }
+    if (key) {
+      sentence += QStringLiteral(" is faulty: \"%1\"").arg(*key);
+    }
+  }
+  return sentence + u' ' + problem + u'.';
+}
+
+}  // namespace quillmere

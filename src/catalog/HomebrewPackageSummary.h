@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QtCore/QLatin1StringView>
+
+#include <optional>
+#include <vector>
+
+#include "catalog/HomebrewCask.h"
+#include "catalog/HomebrewFormula.h"
+
+namespace quillmere {
+
+/// What the lists and the detail view show of a package of the catalog, formula or cask alike.
+/// A catalog is some sixteen thousand of these, kept for as long as the program runs, of which one
+/// screenful is looked at: hence shared UTF-8 texts, turned into `QString` by the list model for
+/// the rows in view.
+struct HomebrewPackageSummary {
+  enum class Kind { formula, cask };
+
+  /// "formula:" or "cask:" and the formula's name or the cask's token: the two may share a name.
+  SharedText id;
+  Kind kind = Kind::formula;
+  SharedText name;
+  std::optional<SharedText> description;
+  std::optional<SharedText> version;
+  /// What a formula is built from when asked for its head; casks have none.
+  std::optional<SharedText> alternateVersion;
+  std::optional<UrlText> homepage;
+  std::optional<SharedText> license;
+  std::optional<SharedText> tap;
+  /// A formula's dependencies, a cask's artifact labels.
+  std::vector<SharedText> detailItems;
+
+  bool operator==(const HomebrewPackageSummary&) const = default;
+
+  friend std::size_t qHash(const HomebrewPackageSummary& summary, std::size_t seed = 0) noexcept {
+    return qHash(summary.id, seed);
+  }
+};
+
+/// "Formula" or "Cask".
+[[nodiscard]] QLatin1StringView displayLabel(HomebrewPackageSummary::Kind kind);
+
+/// One summary per record, in the order of the records, whose texts they take over. Pure; any
+/// thread.
+[[nodiscard]] std::vector<HomebrewPackageSummary> packageSummaries(
+    std::vector<HomebrewFormula> formulae);
+[[nodiscard]] std::vector<HomebrewPackageSummary> packageSummaries(std::vector<HomebrewCask> casks);
+
+}  // namespace quillmere
