@@ -1,0 +1,6 @@
+#include "catalog_document.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
+  quillmere::check(quillmere::decodeCasks(QByteArrayView(data, static_cast<qsizetype>(size))));
+  return 0;
+}

@@ -1,0 +1,30 @@
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+#include "platform/TerminalText.h"
+
+namespace {
+
+void require(bool holds) {
+  if (!holds) {
+    std::abort();
+  }
+}
+
+bool isAllowed(QChar character) {
+  return character == u'\t' || character.category() != QChar::Other_Control;
+}
+
+}  // namespace
+
+// The standing text of any line holds no control character but tabs, is no longer than a terminal
+// could have made it, and stands as it is when it is written again.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const QByteArrayView line(data, static_cast<qsizetype>(size));
+  const QString text = quillmere::standingText(line);
+  require(std::ranges::all_of(text, isAllowed));
+  require(text.size() <= 2 * line.size() + 512);
+  require(quillmere::standingText(text.toUtf8()) == text);
+  return 0;
+}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdlib>
+
+#include "catalog/CatalogDecoding.h"
+#include "catalog/HomebrewPackageSummary.h"
+
+namespace quillmere {
+
+inline void require(bool condition) {
+  if (!condition) {
+    std::abort();
+  }
+}
+
+/// Whatever a server sends, reading it gives records whose texts are whole characters, or one
+/// sentence on one line that says why not.
+template <typename Records>
+void check(const std::expected<Records, CatalogDecodingError>& decoded) {
+  if (!decoded) {
+    const QString sentence = decoded.error().description();
+    require(sentence.endsWith(u'.') && !sentence.contains(u'\n') && sentence.size() < 400);
+    return;
+  }
+  require(withoutDuplicates(*decoded).size() <= decoded->size());
+  const auto summaries = packageSummaries(*decoded);
+  require(summaries.size() == decoded->size());
+  for (const HomebrewPackageSummary& summary : summaries) {
+    require(summary.name.toString().toUtf8() == QByteArrayView(summary.name.view()));
+    require(!summary.homepage || summary.homepage->url().isValid());
+  }
+}
+
+}  // namespace quillmere
