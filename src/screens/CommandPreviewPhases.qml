@@ -1,0 +1,59 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Screens
+
+// The three phases of the sheet, one at a time.
+FocusScope {
+    id: root
+
+    required property CommandPreviewSheetModel viewModel
+
+    implicitHeight: pages.implicitHeight
+
+    Keys.onEscapePressed: viewModel.phase === CommandPreviewSheetModel.Starting
+                          ? viewModel.cancelStartup() : viewModel.close()
+
+    ColumnLayout {
+        id: pages
+
+        anchors.fill: parent
+
+        Repeater {
+            model: root.viewModel.phase === CommandPreviewSheetModel.Preview ? 1 : 0
+
+            delegate: CommandPreviewPage {
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                focus: true
+                viewModel: root.viewModel
+            }
+        }
+
+        Repeater {
+            model: root.viewModel.phase === CommandPreviewSheetModel.Starting ? 1 : 0
+
+            delegate: DirectExecutionStartupView {
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                focus: true
+                viewModel: root.viewModel
+            }
+        }
+
+        Repeater {
+            model: root.viewModel.session ? 1 : 0
+
+            delegate: DirectExecutionSessionView {
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                canClose: root.viewModel.canClose
+                focus: true
+                viewModel: root.viewModel.session
+
+                onClosed: root.viewModel.close()
+            }
+        }
+    }
+}

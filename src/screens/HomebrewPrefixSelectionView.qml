@@ -1,0 +1,100 @@
+import QtQuick
+import QtQuick.Dialogs
+import QtQuick.Layouts
+import Quillmere.Components
+import Quillmere.Screens
+
+// The prefix that may be inspected, how to choose it, and what was found in it.
+ColumnLayout {
+    id: root
+
+    required property HomebrewPrefixSelectionViewModel viewModel
+
+    // To have chosen nothing yet is no error.
+    readonly property bool wrong: viewModel.hasSelection || viewModel.hasReport
+
+    spacing: Theme.medium
+
+    Component.onCompleted: viewModel.recheck()
+
+    TitleText {
+        Layout.fillWidth: true
+        font.pixelSize: Theme.bodySize
+        text: "Homebrew Prefix"
+
+        // The section around says so already.
+        Accessible.ignored: true
+    }
+
+    BodyText {
+        Layout.fillWidth: true
+        text: "Select your Homebrew prefix to enable read-only local inspection. Apple Silicon Homebrew installs usually live at `/opt/homebrew`."
+    }
+
+    CodeBlock {
+        Layout.fillWidth: true
+        accessibleName: "Selected prefix " + root.viewModel.selectedPath
+        text: root.viewModel.selectedPath
+        visible: root.viewModel.hasSelection
+    }
+
+    RowLayout {
+        spacing: Theme.small
+
+        PrimaryButton {
+            symbolName: "externaldrive"
+            text: root.viewModel.chooseTitle
+
+            onClicked: chooser.open()
+        }
+
+        PlainButton {
+            enabled: root.viewModel.hasSelection
+            text: "Recheck"
+
+            onClicked: root.viewModel.recheck()
+        }
+
+        DestructiveButton {
+            enabled: root.viewModel.hasSelection
+            text: "Reset"
+
+            onClicked: root.viewModel.reset()
+        }
+    }
+
+    RowLayout {
+        spacing: Theme.small
+        visible: root.viewModel.errorMessage.length > 0
+
+        Symbol {
+            name: root.wrong ? "exclamationmark.triangle" : "info.circle"
+            Layout.alignment: Qt.AlignTop
+            color: root.wrong ? Theme.red : Theme.secondaryText
+        }
+
+        BodyText {
+            Layout.fillWidth: true
+            color: root.wrong ? Theme.red : Theme.secondaryText
+            text: root.viewModel.errorMessage
+        }
+    }
+
+    HomebrewPrefixReport {
+        Layout.fillWidth: true
+        viewModel: root.viewModel
+        visible: root.viewModel.hasReport
+    }
+
+    FolderDialog {
+        id: chooser
+
+        acceptLabel: "Select Prefix"
+        currentFolder: root.viewModel.startFolder
+        // No new folders: a prefix is chosen, not made. qmllint knows no type of this property.
+        options: FolderDialog.ReadOnly // qmllint disable
+        title: "Select your Homebrew prefix. For Apple Silicon Macs, this is usually /opt/homebrew."
+
+        onAccepted: root.viewModel.chooseFolder(selectedFolder)
+    }
+}

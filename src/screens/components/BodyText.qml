@@ -1,0 +1,5 @@
+import QtQuick
+
+PlainText {
+    lineHeight: 1.2
+}

@@ -1,0 +1,6 @@
+import QtQuick
+
+PlainText {
+    color: Theme.secondaryText
+    font.pixelSize: Theme.captionSize
+}

@@ -1,0 +1,8 @@
+import QtQuick
+
+PlainText {
+    font.pixelSize: Theme.displaySize
+    font.weight: Font.DemiBold
+
+    Accessible.role: Accessible.Heading
+}

@@ -1,0 +1,7 @@
+import QtQuick
+
+Rectangle {
+    implicitWidth: Theme.borderWidth
+    implicitHeight: Theme.borderWidth
+    color: Theme.hairline
+}

@@ -1,0 +1,23 @@
+import QtQuick
+
+// Says for a moment that something was done. An `Announcement` speaks it.
+Pill {
+    id: root
+
+    spoken: false
+    symbolName: "checkmark.circle"
+    text: ""
+    tint: "green"
+    visible: gone.running
+
+    function show(words: string): void {
+        text = words;
+        gone.restart();
+    }
+
+    Timer {
+        id: gone
+
+        interval: Theme.noticeTime
+    }
+}

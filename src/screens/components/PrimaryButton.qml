@@ -1,0 +1,8 @@
+import QtQuick
+
+// The one action that a place is there for.
+ActionButton {
+    fill: Theme.accent
+    ink: Theme.accentText
+    outline: Theme.accent
+}

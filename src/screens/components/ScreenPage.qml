@@ -1,0 +1,70 @@
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+
+// A screen whose content flows from top to bottom and scrolls when it does not fit. What takes the
+// keyboard focus comes into view.
+FocusScope {
+    id: root
+
+    default property alias content: column.data
+    property int margin: Theme.large
+    readonly property bool overflows: flickable.contentHeight > flickable.height
+
+    implicitHeight: flickable.contentHeight
+
+    function announce(text: string): void {
+        announcement.say(text);
+    }
+
+    function reveal(item: Item): void {
+        const top = item.mapToItem(column, 0, 0).y;
+        flickable.contentY = Math.max(0, Math.min(top - root.margin, Math.max(
+            flickable.contentY, top + item.height + 3 * root.margin - flickable.height)));
+    }
+
+    Announcement {
+        id: announcement
+    }
+
+    Flickable {
+        id: flickable
+
+        anchors.fill: parent
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        contentHeight: column.implicitHeight + 2 * root.margin
+        contentWidth: width
+        interactive: wheel.touched
+
+        ScrollBar.vertical: SlimScrollBar {
+        }
+
+        Keys.onUpPressed: wheel.scrollBy(-Theme.rowHeight)
+        Keys.onDownPressed: wheel.scrollBy(Theme.rowHeight)
+
+        ColumnLayout {
+            id: column
+
+            x: (flickable.width - width) / 2
+            y: root.margin
+            width: Math.min(flickable.width - 2 * root.margin, Theme.textWidth)
+            spacing: Theme.normal
+        }
+    }
+
+    ScrollWheel {
+        id: wheel
+
+        flickable: flickable
+    }
+
+    Connections {
+        function onActiveFocusItemChanged(): void {
+            if (root.activeFocus && root.Window.activeFocusItem !== flickable)
+                root.reveal(root.Window.activeFocusItem);
+        }
+
+        target: root.Window.window
+    }
+}

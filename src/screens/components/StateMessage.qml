@@ -1,0 +1,47 @@
+import QtQuick
+import QtQuick.Layouts
+
+// What a place says when it has nothing to list: empty, still loading, or failed.
+ColumnLayout {
+    id: root
+
+    required property string symbolName
+    required property string title
+    required property string text
+
+    default property alias actions: actionRow.data
+
+    spacing: Theme.small
+
+    Symbol {
+        name: root.symbolName
+        Layout.alignment: Qt.AlignHCenter
+        Layout.bottomMargin: Theme.small
+        opacity: 0.7
+        size: Theme.displaySize * 2
+    }
+
+    TitleText {
+        Layout.fillWidth: true
+        horizontalAlignment: Text.AlignHCenter
+        text: root.title
+    }
+
+    BodyText {
+        Layout.alignment: Qt.AlignHCenter
+        Layout.fillWidth: true
+        Layout.maximumWidth: Theme.alertWidth
+        color: Theme.secondaryText
+        horizontalAlignment: Text.AlignHCenter
+        text: root.text
+    }
+
+    RowLayout {
+        id: actionRow
+
+        Layout.alignment: Qt.AlignHCenter
+        Layout.topMargin: Theme.small
+        spacing: Theme.small
+        visible: children.length > 0
+    }
+}
