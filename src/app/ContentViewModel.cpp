@@ -1,0 +1,127 @@
+#include "app/ContentViewModel.h"
+
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+
+#include <utility>
+
+#include "commands/PreparedCommandAction.h"
+#include "persistence/LocalPersistenceStore.h"
+
+using namespace Qt::StringLiterals;
+
+namespace quillmere {
+namespace {
+
+QLatin1StringView planOf(AppSection section) {
+  switch (section) {
+    case AppSection::dashboard:
+      return "An overview of Homebrew on this computer will stand here. Until then, choose your "
+             "Homebrew prefix in Settings, then look at a command in Services."_L1;
+    case AppSection::installed:
+      return "The packages in your Homebrew prefix will be listed here."_L1;
+    case AppSection::browse:
+      return "The formulae and casks that Homebrew offers will be found here."_L1;
+    case AppSection::updates:
+      return "Packages with a newer version will be listed here."_L1;
+    case AppSection::cleanup:
+      return "Old versions and the size of the download cache will be shown here."_L1;
+    case AppSection::aboutLegal:
+      return "What Quillmere is, and its licence, will be told here."_L1;
+    case AppSection::services:
+    case AppSection::history:
+    case AppSection::settings:
+      break;
+  }
+  return {};
+}
+
+}  // namespace
+
+ContentViewModel::ContentViewModel(
+    LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
+    std::shared_ptr<const DirectCommandExecutionStarting> executionStarter,
+    BrewExecutableResolver resolver, QObject* parent)
+    : QObject(parent),
+      store_(store),
+      appCapabilities_(appCapabilities),
+      executionStarter_(std::move(executionStarter)),
+      resolver_(std::move(resolver)),
+      services_([this](const BrewCommand& command, const QString& sourceScreen) {
+        openPreview(command, sourceScreen);
+      }),
+      history_(store),
+      settings_(store),
+      settingsWindow_(store) {
+}
+
+ContentViewModel::~ContentViewModel() = default;
+
+void ContentViewModel::select(AppSection section) {
+  if (selectedSection_ == section) {
+    return;
+  }
+  selectedSection_ = section;
+  Q_EMIT selectedSectionChanged();
+}
+
+int ContentViewModel::selectedIndex() const {
+  return selectedSection_ ? static_cast<int>(*selectedSection_) : -1;
+}
+
+QString ContentViewModel::selectedSectionName() const {
+  return selectedSection_ ? QString(rawValue(*selectedSection_)) : QString();
+}
+
+QString ContentViewModel::selectedTitle() const {
+  return selectedSection_ ? QString(title(*selectedSection_)) : QString();
+}
+
+QString ContentViewModel::selectedSymbolName() const {
+  return selectedSection_ ? QString(symbolName(*selectedSection_)) : QString();
+}
+
+QString ContentViewModel::plannedText() const {
+  return selectedSection_ ? QString(planOf(*selectedSection_)) : QString();
+}
+
+void ContentViewModel::selectIndex(int index) {
+  if (index >= 0 && index < sections_.rowCount()) {
+    select(allAppSections[static_cast<std::size_t>(index)]);
+  }
+}
+
+void ContentViewModel::openPreview(const BrewCommand& command, const QString& sourceScreen) {
+  if (preview_) {
+    return;
+  }
+  preview_ = std::make_unique<CommandPreviewSheetModel>(
+      CommandPreviewContext{appCapabilities_, store_, resolver_, executionStarter_}, command,
+      sourceScreen, [this, command, sourceScreen] { copy(command, sourceScreen); });
+  connect(preview_.get(), &CommandPreviewSheetModel::closed, this, &ContentViewModel::closePreview);
+  quitGuard_.watch(preview_.get());
+  Q_EMIT previewChanged();
+}
+
+void ContentViewModel::closePreview() {
+  CommandPreviewSheetModel* closed = preview_.release();
+  Q_EMIT previewChanged();
+  if (closed->isRunning()) {
+    // A run that was asked to end and does not is left to itself, but its end is still recorded.
+    closed->setParent(this);
+    connect(closed, &CommandPreviewSheetModel::runEnded, closed, &QObject::deleteLater);
+  } else {
+    closed->deleteLater();
+  }
+}
+
+void ContentViewModel::copy(const BrewCommand& command, const QString& sourceScreen) {
+  const PreparedCommandAction action =
+      PreviewOnlyCommandRunner().prepare(command, sourceScreen, QDateTime::currentDateTimeUtc());
+  QClipboard* clipboard = QGuiApplication::clipboard();
+  clipboard->clear();
+  clipboard->setText(action.commandText);
+  store_.appendHistory(action.historyRecord);
+}
+
+}  // namespace quillmere

@@ -1,0 +1,115 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <optional>
+
+#include "app/AppCapabilities.h"
+#include "app/AppSection.h"
+#include "app/AppSectionListModel.h"
+#include "app/QuitGuard.h"
+#include "execution/BrewExecutableResolver.h"
+#include "execution/DirectCommandExecution.h"
+#include "screens/CommandHistoryViewModel.h"
+#include "screens/CommandPreviewSheetModel.h"
+#include "screens/ServicesGuidanceViewModel.h"
+#include "screens/SettingsViewModel.h"
+
+namespace quillmere {
+
+class LocalPersistenceStore;
+
+/// The state of the windows as a whole: the section that is shown and the view models of all
+/// screens. Owned by `QuillmereApp`; UI thread only.
+class ContentViewModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the application")
+  Q_PROPERTY(quillmere::AppSectionListModel* sections READ sections CONSTANT)
+  Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedSectionChanged)
+  Q_PROPERTY(QString selectedSection READ selectedSectionName NOTIFY selectedSectionChanged)
+  Q_PROPERTY(QString selectedTitle READ selectedTitle NOTIFY selectedSectionChanged)
+  Q_PROPERTY(QString selectedSymbolName READ selectedSymbolName NOTIFY selectedSectionChanged)
+  Q_PROPERTY(QString plannedText READ plannedText NOTIFY selectedSectionChanged)
+  Q_PROPERTY(quillmere::ServicesGuidanceViewModel* services READ services CONSTANT)
+  Q_PROPERTY(quillmere::CommandHistoryViewModel* history READ history CONSTANT)
+  Q_PROPERTY(quillmere::SettingsViewModel* settings READ settings CONSTANT)
+  Q_PROPERTY(quillmere::SettingsViewModel* settingsWindow READ settingsWindow CONSTANT)
+  Q_PROPERTY(quillmere::CommandPreviewSheetModel* preview READ preview NOTIFY previewChanged)
+  Q_PROPERTY(quillmere::QuitGuard* quitGuard READ quitGuard CONSTANT)
+
+ public:
+  ContentViewModel(LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
+                   std::shared_ptr<const DirectCommandExecutionStarting> executionStarter,
+                   BrewExecutableResolver resolver = BrewExecutableResolver(),
+                   QObject* parent = nullptr);
+  ~ContentViewModel() override;
+
+  [[nodiscard]] const AppCapabilities& appCapabilities() const { return appCapabilities_; }
+
+  [[nodiscard]] const std::optional<AppSection>& selectedSection() const {
+    return selectedSection_;
+  }
+
+  void select(AppSection section);
+
+  [[nodiscard]] AppSectionListModel* sections() { return &sections_; }
+
+  /// The selected row of the sidebar; -1 for none.
+  [[nodiscard]] int selectedIndex() const;
+  [[nodiscard]] QString selectedSectionName() const;
+  [[nodiscard]] QString selectedTitle() const;
+  [[nodiscard]] QString selectedSymbolName() const;
+  /// What the selected section will do once it is built; empty where it is.
+  [[nodiscard]] QString plannedText() const;
+
+  [[nodiscard]] ServicesGuidanceViewModel* services() { return &services_; }
+
+  [[nodiscard]] CommandHistoryViewModel* history() { return &history_; }
+
+  /// The settings as a section of the main window, and those of the settings window.
+  [[nodiscard]] SettingsViewModel* settings() { return &settings_; }
+
+  [[nodiscard]] SettingsViewModel* settingsWindow() { return &settingsWindow_; }
+
+  /// The command preview that is open; null when none is.
+  [[nodiscard]] CommandPreviewSheetModel* preview() { return preview_.get(); }
+
+  [[nodiscard]] QuitGuard* quitGuard() { return &quitGuard_; }
+
+  /// Selects the section in this row of the sidebar; does nothing for a row that is none.
+  Q_INVOKABLE void selectIndex(int index);
+
+  Q_INVOKABLE void selectServices() { select(AppSection::services); }
+
+  Q_INVOKABLE void selectSettings() { select(AppSection::settings); }
+
+  /// Shows the preview of a command; does nothing while another one is open.
+  void openPreview(const BrewCommand& command, const QString& sourceScreen);
+
+ Q_SIGNALS:
+  void selectedSectionChanged();
+  void previewChanged();
+
+ private:
+  void closePreview();
+  void copy(const BrewCommand& command, const QString& sourceScreen);
+
+  LocalPersistenceStore& store_;
+  AppCapabilities appCapabilities_;
+  std::shared_ptr<const DirectCommandExecutionStarting> executionStarter_;
+  BrewExecutableResolver resolver_;
+  std::optional<AppSection> selectedSection_ = AppSection::dashboard;
+  AppSectionListModel sections_;
+  ServicesGuidanceViewModel services_;
+  CommandHistoryViewModel history_;
+  SettingsViewModel settings_;
+  SettingsViewModel settingsWindow_;
+  QuitGuard quitGuard_;
+  std::unique_ptr<CommandPreviewSheetModel> preview_;
+};
+
+}  // namespace quillmere

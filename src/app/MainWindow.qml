@@ -1,0 +1,95 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls.Basic
+import Quillmere.App
+import Quillmere.Components
+
+ApplicationWindow {
+    id: root
+
+    required property ContentViewModel content
+    required property WindowMemory memory
+
+    width: memory.size.width
+    height: memory.size.height
+    color: Theme.window
+    minimumWidth: 900
+    minimumHeight: 600
+    title: "Quillmere"
+    visibility: memory.maximized ? Window.Maximized : Window.Windowed
+    visible: true
+
+    onClosing: event => {
+        event.accepted = content.quitGuard.mayQuit();
+        if (event.accepted) {
+            memory.remember(Qt.size(width, height), visibility === Window.Maximized);
+            Qt.quit();
+        }
+    }
+
+    ContentView {
+        anchors.fill: parent
+        focus: true
+        viewModel: root.content
+    }
+
+    Pill {
+        anchors.bottom: parent.bottom
+        anchors.horizontalCenter: parent.horizontalCenter
+        anchors.margins: Theme.normal
+        symbolName: "timer"
+        text: root.content.quitGuard.waitingText
+        tint: "orange"
+        visible: text.length > 0
+    }
+
+    Repeater {
+        model: root.content.sections
+
+        delegate: Item {
+            id: section
+
+            required property int index
+
+            Shortcut {
+                sequence: "Ctrl+" + (section.index + 1)
+
+                onActivated: root.content.selectIndex(section.index)
+            }
+        }
+    }
+
+    Shortcut {
+        sequence: "Ctrl+,"
+
+        onActivated: settings.open()
+    }
+
+    Shortcut {
+        sequence: "Ctrl+W"
+
+        onActivated: root.close()
+    }
+
+    // From every window, and while a sheet is open.
+    Shortcut {
+        context: Qt.ApplicationShortcut
+        sequence: "Ctrl+Q"
+
+        onActivated: root.close()
+    }
+
+    QuitAlert {
+        parent: root.contentItem
+        quitGuard: root.content.quitGuard
+
+        onQuitAllowed: root.close()
+    }
+
+    SettingsWindow {
+        id: settings
+
+        viewModel: root.content.settingsWindow
+    }
+}

@@ -1,0 +1,36 @@
+#include "app/WindowMemory.h"
+
+#include <utility>
+
+namespace quillmere {
+namespace {
+
+constexpr QSize firstSize(1120, 760);
+constexpr QSize smallestSize(900, 600);
+
+QString sizeKey() {
+  return QStringLiteral("window/size");
+}
+
+QString maximizedKey() {
+  return QStringLiteral("window/maximized");
+}
+
+}  // namespace
+
+WindowMemory::WindowMemory(std::unique_ptr<QSettings> settings, QObject* parent)
+    : QObject(parent),
+      settings_(std::move(settings)),
+      size_(settings_->value(sizeKey(), firstSize).toSize().expandedTo(smallestSize)),
+      maximized_(settings_->value(maximizedKey(), false).toBool()) {
+}
+
+void WindowMemory::remember(const QSize& size, bool maximized) {
+  if (!maximized) {
+    settings_->setValue(sizeKey(), size);
+  }
+  settings_->setValue(maximizedKey(), maximized);
+  settings_->sync();
+}
+
+}  // namespace quillmere

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QtCore/QObject>
+#include <QtCore/QSettings>
+#include <QtCore/QSize>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+namespace quillmere {
+
+/// How large the main window was when it was last closed. Owned by `QuillmereApp`; UI thread only.
+class WindowMemory : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the application")
+  Q_PROPERTY(QSize size READ size CONSTANT)
+  Q_PROPERTY(bool maximized READ maximized CONSTANT)
+
+ public:
+  /// Keeps its values in the group "window" of `settings`.
+  explicit WindowMemory(std::unique_ptr<QSettings> settings, QObject* parent = nullptr);
+
+  /// As it was when this start began; a comfortable size on the first.
+  [[nodiscard]] QSize size() const { return size_; }
+
+  [[nodiscard]] bool maximized() const { return maximized_; }
+
+  /// For the next start. A maximized window keeps the size that it had before.
+  Q_INVOKABLE void remember(const QSize& size, bool maximized);
+
+ private:
+  std::unique_ptr<QSettings> settings_;
+  QSize size_;
+  bool maximized_ = false;
+};
+
+}  // namespace quillmere

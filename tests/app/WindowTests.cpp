@@ -1,0 +1,171 @@
+// Drives the real window on the offscreen platform: the tst_ files ask, the stage answers.
+
+#include <QtCore/QDirIterator>
+#include <QtCore/QStringList>
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtQml/QQmlApplicationEngine>
+#include <QtQml/QQmlContext>
+#include <QtQuick/QQuickWindow>
+#include <QtQuickTest/quicktest.h>
+
+#include <algorithm>
+#include <memory>
+#include <optional>
+
+#include "app/ContentViewModel.h"
+#include "app/QuillmereApp.h"
+#include "app/WindowMemory.h"
+#include "commands/BrewCommandBuilder.h"
+#include "execution/DirectCommandRunner.h"
+#include "persistence/LocalPersistenceStore.h"
+#include "support/DemoPrefix.h"
+#include "support/FakeBrew.h"
+#include "support/HeldFileSystem.h"
+#include "support/TemporarySettings.h"
+
+namespace {
+
+using namespace quillmere;
+
+/// A world of a test's own: settings, a demo prefix, and the window's view models over them.
+struct World {
+  World() {
+    prefix.withBrew(test::fakeBrewScript()).withAllLocations();
+    disk->released.release();
+  }
+
+  /// An answer that is still waited for must come before the test ends.
+  ~World() { disk->released.release(); }
+
+  test::TemporarySettings settings;
+  test::DemoPrefix prefix;
+  test::DemoPrefix emptyFolder;
+  std::shared_ptr<test::HeldFileSystem> disk = std::make_shared<test::HeldFileSystem>();
+  LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
+  WindowMemory memory{settings.open()};
+  ContentViewModel content{store, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
+                           BrewExecutableResolver(disk)};
+};
+
+/// What the test may ask of the world; reaches QML as `stage`.
+class Stage : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(quillmere::ContentViewModel* content READ content NOTIFY worldChanged)
+  Q_PROPERTY(quillmere::WindowMemory* memory READ memory NOTIFY worldChanged)
+  Q_PROPERTY(QUrl prefix READ prefix NOTIFY worldChanged)
+  Q_PROPERTY(QUrl emptyFolder READ emptyFolder NOTIFY worldChanged)
+
+ public:
+  [[nodiscard]] ContentViewModel* content() { return &world_->content; }
+
+  [[nodiscard]] WindowMemory* memory() { return &world_->memory; }
+
+  [[nodiscard]] QUrl prefix() const { return world_->prefix.url(); }
+
+  [[nodiscard]] QUrl emptyFolder() const { return world_->emptyFolder.url(); }
+
+  Q_INVOKABLE void makeWorld() {
+    world_.emplace();
+    Q_EMIT worldChanged();
+  }
+
+  Q_INVOKABLE void endWorld() { world_.reset(); }
+
+  Q_INVOKABLE void selectPrefix() { world_->store.selectPrefix(prefix()); }
+
+  /// From now on, brew does not end when it is asked to, but only when it is released.
+  Q_INVOKABLE void ignoreRequestsToEnd() {
+    world_->prefix.withBrew(
+        "#!/bin/sh\ntrap '' TERM\ncd \"${0%/*}/..\"\necho '==> Fetching'\n"
+        "while [ -e bin/brew ] && [ ! -e release ]; do sleep 0.05; done\n");
+  }
+
+  /// From now on, the disk does not answer.
+  Q_INVOKABLE void holdDisk() { world_->disk->released.acquire(); }
+
+  Q_INVOKABLE void release() { world_->prefix.withFile(QStringLiteral("release")); }
+
+  Q_INVOKABLE bool hasPrefix() const {
+    return world_->store.selectedHomebrewPrefixPath().has_value();
+  }
+
+  Q_INVOKABLE int historyCount() const {
+    return static_cast<int>(world_->store.commandHistory().size());
+  }
+
+  Q_INVOKABLE void addToHistory() {
+    world_->store.appendHistory(copyRecord(BrewCommandBuilder().cleanup(),
+                                           QStringLiteral("Cleanup"),
+                                           QDateTime::currentDateTimeUtc()));
+  }
+
+  Q_INVOKABLE void previewUninstall() {
+    const BrewCommandTarget wget{BrewCommandTargetKind::formula, QStringLiteral("wget")};
+    world_->content.openPreview(BrewCommandBuilder().uninstall(wget).value(),
+                                QStringLiteral("Installed"));
+  }
+
+  Q_INVOKABLE void previewUpgrade() {
+    world_->content.openPreview(BrewCommandBuilder().upgrade(std::nullopt).value(),
+                                QStringLiteral("Updates"));
+  }
+
+  /// The window of this title that is open; null where there is none.
+  Q_INVOKABLE QWindow* windowNamed(const QString& title) const {
+    const QWindowList windows = QGuiApplication::topLevelWindows();
+    const auto found = std::ranges::find_if(windows, [&title](const QWindow* each) {
+      return each->isVisible() && each->title() == title;
+    });
+    return found == windows.end() ? nullptr : *found;
+  }
+
+  Q_INVOKABLE QSize rememberedSize() { return WindowMemory(world_->settings.open()).size(); }
+
+  Q_INVOKABLE void previewLongInstall() {
+    const BrewCommandTarget target{BrewCommandTargetKind::formula, QString(120, u'w')};
+    world_->content.openPreview(BrewCommandBuilder().install(target).value(),
+                                QStringLiteral("Browse"));
+  }
+
+  Q_INVOKABLE QString clipboard() const { return QGuiApplication::clipboard()->text(); }
+
+  Q_INVOKABLE QStringList qmlFiles() const {
+    QStringList files;
+    QDirIterator all(QStringLiteral(":/qt/qml/Quillmere"), {QStringLiteral("*.qml")}, QDir::Files,
+                     QDirIterator::Subdirectories);
+    while (all.hasNext()) {
+      files += QStringLiteral("qrc") + all.next();
+    }
+    return files;
+  }
+
+ Q_SIGNALS:
+  void worldChanged();
+
+ private:
+  std::optional<World> world_;
+};
+
+/// Prepares the test program as `main` prepares the real one.
+class Setup : public QObject {
+  Q_OBJECT
+
+ public Q_SLOTS:
+
+  void applicationAvailable() { QuillmereApp::prepare(); }
+
+  void qmlEngineAvailable(QQmlEngine* engine) {
+    engine->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine->rootContext()->setContextProperty(QStringLiteral("stage"), &stage_);
+  }
+
+ private:
+  Stage stage_;
+};
+
+}  // namespace
+
+QUICK_TEST_MAIN_WITH_SETUP(window, Setup)
+
+#include "WindowTests.moc"

@@ -1,0 +1,115 @@
+import QtQuick
+
+WindowCase {
+    id: root
+
+    name: "Shell"
+
+    function test_everyFileLoads() {
+        const files = stage.qmlFiles();
+        verify(files.length > 40);
+        for (const file of files) {
+            if (file.endsWith("/Theme.qml"))
+                continue;
+            const component = Qt.createComponent(file);
+            compare(component.errorString(), "", file);
+        }
+    }
+
+    function test_sidebarListsTheNineSectionsInOrder() {
+        const list = named("Sections");
+        const titles = [];
+        for (let i = 0; i < list.count; ++i)
+            titles.push(list.itemAtIndex(i).title);
+        compare(titles, ["Dashboard", "Installed", "Browse", "Updates", "Cleanup", "Services",
+                         "History", "Settings", "About & Legal"]);
+    }
+
+    function test_controlAndANumberSelectsASection_data() {
+        return [
+            {tag: "first", key: Qt.Key_1, section: "dashboard"},
+            {tag: "services", key: Qt.Key_6, section: "services"},
+            {tag: "last", key: Qt.Key_9, section: "aboutLegal"},
+        ];
+    }
+
+    function test_controlAndANumberSelectsASection(data) {
+        stage.content.selectIndex(3);
+        keyClick(data.key, Qt.ControlModifier);
+        compare(stage.content.selectedSection, data.section);
+    }
+
+    function test_arrowKeysMoveTheSelectionAndStopAtTheEnds() {
+        keyClick(Qt.Key_Up);
+        compare(stage.content.selectedSection, "dashboard");
+        keyClick(Qt.Key_Down);
+        keyClick(Qt.Key_Down);
+        compare(stage.content.selectedSection, "browse");
+    }
+
+    function test_aSectionIsSelectedByMouse() {
+        mouseClick(named("History"));
+        compare(stage.content.selectedSection, "history");
+    }
+
+    function test_sectionsThatAreNotBuiltSaySo_data() {
+        return [
+            {tag: "dashboard", index: 0, plan: "An overview of Homebrew on this computer will stand here. Until then, choose your Homebrew prefix in Settings, then look at a command in Services."},
+            {tag: "installed", index: 1, plan: "The packages in your Homebrew prefix will be listed here."},
+            {tag: "browse", index: 2, plan: "The formulae and casks that Homebrew offers will be found here."},
+            {tag: "updates", index: 3, plan: "Packages with a newer version will be listed here."},
+            {tag: "cleanup", index: 4, plan: "Old versions and the size of the download cache will be shown here."},
+            {tag: "about", index: 8, plan: "What Quillmere is, and its licence, will be told here."},
+        ];
+    }
+
+    function test_sectionsThatAreNotBuiltSaySo(data) {
+        stage.content.selectIndex(data.index);
+        shows("This section is not built yet. " + data.plan);
+    }
+
+    function test_theDashboardLeadsToWhatWorks() {
+        press("Open Settings");
+        compare(stage.content.selectedSection, "settings");
+        stage.content.selectIndex(0);
+        press("Open Services");
+        compare(stage.content.selectedSection, "services");
+    }
+
+    function test_sectionsStayWhereTheyAreUnderASheet() {
+        stage.content.selectIndex(5);
+        stage.content.services.previewServicesList();
+        shows("Command Preview");
+        keyClick(Qt.Key_1, Qt.ControlModifier);
+        compare(stage.content.selectedSection, "services");
+    }
+
+    function test_theSettingsWindowOpensAndClosesByKeyboard() {
+        keyClick(Qt.Key_Comma, Qt.ControlModifier);
+        tryVerify(() => stage.windowNamed("Quillmere Settings") !== null);
+        const settings = stage.windowNamed("Quillmere Settings");
+        verify(waitForRendering(settings.contentItem));
+        compare(Qt.size(settings.width, settings.height), Qt.size(704, 688));
+        tryCompare(settings, "active", true);
+        verify(named("Select Homebrew Prefix", settings.contentItem));
+        settings.close();
+        tryCompare(settings, "visible", false);
+        window.requestActivate();
+        tryCompare(window, "active", true);
+        keyClick(Qt.Key_Comma, Qt.ControlModifier);
+        tryCompare(settings, "visible", true);
+        settings.close();
+    }
+
+    function test_theWindowRemembersItsSize() {
+        window.width = 1000;
+        window.height = 700;
+        window.close();
+        compare(stage.rememberedSize(), Qt.size(1000, 700));
+    }
+
+    function test_theSmallestWindowIs900By600() {
+        compare(window.minimumWidth, 900);
+        compare(window.minimumHeight, 600);
+    }
+}
