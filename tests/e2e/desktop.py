@@ -1,0 +1,226 @@
+"""Drives the real window as a person does who works with a screen reader and a keyboard.
+
+Runs a story on a virtual display of its own with a session bus and the accessibility bus:
+    /usr/bin/python3 desktop.py STORY.py ARGUMENTS...
+A story imports this module and asks for what it needs by accessible role and name.
+"""
+
+import os
+import subprocess
+import sys
+import tempfile
+import time
+
+PATIENCE = 30.0
+
+
+class Failed(AssertionError):
+    pass
+
+
+def wait_for(what, question):
+    """The first true answer to `question`, asked until patience ends."""
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        try:
+            answer = question()
+        except Exception as error:  # the tree changes while it is being read
+            if type(error).__name__ not in ("Error", "GError", "LookupError", "RuntimeError"):
+                raise
+            answer = None
+        if answer:
+            return answer
+        time.sleep(0.05)
+    raise Failed(f"waited {PATIENCE:.0f} s in vain for {what}")
+
+
+class Window:
+    """One start of the program, with a home of its own."""
+
+    def __init__(self, program, home, wrapper=()):
+        import pyatspi
+
+        self._atspi = pyatspi
+        environment = dict(
+            os.environ,
+            HOME=home,
+            XDG_CONFIG_HOME=f"{home}/.config",
+            XDG_DATA_HOME=f"{home}/.local/share",
+            XDG_RUNTIME_DIR=home,
+            QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
+            QT_QPA_PLATFORM="xcb",
+            QT_QUICK_BACKEND="software",
+        )
+        if wrapper:  # A traced sanitizer sees no leaks, and the symbolizer that it runs is traced too.
+            for name, option in (("ASAN_OPTIONS", "detect_leaks=0"),
+                                 ("TSAN_OPTIONS", "report_bugs=0")):
+                environment[name] = f"{environment.get(name, '')}:{option}"
+        self.process = subprocess.Popen([*wrapper, program], env=environment)
+        wait_for("the window", lambda: self.find("frame", "Quillmere"))
+        # There is no window manager to hand out the keyboard.
+        subprocess.run(
+            ["xdotool", "search", "--sync", "--onlyvisible", "--name", "^Quillmere$",
+             "windowfocus", "--sync"],
+            check=True, stdout=subprocess.DEVNULL,
+        )
+
+    def _application(self):
+        desktop = self._atspi.Registry.getDesktop(0)
+        for application in desktop:
+            if application and application.name == "Quillmere":
+                return application
+        return None
+
+    def everything(self):
+        """All that is showing, in reading order."""
+
+        def visit(node):
+            if node is None:
+                return
+            states = node.getState()
+            if node.getRoleName() != "application" and not states.contains(
+                self._atspi.STATE_SHOWING
+            ):
+                return
+            yield node
+            for child in node:
+                yield from visit(child)
+
+        application = self._application()
+        return visit(application) if application else iter(())
+
+    def find_all(self, role, name=None, contains=None):
+        return [
+            node
+            for node in self.everything()
+            if node.getRoleName() == role
+            and (name is None or node.name == name)
+            and (contains is None or contains in node.name)
+        ]
+
+    def find(self, role, name=None, contains=None):
+        found = self.find_all(role, name, contains)
+        return found[0] if found else None
+
+    def is_selected(self, role, name):
+        return self.get(role, name).getState().contains(self._atspi.STATE_SELECTED)
+
+    def focused(self):
+        """The roles and names of what has the keyboard, from the outside in."""
+        return [
+            (node.getRoleName(), node.name)
+            for node in self.everything()
+            if node.getState().contains(self._atspi.STATE_FOCUSED)
+        ]
+
+    def has_focus(self, role, name):
+        wait_for(f"the focus on {role} {name!r}", lambda: (role, name) in self.focused())
+
+    def get(self, role, name=None, contains=None):
+        return wait_for(
+            f"{role} {name or contains!r}", lambda: self.find(role, name, contains)
+        )
+
+    def gone(self, role, name=None, contains=None):
+        wait_for(
+            f"{role} {name or contains!r} to go", lambda: not self.find(role, name, contains)
+        )
+
+    def press(self, role, name):
+        """Uses what a screen reader would use: the press action of the control of this name."""
+        node = self.get(role, name)
+        actions = node.queryAction()
+        names = [actions.getName(i) for i in range(actions.nActions)]
+        if "Press" not in names:
+            raise Failed(f"{role} {name!r} cannot be pressed: {names}")
+        actions.doAction(names.index("Press"))
+
+    def click(self, role, name):
+        """Uses the pointer, for controls that are not ours and offer no press action."""
+        box = self.get(role, name).queryComponent().getExtents(self._atspi.DESKTOP_COORDS)
+        subprocess.run(
+            ["xdotool", "mousemove", str(box.x + box.width // 2), str(box.y + box.height // 2),
+             "click", "1"],
+            check=True,
+        )
+
+    def text_of(self, role, name=None, contains=None):
+        node = self.get(role, name, contains)
+        return node.queryText().getText(0, -1)
+
+    def key(self, combination):
+        subprocess.run(["xdotool", "key", "--clearmodifiers", combination], check=True)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--delay", "5", text], check=True)
+
+    def clipboard(self):
+        """What was copied last; empty while nobody has copied anything."""
+        return subprocess.run(
+            ["xclip", "-selection", "clipboard", "-o"],
+            check=False, capture_output=True, text=True, timeout=PATIENCE,
+        ).stdout
+
+    def picture(self, file):
+        subprocess.run(["import", "-window", "root", file], check=True)
+
+    def tree(self):
+        """The tree as text, for people who look into a failure."""
+        return "\n".join(
+            f"{node.getRoleName()} | {node.name!r} | {node.description!r}"
+            for node in self.everything()
+        )
+
+    def quit(self):
+        self.key("ctrl+q")
+        # A sanitizer that found something says so here, like any crash on the way out.
+        status = self.process.wait(PATIENCE)
+        expect(status == 0, f"the program ended with {status}")
+
+
+def _run_on_a_desktop(story):
+    reading, writing = os.pipe()
+    # Without -noreset the server starts anew whenever its last client goes, and whoever connects
+    # meanwhile is turned away.
+    server = subprocess.Popen(
+        ["Xvfb", "-displayfd", str(writing), "-noreset", "-screen", "0", "1700x1100x24",
+         "-nolisten", "tcp"],
+        pass_fds=[writing], stderr=subprocess.DEVNULL,
+    )
+    os.close(writing)
+    try:
+        display = os.read(reading, 16).decode().strip()
+        environment = dict(os.environ, DISPLAY=f":{display}", NO_AT_BRIDGE="0")
+        environment.pop("WAYLAND_DISPLAY", None)
+        environment.pop("DBUS_SESSION_BUS_ADDRESS", None)
+        script = (
+            "/usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &\n"
+            'exec "$0" "$@"'
+        )
+        return subprocess.run(
+            ["dbus-run-session", "--", "bash", "-c", script, sys.executable, *story],
+            env=environment,
+        ).returncode
+    finally:
+        server.terminate()
+        server.wait()
+
+
+def expect(condition, what):
+    if not condition:
+        raise Failed(what)
+
+
+def remember_prefix(home, prefix):
+    """The prefix as an earlier start of the program would have remembered it."""
+    os.makedirs(f"{home}/.config/Quillmere")
+    with open(f"{home}/.config/Quillmere/Quillmere.conf", "w", encoding="utf-8") as settings:
+        settings.write(f"[General]\nselectedHomebrewPrefixPath={prefix}\n")
+
+
+def temporary_home():
+    return tempfile.TemporaryDirectory(prefix="quillmere-e2e-")
+
+
+if __name__ == "__main__":
+    sys.exit(_run_on_a_desktop(sys.argv[1:]))
