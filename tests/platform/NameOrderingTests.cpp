@@ -65,8 +65,8 @@ TEST(NameOrdering, OfTheUserOrdersNumbersByValueAndIgnoresCase) {
 }
 
 TEST(NameOrdering, FollowsTheLanguage) {
-  const NameOrdering german(QLocale(QLocale::German));
-  const NameOrdering swedish(QLocale(QLocale::Swedish));
+  const NameOrdering german{QLocale(QLocale::German)};
+  const NameOrdering swedish{QLocale(QLocale::Swedish)};
   EXPECT_LT(german.compare(u"\u00e4", u"z"), 0);
   EXPECT_GT(swedish.compare(u"\u00e4", u"z"), 0);
 }
