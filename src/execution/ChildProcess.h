@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "execution/BrewEnvironment.h"
-#include "execution/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 
 namespace quillmere {
 

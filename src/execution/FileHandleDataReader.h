@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "execution/FileDescriptor.h"
+#include "platform/FileDescriptor.h"
 #include "platform/Utf8Decoder.h"
 
 namespace quillmere {

@@ -3,23 +3,18 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 
-#include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
-#include <sys/stat.h>
 #include <system_error>
+#include <utility>
 
 #include "platform/FileUrl.h"
+#include "platform/RegularFile.h"
 
 namespace quillmere {
 namespace {
 
 FileSystemError errorOf(const std::error_code& code) {
   return {QString::fromStdString(code.message())};
-}
-
-FileSystemError errorOf(int number) {
-  return errorOf(std::error_code(number, std::generic_category()));
 }
 
 class PlatformFileSystem final : public HomebrewPrefixFileSystem {
@@ -46,28 +41,11 @@ class PlatformFileSystem final : public HomebrewPrefixFileSystem {
   }
 
   std::expected<QByteArray, FileSystemError> readData(const QUrl& url) const override {
-    // Opening a pipe would wait for its other end, and opening some devices acts on them.
-    const int descriptor = open(QFile::encodeName(filePath(url)).constData(),
-                                O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (descriptor < 0) {
-      return std::unexpected(errorOf(errno));
+    auto data = readRegularFile(filePath(url));
+    if (!data) {
+      return std::unexpected(FileSystemError{std::move(data).error()});
     }
-    QFile file;
-    if (!file.open(descriptor, QFile::ReadOnly, QFile::AutoCloseHandle)) {
-      return std::unexpected(FileSystemError{file.errorString()});
-    }
-    struct stat status = {};
-    if (fstat(descriptor, &status) != 0) {
-      return std::unexpected(errorOf(errno));
-    }
-    if (!S_ISREG(status.st_mode)) {
-      return std::unexpected(errorOf(S_ISDIR(status.st_mode) ? EISDIR : EINVAL));
-    }
-    QByteArray data = file.readAll();
-    if (file.error() != QFile::NoError) {
-      return std::unexpected(FileSystemError{file.errorString()});
-    }
-    return data;
+    return *std::move(data);
   }
 };
 

@@ -8,6 +8,7 @@
 
 #include "execution/DirectCommandDiagnosticLogger.h"
 #include "persistence/LocalPersistenceStore.h"
+#include "platform/BackgroundThreads.h"
 
 using namespace Qt::StringLiterals;
 
@@ -198,6 +199,7 @@ QCoro::Task<> CommandPreviewSheetModel::resolveAndStart() {
   // A future of its own: g++ 12 destroys the captures of a lambda that stands inside a co_await
   // twice.
   const QFuture<BrewExecutableResolution> resolving = QtConcurrent::run(
+      backgroundThreads(),
       [resolver = context_.resolver, prefix = context_.store.resolvedPrefixURL()] {
         return resolver.resolve(prefix);
       });

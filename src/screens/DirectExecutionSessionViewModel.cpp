@@ -10,6 +10,7 @@
 #include <chrono>
 #include <utility>
 
+#include "platform/BackgroundThreads.h"
 #include "platform/DateTexts.h"
 
 using namespace Qt::StringLiterals;
@@ -208,6 +209,7 @@ auto DirectExecutionSessionViewModel::startReading() -> QFuture<std::shared_ptr<
   const auto first = chunks.begin() + static_cast<std::ptrdiff_t>(chunksRead_);
   chunksRead_ = chunks.size();
   return QtConcurrent::run(
+      backgroundThreads(),
       [reading = Reading{transcript_,
                          {first, chunks.end()},
                          controller_.status(),

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "persistence/LocalPersistenceStore.h"
+#include "platform/BackgroundThreads.h"
 #include "platform/FileUrl.h"
 #include "prefix/HomebrewPrefixStartFolder.h"
 
@@ -81,7 +82,8 @@ void HomebrewPrefixSelectionViewModel::reset() {
 QCoro::Task<> HomebrewPrefixSelectionViewModel::look(QUrl folder, Purpose purpose) {
   const int request = ++request_;
   const QPointer<HomebrewPrefixSelectionViewModel> self(this);
-  const QFuture<HomebrewPrefixProbeSummary> probing = QtConcurrent::run(probe_, folder);
+  const QFuture<HomebrewPrefixProbeSummary> probing =
+      QtConcurrent::run(backgroundThreads(), probe_, folder);
   const HomebrewPrefixProbeSummary summary = co_await probing;
   if (!self || request != request_) {
     co_return;

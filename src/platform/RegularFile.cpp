@@ -1,0 +1,63 @@
+#include "platform/RegularFile.h"
+
+#include <QtCore/QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include "platform/FileDescriptor.h"
+
+namespace quillmere {
+namespace {
+
+std::unexpected<QString> failure(int number) {
+  const std::error_code code(number, std::generic_category());
+  return std::unexpected(QString::fromStdString(code.message()));
+}
+
+/// Reads until the end of the file, which may lie elsewhere than its `size` said.
+std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype size) {
+  constexpr qsizetype least = 4096;
+  QByteArray data;
+  data.reserve(size + readAheadPadding);
+  qsizetype length = 0;
+  // Room for one byte more than was promised shows whether that was all.
+  for (qsizetype room = size + 1;;) {
+    data.resize(room);
+    const ssize_t count =
+        read(file.get(), data.data() + length, static_cast<std::size_t>(room - length));
+    if (count < 0 && errno != EINTR) {
+      return failure(errno);
+    }
+    length += std::max(count, ssize_t{0});
+    if (count == 0 || (count > 0 && length == size)) {
+      data.resize(length);
+      return data;
+    }
+    if (length == room) {
+      room = std::max(least, 2 * room);
+    }
+  }
+}
+
+}  // namespace
+
+std::expected<QByteArray, QString> readRegularFile(const QString& path) {
+  // Opening a pipe would wait for its other end, and opening some devices acts on them.
+  const FileDescriptor file(
+      open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  struct stat status = {};
+  if (!file.isOpen() || fstat(file.get(), &status) != 0) {
+    return failure(errno);
+  }
+  if (!S_ISREG(status.st_mode)) {
+    return failure(S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
+  }
+  return readAll(file, status.st_size);
+}
+
+}  // namespace quillmere
