@@ -5,19 +5,19 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <future>
 #include <malloc.h>
 #include <random>
 #include <simdjson.h>
 
 #include "catalog/CatalogDecoding.h"
-#include "catalog/HomebrewPackageSummary.h"
+#include "catalog/PackageCatalogFilter.h"
 #include "platform/NameOrdering.h"
+#include "platform/RegularFile.h"
 #include "support/GeneratedCatalog.h"
 
 namespace quillmere {
 namespace {
-
-using Summaries = std::vector<HomebrewPackageSummary>;
 
 struct Documents {
   QByteArray formulae;
@@ -33,7 +33,10 @@ QByteArray realDocument(const QString& name) {
   QProcess xz;
   xz.start(QStringLiteral("xz"), {QStringLiteral("--decompress"), QStringLiteral("--stdout"),
                                   folder + u'/' + name + QStringLiteral(".json.xz")});
-  return xz.waitForFinished() ? xz.readAllStandardOutput() : QByteArray();
+  QByteArray document = xz.waitForFinished() ? xz.readAllStandardOutput() : QByteArray();
+  // As it comes out of the cache.
+  document.reserve(document.size() + readAheadPadding);
+  return document;
 }
 
 const Documents& realDocuments() {
@@ -61,12 +64,10 @@ void onRealDocuments(benchmark::State& state, const Task& task) {
   state.SetBytesProcessed(state.iterations() * documents.size());
 }
 
-Summaries summariesOf(const Documents& documents) {
-  Summaries summaries = packageSummaries(decodeFormulae(documents.formulae).value());
-  for (HomebrewPackageSummary& cask : packageSummaries(decodeCasks(documents.casks).value())) {
-    summaries.push_back(std::move(cask));
-  }
-  return summaries;
+PackageCatalog catalogOf(const Documents& documents) {
+  auto formulae = std::async(std::launch::async, &formulaCatalog, documents.formulae);
+  PackageCatalog casks = caskCatalog(documents.casks).value();
+  return PackageCatalog::joined(formulae.get().value(), std::move(casks));
 }
 
 /// The floor: the same bytes parsed, nothing kept.
@@ -76,12 +77,13 @@ void parse(const QByteArray& document) {
       parser.parse(document.constData(), static_cast<std::size_t>(document.size())).error());
 }
 
-void decodeBothToSummaries(benchmark::State& state) {
+/// As the program does it: side by side, to summaries with their search index.
+void decodeBothToCatalog(benchmark::State& state) {
   onRealDocuments(
-      state, [](const Documents& documents) { benchmark::DoNotOptimize(summariesOf(documents)); });
+      state, [](const Documents& documents) { benchmark::DoNotOptimize(catalogOf(documents)); });
 }
 
-BENCHMARK(decodeBothToSummaries)->Unit(benchmark::kMillisecond);
+BENCHMARK(decodeBothToCatalog)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void parseBothWithSimdjsonDom(benchmark::State& state) {
   onRealDocuments(state, [](const Documents& documents) {
@@ -112,7 +114,7 @@ void onGeneratedCatalog(benchmark::State& state) {
 }
 
 void decodeGenerated(const Documents& documents) {
-  benchmark::DoNotOptimize(summariesOf(documents));
+  benchmark::DoNotOptimize(catalogOf(documents));
 }
 
 void parseGenerated(const Documents& documents) {
@@ -124,7 +126,8 @@ BENCHMARK(onGeneratedCatalog<decodeGenerated>)
     ->Arg(1)
     ->Arg(3)
     ->Arg(10)
-    ->Unit(benchmark::kMillisecond);
+    ->Unit(benchmark::kMillisecond)
+    ->UseRealTime();
 BENCHMARK(onGeneratedCatalog<parseGenerated>)
     ->Arg(1)
     ->Arg(3)
@@ -154,15 +157,15 @@ double allocated() {
 }
 
 /// Not a time: the counters say what the kept catalog takes, beside the bytes of its texts.
-void keepSummaries(benchmark::State& state) {
+void keepCatalog(benchmark::State& state) {
   double kept = 0;
   std::size_t texts = 0;
   onRealDocuments(state, [&](const Documents& documents) {
     const double before = allocated();
-    const Summaries summaries = summariesOf(documents);
+    const PackageCatalog catalog = catalogOf(documents);
     kept = allocated() - before;
     texts = 0;
-    for (const HomebrewPackageSummary& row : summaries) {
+    for (const HomebrewPackageSummary& row : catalog.packages()) {
       texts += textSize(row);
     }
   });
@@ -171,7 +174,7 @@ void keepSummaries(benchmark::State& state) {
   state.counters["ratio"] = texts == 0 ? 0 : kept / static_cast<double>(texts);
 }
 
-BENCHMARK(keepSummaries)->Unit(benchmark::kMillisecond);
+BENCHMARK(keepCatalog)->Unit(benchmark::kMillisecond);
 
 /// As folders are listed, in the order of their characters: formulae, then casks.
 std::vector<QString> listedNames() {
@@ -217,6 +220,85 @@ void makeSortKeys(benchmark::State& state) {
 }
 
 BENCHMARK(makeSortKeys)->Unit(benchmark::kMillisecond);
+
+/// The catalog that searches are measured on: the real one, or as many generated packages.
+const PackageCatalog& searchedCatalog() {
+  static const PackageCatalog catalog = [] {
+    const Documents& real = realDocuments();
+    return catalogOf(real.formulae.isEmpty() || real.casks.isEmpty() ? generatedDocuments(1)
+                                                                     : real);
+  }();
+  return catalog;
+}
+
+void search(benchmark::State& state, const char* text, PackageCatalogFilter filter) {
+  const PackageCatalog& catalog = searchedCatalog();
+  const auto request = FilterRequest::make(QString::fromLatin1(text), filter, catalog);
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(filteredPackages(catalog, request));
+  }
+}
+
+BENCHMARK_CAPTURE(search, nothing, "no such package", PackageCatalogFilter::all)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(search, broad, "lib", PackageCatalogFilter::all)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(search, oneLetter, "e", PackageCatalogFilter::all)->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(search, caskWord, "cask", PackageCatalogFilter::casks)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(search, wrongKind, "formula", PackageCatalogFilter::casks)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(search, typeOnly, "", PackageCatalogFilter::casks)->Unit(benchmark::kMicrosecond);
+
+/// The floor of the searches: one look through the same folded text.
+void lookThroughText(benchmark::State& state) {
+  const std::string_view text = searchedCatalog().searchIndex().text();
+  const std::string_view query = "no such package";
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(memmem(text.data(), text.size(), query.data(), query.size()));
+  }
+  state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
+}
+
+BENCHMARK(lookThroughText)->Unit(benchmark::kMicrosecond);
+
+/// The formula that most others depend on.
+const HomebrewPackageSummary& mostUsedFormula() {
+  static const HomebrewPackageSummary* const mostUsed = [] {
+    const PackageCatalog& catalog = searchedCatalog();
+    return &*std::ranges::max_element(catalog.packages(), {}, [&catalog](const auto& package) {
+      const auto names = catalog.reverseDependencyNames(package);
+      return names ? names->size() : 0;
+    });
+  }();
+  return *mostUsed;
+}
+
+void nameReverseDependencies(benchmark::State& state) {
+  const HomebrewPackageSummary& formula = mostUsedFormula();
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(searchedCatalog().reverseDependencyNames(formula));
+  }
+  state.counters["dependants"] =
+      static_cast<double>(searchedCatalog().reverseDependencyNames(formula)->size());
+}
+
+BENCHMARK(nameReverseDependencies)->Unit(benchmark::kMicrosecond);
+
+/// The floor: one pass over all dependencies.
+void passOverDependencies(benchmark::State& state) {
+  const std::string_view name = mostUsedFormula().name.view();
+  for (auto _ : state) {
+    std::size_t count = 0;
+    for (const HomebrewPackageSummary& package : searchedCatalog().packages()) {
+      for (const SharedText& item : package.detailItems) {
+        count += item == name ? 1 : 0;
+      }
+    }
+    benchmark::DoNotOptimize(count);
+  }
+}
+
+BENCHMARK(passOverDependencies)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace quillmere

@@ -4,6 +4,7 @@
 
 #include "catalog/CatalogDecoding.h"
 #include "catalog/HomebrewPackageSummary.h"
+#include "platform/RegularFile.h"
 
 namespace quillmere {
 
@@ -11,6 +12,15 @@ inline void require(bool condition) {
   if (!condition) {
     std::abort();
   }
+}
+
+/// As they come out of a file or a download, with room behind them or without.
+inline QByteArray bytesOf(const unsigned char* data, std::size_t size) {
+  QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+  if (size % 2 == 0) {
+    bytes.reserve(bytes.size() + readAheadPadding);
+  }
+  return bytes;
 }
 
 /// Whatever a server sends, reading it gives records whose texts are whole characters, or one

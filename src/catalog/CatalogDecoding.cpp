@@ -8,6 +8,7 @@
 #include "catalog/FlexibleLicense.h"
 #include "catalog/FlexibleStringArray.h"
 #include "catalog/RecordFields.h"
+#include "platform/RegularFile.h"
 
 namespace quillmere {
 namespace {
@@ -164,15 +165,19 @@ std::expected<std::vector<Record>, CatalogDecodingError> decodeRecords(
 }
 
 template <typename Record>
-std::expected<std::vector<Record>, CatalogDecodingError> decodeDocument(QByteArrayView document) {
+std::expected<std::vector<Record>, CatalogDecodingError> decodeDocument(
+    const QByteArray& document) {
   const auto failure = [](const QString& problem) {
     return std::unexpected(
         CatalogDecodingError{.document = RecordKind<Record>::document, .problem = problem});
   };
+  static_assert(readAheadPadding >= qsizetype{simdjson::SIMDJSON_PADDING});
+  const bool isPadded = QByteArray(document).data_ptr().freeSpaceAtEnd() >= readAheadPadding;
   simdjson::dom::parser parser;
   simdjson::dom::element root;
   const auto error =
-      parser.parse(document.data(), static_cast<std::size_t>(document.size())).get(root);
+      parser.parse(document.constData(), static_cast<std::size_t>(document.size()), !isPadded)
+          .get(root);
   if (error != simdjson::SUCCESS) {
     return failure(problemOf(error));
   }
@@ -201,12 +206,12 @@ std::vector<Record> firstOfEachName(std::vector<Record>&& records) {
 }  // namespace
 
 std::expected<std::vector<HomebrewFormula>, CatalogDecodingError> decodeFormulae(
-    QByteArrayView document) {
+    const QByteArray& document) {
   return decodeDocument<HomebrewFormula>(document);
 }
 
 std::expected<std::vector<HomebrewCask>, CatalogDecodingError> decodeCasks(
-    QByteArrayView document) {
+    const QByteArray& document) {
   return decodeDocument<HomebrewCask>(document);
 }
 

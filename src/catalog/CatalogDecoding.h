@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtCore/QByteArrayView>
+#include <QtCore/QByteArray>
 
 #include <expected>
 #include <vector>
@@ -17,11 +17,12 @@ namespace quillmere {
 /// has.
 ///
 /// A document of thirty megabytes takes some fifty milliseconds and a hundred megabytes, which
-/// are given back, so call these off the UI thread; they are pure and run side by side.
+/// are given back, so call these off the UI thread; they are pure and run side by side. A document
+/// that has `readAheadPadding` of capacity behind it is not copied first.
 [[nodiscard]] std::expected<std::vector<HomebrewFormula>, CatalogDecodingError> decodeFormulae(
-    QByteArrayView document);
+    const QByteArray& document);
 [[nodiscard]] std::expected<std::vector<HomebrewCask>, CatalogDecodingError> decodeCasks(
-    QByteArrayView document);
+    const QByteArray& document);
 
 /// The records without those whose name, or token, an earlier one has.
 [[nodiscard]] std::vector<HomebrewFormula> withoutDuplicates(std::vector<HomebrewFormula> formulae);

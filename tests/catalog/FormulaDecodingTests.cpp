@@ -5,6 +5,7 @@
 
 #include "CatalogPrinters.h"
 #include "catalog/CatalogDecoding.h"
+#include "platform/RegularFile.h"
 
 namespace quillmere {
 namespace {
@@ -141,8 +142,16 @@ TEST(FormulaDecoding, ReadsTheSameWhereverTheDocumentLies) {
   const QByteArray document = R"([{"name": "wget", "versions": {}}])";
   const auto whole = decodeFormulae(document);
   const QByteArray within = "xx" + document + "\"]}";
-  const auto part = decodeFormulae(QByteArrayView(within).sliced(2, document.size()));
+  const auto part =
+      decodeFormulae(QByteArray::fromRawData(within.constData() + 2, document.size()));
   EXPECT_EQ(whole.value(), part.value());
+  QByteArray padded = document;
+  padded.reserve(document.size() + readAheadPadding);
+  EXPECT_EQ(whole.value(), decodeFormulae(padded).value());
+  // What was cut off in front is no room behind.
+  QByteArray shifted = QByteArray(readAheadPadding, ' ') + document;
+  shifted.remove(0, readAheadPadding);
+  EXPECT_EQ(whole.value(), decodeFormulae(shifted).value());
 }
 
 TEST(FormulaDecoding, GivesRecordsThatGoIntoASet) {

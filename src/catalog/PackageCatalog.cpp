@@ -1,0 +1,63 @@
+#include "catalog/PackageCatalog.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "catalog/CatalogDecoding.h"
+
+namespace quillmere {
+namespace {
+
+template <typename Records>
+std::expected<PackageCatalog, CatalogDecodingError> catalogOf(
+    std::expected<Records, CatalogDecodingError> records) {
+  if (!records) {
+    return std::unexpected(std::move(records).error());
+  }
+  return PackageCatalog(packageSummaries(*std::move(records)));
+}
+
+}  // namespace
+
+PackageCatalog::PackageCatalog(std::vector<HomebrewPackageSummary> packages)
+    : packages_(std::move(packages)), searchIndex_(packages_), reverseDependencies_(packages_) {
+}
+
+PackageCatalog PackageCatalog::joined(PackageCatalog formulae, PackageCatalog casks) {
+  // The dependants' positions stay right, because the formulae stay where they are and casks
+  // depend on nothing.
+  formulae.packages_.reserve(formulae.packages_.size() + casks.packages_.size());
+  std::ranges::move(casks.packages_, std::back_inserter(formulae.packages_));
+  formulae.searchIndex_.append(casks.searchIndex_);
+  return formulae;
+}
+
+std::optional<std::vector<SharedText>> PackageCatalog::reverseDependencyNames(
+    const HomebrewPackageSummary& package) const {
+  if (package.kind != HomebrewPackageSummary::Kind::formula) {
+    return std::nullopt;
+  }
+  std::vector<SharedText> names;
+  for (const std::uint32_t position : reverseDependencies_.dependantsOf(package.name.view())) {
+    const SharedText& name = packages_[position].name;
+    if (name != package.name) {
+      names.push_back(name);
+    }
+  }
+  // Documents are sorted already, as a rule.
+  if (!std::ranges::is_sorted(names, {}, &SharedText::view)) {
+    std::ranges::sort(names, {}, &SharedText::view);
+  }
+  return names;
+}
+
+std::expected<PackageCatalog, CatalogDecodingError> formulaCatalog(const QByteArray& document) {
+  return catalogOf(decodeFormulae(document));
+}
+
+std::expected<PackageCatalog, CatalogDecodingError> caskCatalog(const QByteArray& document) {
+  return catalogOf(decodeCasks(document));
+}
+
+}  // namespace quillmere

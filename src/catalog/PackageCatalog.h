@@ -1,0 +1,63 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+
+#include <expected>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "catalog/CatalogDecodingError.h"
+#include "catalog/HomebrewPackageSummary.h"
+#include "catalog/PackageSearchIndex.h"
+#include "catalog/ReverseDependencies.h"
+
+namespace quillmere {
+
+/// The catalog in memory: its rows in the order of the documents, with what makes searching them
+/// and asking for dependants instant. Made whole, off the UI thread; immutable afterwards and
+/// shared by all that show it.
+class PackageCatalog {
+ public:
+  PackageCatalog() = default;
+  /// Takes the rows and makes the indices, in some ten milliseconds for the real catalog.
+  explicit PackageCatalog(std::vector<HomebrewPackageSummary> packages);
+  PackageCatalog(PackageCatalog&&) noexcept = default;
+  PackageCatalog& operator=(PackageCatalog&&) noexcept = default;
+  // The index refers to texts of the rows, which a copy would share: there is just no need for one.
+  PackageCatalog(const PackageCatalog&) = delete;
+  PackageCatalog& operator=(const PackageCatalog&) = delete;
+  ~PackageCatalog() = default;
+
+  /// The catalogs of the two documents, which are decoded side by side, as one: all formulae, then
+  /// all casks.
+  [[nodiscard]] static PackageCatalog joined(PackageCatalog formulae, PackageCatalog casks);
+
+  [[nodiscard]] const std::vector<HomebrewPackageSummary>& packages() const { return packages_; }
+
+  [[nodiscard]] const PackageSearchIndex& searchIndex() const { return searchIndex_; }
+
+  /// The names of the formulae that depend on `package`, in the order of their characters and
+  /// without its own; absent for a cask, on which nothing is known to depend.
+  [[nodiscard]] std::optional<std::vector<SharedText>> reverseDependencyNames(
+      const HomebrewPackageSummary& package) const;
+
+  friend bool operator==(const PackageCatalog& left, const PackageCatalog& right) {
+    return left.packages_ == right.packages_;
+  }
+
+ private:
+  std::vector<HomebrewPackageSummary> packages_;
+  PackageSearchIndex searchIndex_;
+  ReverseDependencies reverseDependencies_;
+};
+
+using PackageCatalogSnapshot = std::shared_ptr<const PackageCatalog>;
+
+/// The catalog of one document. Slow, as decoding is; any thread.
+[[nodiscard]] std::expected<PackageCatalog, CatalogDecodingError> formulaCatalog(
+    const QByteArray& document);
+[[nodiscard]] std::expected<PackageCatalog, CatalogDecodingError> caskCatalog(
+    const QByteArray& document);
+
+}  // namespace quillmere

@@ -1,0 +1,94 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "CatalogPrinters.h"
+#include "Packages.h"
+#include "catalog/PackageCatalogFilter.h"
+#include "catalog/PackageCatalogState.h"
+
+namespace quillmere {
+namespace {
+
+using test::cask;
+using test::formula;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+
+TEST(PackageCatalog, NamesTheFormulaeThatDependOnOne) {
+  const PackageCatalog catalog({formula("wget", {"openssl", "zlib"}), formula("zlib"),
+                                formula("curl", {"zlib"}), formula("Bison", {"zlib"})});
+  EXPECT_THAT(catalog.reverseDependencyNames(catalog.packages()[1]),
+              Optional(ElementsAre("Bison", "curl", "wget")));
+}
+
+TEST(PackageCatalog, KnowsThatNothingDependsOnAFormula) {
+  const PackageCatalog catalog({formula("wget", {"zlib"})});
+  EXPECT_THAT(catalog.reverseDependencyNames(catalog.packages()[0]), Optional(IsEmpty()));
+  EXPECT_THAT(catalog.reverseDependencyNames(formula("elsewhere")), Optional(IsEmpty()));
+}
+
+TEST(PackageCatalog, KnowsNoDependantsOfACask) {
+  HomebrewPackageSummary app = cask("app");
+  app.detailItems.emplace_back("zlib");
+  const PackageCatalog catalog({formula("wget", {"app"}), app, formula("zlib")});
+  EXPECT_EQ(catalog.reverseDependencyNames(app), std::nullopt);
+  EXPECT_THAT(catalog.reverseDependencyNames(formula("zlib")), Optional(IsEmpty()));
+}
+
+TEST(PackageCatalog, DoesNotNameAFormulaThatDependsOnItself) {
+  const PackageCatalog catalog({formula("self", {"self"}), formula("other", {"self"})});
+  EXPECT_THAT(catalog.reverseDependencyNames(formula("self")), Optional(ElementsAre("other")));
+}
+
+TEST(PackageCatalog, TakesNamesThatDifferInCaseForDifferentPackages) {
+  const PackageCatalog catalog({formula("a", {"Zlib"}), formula("b", {"zlib"})});
+  EXPECT_THAT(catalog.reverseDependencyNames(formula("zlib")), Optional(ElementsAre("b")));
+}
+
+TEST(PackageCatalog, NamesADependantOnceThatListsAFormulaTwice) {
+  const PackageCatalog catalog({formula("a", {"zlib", "zlib"})});
+  EXPECT_THAT(catalog.reverseDependencyNames(formula("zlib")), Optional(ElementsAre("a")));
+}
+
+TEST(PackageCatalog, OfBothDocumentsHasFormulaeBeforeCasks) {
+  PackageCatalog formulae =
+      formulaCatalog(R"([{"name": "wget", "versions": {}, "dependencies": ["zlib"]},
+                         {"name": "zlib", "versions": {}}])")
+          .value();
+  PackageCatalog casks = caskCatalog(R"([{"token": "firefox"}, {"token": "zlib"}])").value();
+  const PackageCatalog both = PackageCatalog::joined(std::move(formulae), std::move(casks));
+  std::vector<SharedText> ids;
+  for (const HomebrewPackageSummary& package : both.packages()) {
+    ids.push_back(package.id);
+  }
+  EXPECT_THAT(ids, ElementsAre("formula:wget", "formula:zlib", "cask:firefox", "cask:zlib"));
+  EXPECT_THAT(both.reverseDependencyNames(both.packages()[1]), Optional(ElementsAre("wget")));
+  const auto search = [&both](QStringView text) {
+    return filteredPackages(both, FilterRequest::make(text, PackageCatalogFilter::all, both))
+        .visiblePackages;
+  };
+  EXPECT_THAT(search(u"zlib"), ElementsAre(0, 1, 3));
+  EXPECT_THAT(search(u"fire"), ElementsAre(2));
+  EXPECT_THAT(search(u"cask"), ElementsAre(2, 3));
+}
+
+TEST(PackageCatalog, PassesOnWhatIsWrongWithADocument) {
+  EXPECT_EQ(formulaCatalog("[{}]").error().document, CatalogDecodingError::Document::formulae);
+  EXPECT_EQ(caskCatalog("<html>").error().document, CatalogDecodingError::Document::casks);
+}
+
+TEST(PackageCatalogState, IsComparedByWhatItShows) {
+  const auto loaded = [](std::string_view name) {
+    return PackageCatalogState(CatalogLoaded{std::make_shared<const PackageCatalog>(
+        std::vector<HomebrewPackageSummary>{formula(name)})});
+  };
+  EXPECT_EQ(PackageCatalogState(), PackageCatalogState(CatalogIdle{}));
+  EXPECT_EQ(loaded("a"), loaded("a"));
+  EXPECT_NE(loaded("a"), loaded("b"));
+  EXPECT_NE(PackageCatalogState(CatalogLoading{QStringLiteral("a")}),
+            PackageCatalogState(CatalogFailed{QStringLiteral("a")}));
+}
+
+}  // namespace
+}  // namespace quillmere
