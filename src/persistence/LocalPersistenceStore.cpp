@@ -1,8 +1,11 @@
 #include "persistence/LocalPersistenceStore.h"
 
+#include <QCoroFuture>
+#include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
+#include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
 
 #include <utility>
@@ -78,6 +81,13 @@ bool isReadableFile(const QString& path) {
   return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
 }
 
+/// A document that could not be written is downloaded again: there is nothing to tell anybody.
+void replaceCacheFile(const QString& path, const QByteArray& document) {
+  if (QDir().mkpath(QFileInfo(path).path())) {
+    (void)replaceFile(path, document);
+  }
+}
+
 }  // namespace
 
 LocalPersistenceStore::LocalPersistenceStore(
@@ -87,6 +97,7 @@ LocalPersistenceStore::LocalPersistenceStore(
       defaults_(std::move(defaults)),
       cacheDirectoryURL_(std::move(cacheDirectoryURL)),
       bookmarks_(std::move(bookmarks)) {
+  cacheWriter_.setMaxThreadCount(1);
   // What the user has reset must not come back out of settings of the whole machine.
   defaults_->setFallbacksEnabled(false);
   load();
@@ -184,37 +195,55 @@ QUrl LocalPersistenceStore::caskCacheURL() const {
   return appendingPath(cacheDirectoryURL_, u"cask.json");
 }
 
-void LocalPersistenceStore::saveFormulaCatalog(const QByteArray& document,
-                                               const QDateTime& refreshedAt) {
-  saveCatalog(document, formulaCacheURL(), refreshedAt);
+bool LocalPersistenceStore::hasCachedFormulaCatalog() const {
+  return QFile::exists(filePath(formulaCacheURL()));
 }
 
-void LocalPersistenceStore::saveCaskCatalog(const QByteArray& document,
-                                            const QDateTime& refreshedAt) {
-  saveCatalog(document, caskCacheURL(), refreshedAt);
+bool LocalPersistenceStore::hasCachedCaskCatalog() const {
+  return QFile::exists(filePath(caskCacheURL()));
 }
 
-void LocalPersistenceStore::saveCatalog(const QByteArray& document, const QUrl& file,
-                                        const QDateTime& refreshedAt) {
-  writeCacheFile(document, file);
+QCoro::Task<> LocalPersistenceStore::saveFormulaCatalog(QByteArray document,
+                                                        QDateTime refreshedAt) {
+  return saveCatalog(std::move(document), formulaCacheURL(), std::move(refreshedAt));
+}
+
+QCoro::Task<> LocalPersistenceStore::saveCaskCatalog(QByteArray document, QDateTime refreshedAt) {
+  return saveCatalog(std::move(document), caskCacheURL(), std::move(refreshedAt));
+}
+
+QCoro::Task<> LocalPersistenceStore::saveCatalog(QByteArray document, QUrl file,
+                                                 QDateTime refreshedAt) {
+  const QPointer<LocalPersistenceStore> self(this);
+  const int clearedCaches = clearedCaches_;
+  const QFuture<void> writing =
+      QtConcurrent::run(&cacheWriter_, &replaceCacheFile, filePath(file), std::move(document));
+  co_await writing;
+  if (!self) {
+    co_return;
+  }
+  if (clearedCaches != clearedCaches_) {
+    writeCacheFile(std::nullopt, file);
+    co_return;
+  }
   setCatalogLastRefreshDate(refreshedAt);
+  Q_EMIT catalogCacheChanged();
 }
 
 void LocalPersistenceStore::writeCacheFile(const std::optional<QByteArray>& bytes,
-                                           const QUrl& file) {
-  if (!QDir().mkpath(filePath(cacheDirectoryURL_))) {
-    return;
-  }
-  // A cache that could not be written is downloaded again, one that could not be removed is
-  // written over: there is nothing to tell anybody.
+                                           const QUrl& file) const {
   if (bytes) {
-    (void)replaceFile(filePath(file), *bytes);
+    replaceCacheFile(filePath(file), *bytes);
   } else {
+    // One that stays is written over by the next.
     (void)QFile::remove(filePath(file));
   }
 }
 
 void LocalPersistenceStore::selectPrefix(const QUrl& folder) {
+  if (selectedHomebrewPrefixPath_ != filePath(folder)) {
+    setLocalInventoryLastScanDate(std::nullopt);
+  }
   setSelectedHomebrewPrefixPath(filePath(folder));
   setSelectedHomebrewPrefixBookmarkData(bookmarks_->create(folder));
 }
@@ -243,9 +272,11 @@ void LocalPersistenceStore::renewBookmark(const QUrl& folder) {
 }
 
 void LocalPersistenceStore::clearCacheMarkers() {
+  ++clearedCaches_;
   setCatalogLastRefreshDate(std::nullopt);
   writeCacheFile(std::nullopt, formulaCacheURL());
   writeCacheFile(std::nullopt, caskCacheURL());
+  Q_EMIT catalogCacheChanged();
 }
 
 void LocalPersistenceStore::resetPrefix() {

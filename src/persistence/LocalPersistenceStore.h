@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QCoroTask>
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
 #include <QtCore/QObject>
 #include <QtCore/QSettings>
 #include <QtCore/QString>
+#include <QtCore/QThreadPool>
 #include <QtCore/QUrl>
 
 #include <memory>
@@ -70,14 +72,20 @@ class LocalPersistenceStore : public QObject {
   [[nodiscard]] QUrl formulaCacheURL() const;
   [[nodiscard]] QUrl caskCacheURL() const;
 
-  /// Writes the document as it was downloaded and records when. The date is set even where the
-  /// write fails. Blocks on the disk.
-  void saveFormulaCatalog(const QByteArray& document, const QDateTime& refreshedAt);
-  void saveCaskCatalog(const QByteArray& document, const QDateTime& refreshedAt);
-  /// Replaces a file of the cache, making its folder first, or removes it when there are no bytes.
-  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file);
+  [[nodiscard]] bool hasCachedFormulaCatalog() const;
+  [[nodiscard]] bool hasCachedCaskCatalog() const;
 
-  /// Remembers a folder that the user chose: its path and a bookmark of it.
+  /// Writes the document as it was downloaded, on a thread of the store's own, and then records
+  /// when, even where the write failed. Where the cache is cleared meanwhile it stays cleared. A
+  /// write that has begun is finished before the store is gone.
+  QCoro::Task<> saveFormulaCatalog(QByteArray document, QDateTime refreshedAt);
+  QCoro::Task<> saveCaskCatalog(QByteArray document, QDateTime refreshedAt);
+  /// Replaces a file of the cache, making its folder first, or removes it when there are no bytes.
+  /// Blocks on the disk.
+  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file) const;
+
+  /// Remembers a folder that the user chose: its path and a bookmark of it. Another folder than
+  /// before has not been scanned yet, so that the scan date goes.
   void selectPrefix(const QUrl& folder);
   /// The selected prefix; absent when none is selected or its bookmark leads nowhere. Renews a
   /// stale bookmark.
@@ -101,6 +109,8 @@ class LocalPersistenceStore : public QObject {
   void selectedHomebrewPrefixPathChanged();
   void selectedHomebrewPrefixBookmarkDataChanged();
   void catalogLastRefreshDateChanged();
+  /// A document was written to the cache or removed from it.
+  void catalogCacheChanged();
   void localInventoryLastScanDateChanged();
   void commandHistoryChanged();
 
@@ -110,7 +120,7 @@ class LocalPersistenceStore : public QObject {
   void load();
   void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
   void renewBookmark(const QUrl& folder);
-  void saveCatalog(const QByteArray& document, const QUrl& file, const QDateTime& refreshedAt);
+  QCoro::Task<> saveCatalog(QByteArray document, QUrl file, QDateTime refreshedAt);
   template <typename T>
   void set(T& property, const T& value, QLatin1StringView key, ChangeSignal changed);
   /// Syncs `value` to the disk, or the removal of the key where there is none.
@@ -125,6 +135,10 @@ class LocalPersistenceStore : public QObject {
   std::optional<QDateTime> catalogLastRefreshDate_;
   std::optional<QDateTime> localInventoryLastScanDate_;
   CommandHistory commandHistory_;
+  /// Counts how often the cache was cleared.
+  int clearedCaches_ = 0;
+  /// One thread, so that writes keep their order; its end waits for them.
+  QThreadPool cacheWriter_;
 };
 
 }  // namespace quillmere

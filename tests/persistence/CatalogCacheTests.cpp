@@ -1,3 +1,5 @@
+#include <QCoroTask>
+
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <vector>
@@ -19,10 +21,10 @@ class CatalogCache : public test::StoreFixture {};
 TEST_F(CatalogCache, SavesCatalogDocumentsAsTheyAreAndTheirDate) {
   const auto store = start();
   const QByteArray formulae("[\0\xff\r\n]", 6);
-  store->saveFormulaCatalog(formulae, monday);
+  QCoro::waitFor(store->saveFormulaCatalog(formulae, monday));
   EXPECT_EQ(contentOf(u"formula.json"_s), formulae);
   EXPECT_EQ(start()->catalogLastRefreshDate(), monday);
-  store->saveCaskCatalog("[1]", friday);
+  QCoro::waitFor(store->saveCaskCatalog("[1]", friday));
   EXPECT_EQ(contentOf(u"cask.json"_s), "[1]");
   EXPECT_EQ(contentOf(u"formula.json"_s), formulae);
   EXPECT_EQ(start()->catalogLastRefreshDate(), friday);
@@ -32,10 +34,10 @@ TEST_F(CatalogCache, SetsTheDateEvenWhereTheDocumentCannotBeWritten) {
   QFile inTheWay(QFileInfo(settings_.cacheDirectoryURL().toLocalFile()).path());
   ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
   const auto store = start();
-  store->saveFormulaCatalog("[]", monday);
+  QCoro::waitFor(store->saveFormulaCatalog("[]", monday));
   EXPECT_EQ(store->catalogLastRefreshDate(), monday);
   EXPECT_EQ(contentOf(u"formula.json"_s), "(none)");
-  store->saveCaskCatalog("[]", friday);
+  QCoro::waitFor(store->saveCaskCatalog("[]", friday));
   EXPECT_EQ(store->catalogLastRefreshDate(), friday);
   store->clearCacheMarkers();
   EXPECT_EQ(store->catalogLastRefreshDate(), std::nullopt);
@@ -51,6 +53,49 @@ TEST_F(CatalogCache, RemovesACacheFileForWhichThereAreNoBytes) {
   EXPECT_FALSE(QFile::exists(cacheFile(u"formula.json"_s)));
   store->writeCacheFile(std::nullopt, store->formulaCacheURL());
   EXPECT_FALSE(QFile::exists(cacheFile(u"formula.json"_s)));
+}
+
+TEST_F(CatalogCache, WritesWithoutHoldingUpTheCaller) {
+  const auto store = start();
+  auto saving = store->saveFormulaCatalog("[]", monday);
+  EXPECT_EQ(store->catalogLastRefreshDate(), std::nullopt);
+  EXPECT_FALSE(saving.isReady());
+  QCoro::waitFor(saving);
+  EXPECT_EQ(store->catalogLastRefreshDate(), monday);
+}
+
+TEST_F(CatalogCache, FinishesAWriteThatHasBegunBeforeTheStoreIsGone) {
+  auto store = start();
+  const auto saving = store->saveFormulaCatalog(QByteArray(1'000'000, ' '), monday);
+  store.reset();
+  EXPECT_EQ(contentOf(u"formula.json"_s).size(), 1'000'000);
+}
+
+TEST_F(CatalogCache, StaysClearedWhereItIsClearedDuringAWrite) {
+  const auto store = start();
+  auto saving = store->saveCaskCatalog("[]", monday);
+  store->clearCacheMarkers();
+  QCoro::waitFor(saving);
+  EXPECT_FALSE(store->hasCachedCaskCatalog());
+  EXPECT_EQ(store->catalogLastRefreshDate(), std::nullopt);
+}
+
+TEST_F(CatalogCache, KnowsWhichDocumentsItHolds) {
+  const auto store = start();
+  EXPECT_FALSE(store->hasCachedFormulaCatalog());
+  EXPECT_FALSE(store->hasCachedCaskCatalog());
+  int changes = 0;
+  QObject::connect(store.get(), &Store::catalogCacheChanged, [&changes] { ++changes; });
+  QCoro::waitFor(store->saveFormulaCatalog("[]", monday));
+  EXPECT_TRUE(store->hasCachedFormulaCatalog());
+  EXPECT_FALSE(store->hasCachedCaskCatalog());
+  QCoro::waitFor(store->saveCaskCatalog("[]", monday));
+  EXPECT_TRUE(store->hasCachedCaskCatalog());
+  EXPECT_EQ(changes, 2);
+  store->clearCacheMarkers();
+  EXPECT_FALSE(store->hasCachedFormulaCatalog());
+  EXPECT_FALSE(store->hasCachedCaskCatalog());
+  EXPECT_EQ(changes, 3);
 }
 
 // --- Documents that an older version kept in the settings ---

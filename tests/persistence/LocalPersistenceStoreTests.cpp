@@ -1,3 +1,4 @@
+#include <QCoroTask>
 #include <QtCore/QStandardPaths>
 
 #include <functional>
@@ -163,8 +164,8 @@ TEST_F(LocalPersistenceStoreTest, NamesTheFilesOfItsCache) {
 void fill(Store& store) {
   store.setHasCompletedOnboarding(true);
   store.selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew"_s));
-  store.saveFormulaCatalog("[]", monday);
-  store.saveCaskCatalog("[]", monday);
+  QCoro::waitFor(store.saveFormulaCatalog("[]", monday));
+  QCoro::waitFor(store.saveCaskCatalog("[]", monday));
   store.setLocalInventoryLastScanDate(friday);
   store.setCommandHistory(someHistory);
 }

@@ -36,6 +36,16 @@ TEST_F(SelectedPrefix, FindsTheSelectedPrefixAgainAfterARestart) {
             folder.adjusted(QUrl::StripTrailingSlash));
 }
 
+TEST_F(SelectedPrefix, HasNoScanDateBeforeItIsScanned) {
+  const auto store = start();
+  store->selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew"_s));
+  store->setLocalInventoryLastScanDate(test::friday);
+  store->selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew/"_s));
+  EXPECT_EQ(store->localInventoryLastScanDate(), test::friday);
+  store->selectPrefix(QUrl::fromLocalFile(u"/usr/local"_s));
+  EXPECT_EQ(store->localInventoryLastScanDate(), std::nullopt);
+}
+
 TEST_F(SelectedPrefix, ResolvesAPathAloneWhereThereIsNoBookmark) {
   const auto store = start(std::make_shared<ScriptedBookmarks>());
   store->selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew"_s));

@@ -1,3 +1,4 @@
+#include <QCoroTask>
 #include <QtCore/QFile>
 
 #include <gtest/gtest.h>
@@ -143,11 +144,12 @@ TEST(SettingsFile, IsWrittenAgainOnceThereIsRoom) {
 
 TEST(SettingsFile, KeepsTheOldDocumentOnAFullDisk) {
   const test::TemporarySettings settings;
-  startOver(settings)->saveFormulaCatalog("[]", QDateTime::fromMSecsSinceEpoch(1000, Qt::UTC));
+  QCoro::waitFor(
+      startOver(settings)->saveFormulaCatalog("[]", QDateTime::fromMSecsSinceEpoch(1000, Qt::UTC)));
   EXPECT_TRUE(test::holdsOnDiskFullAfter(4096, [&] {
     const QDateTime later = QDateTime::fromMSecsSinceEpoch(2000, Qt::UTC);
     const auto store = startOver(settings);
-    store->saveFormulaCatalog(QByteArray(100'000, ' '), later);
+    QCoro::waitFor(store->saveFormulaCatalog(QByteArray(100'000, ' '), later));
     return store->catalogLastRefreshDate() == later;
   }));
   QFile document(startOver(settings)->formulaCacheURL().toLocalFile());
