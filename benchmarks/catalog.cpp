@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <future>
 #include <malloc.h>
 #include <random>
 #include <simdjson.h>
@@ -64,10 +63,8 @@ void onRealDocuments(benchmark::State& state, const Task& task) {
   state.SetBytesProcessed(state.iterations() * documents.size());
 }
 
-PackageCatalog catalogOf(const Documents& documents) {
-  auto formulae = std::async(std::launch::async, &formulaCatalog, documents.formulae);
-  PackageCatalog casks = caskCatalog(documents.casks).value();
-  return PackageCatalog::joined(formulae.get().value(), std::move(casks));
+PackageCatalogSnapshot catalogOf(const Documents& documents) {
+  return decodeCatalog({.formulae = documents.formulae, .casks = documents.casks}).value();
 }
 
 /// The floor: the same bytes parsed, nothing kept.
@@ -162,10 +159,10 @@ void keepCatalog(benchmark::State& state) {
   std::size_t texts = 0;
   onRealDocuments(state, [&](const Documents& documents) {
     const double before = allocated();
-    const PackageCatalog catalog = catalogOf(documents);
+    const PackageCatalogSnapshot catalog = catalogOf(documents);
     kept = allocated() - before;
     texts = 0;
-    for (const HomebrewPackageSummary& row : catalog.packages()) {
+    for (const HomebrewPackageSummary& row : catalog->packages()) {
       texts += textSize(row);
     }
   });
@@ -223,12 +220,12 @@ BENCHMARK(makeSortKeys)->Unit(benchmark::kMillisecond);
 
 /// The catalog that searches are measured on: the real one, or as many generated packages.
 const PackageCatalog& searchedCatalog() {
-  static const PackageCatalog catalog = [] {
+  static const PackageCatalogSnapshot catalog = [] {
     const Documents& real = realDocuments();
     return catalogOf(real.formulae.isEmpty() || real.casks.isEmpty() ? generatedDocuments(1)
                                                                      : real);
   }();
-  return catalog;
+  return *catalog;
 }
 
 void search(benchmark::State& state, const char* text, PackageCatalogFilter filter) {

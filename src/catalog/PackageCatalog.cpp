@@ -1,6 +1,7 @@
 #include "catalog/PackageCatalog.h"
 
 #include <algorithm>
+#include <future>
 #include <iterator>
 #include <utility>
 
@@ -58,6 +59,25 @@ std::expected<PackageCatalog, CatalogDecodingError> formulaCatalog(const QByteAr
 
 std::expected<PackageCatalog, CatalogDecodingError> caskCatalog(const QByteArray& document) {
   return catalogOf(decodeCasks(document));
+}
+
+std::expected<PackageCatalogSnapshot, CatalogDecodingError> decodeCatalog(
+    const CatalogDocuments& documents) {
+  const auto decoded = [](const std::optional<QByteArray>& document, auto decode) {
+    return document ? decode(*document)
+                    : std::expected<PackageCatalog, CatalogDecodingError>(std::in_place);
+  };
+  auto decodingCasks = std::async(std::launch::async, decoded, documents.casks, &caskCatalog);
+  auto formulae = decoded(documents.formulae, &formulaCatalog);
+  auto casks = decodingCasks.get();
+  if (!formulae) {
+    return std::unexpected(std::move(formulae).error());
+  }
+  if (!casks) {
+    return std::unexpected(std::move(casks).error());
+  }
+  return std::make_shared<const PackageCatalog>(
+      PackageCatalog::joined(*std::move(formulae), *std::move(casks)));
 }
 
 }  // namespace quillmere

@@ -60,4 +60,16 @@ using PackageCatalogSnapshot = std::shared_ptr<const PackageCatalog>;
 [[nodiscard]] std::expected<PackageCatalog, CatalogDecodingError> caskCatalog(
     const QByteArray& document);
 
+/// Catalog documents as they come from the server or the cache; one that was not asked for is
+/// absent.
+struct CatalogDocuments {
+  std::optional<QByteArray> formulae;
+  std::optional<QByteArray> casks;
+};
+
+/// The catalog of the documents that are there, decoded side by side where both are. What is wrong
+/// with the formulae comes before what is wrong with the casks. Slow; any thread.
+[[nodiscard]] std::expected<PackageCatalogSnapshot, CatalogDecodingError> decodeCatalog(
+    const CatalogDocuments& documents);
+
 }  // namespace quillmere

@@ -52,12 +52,12 @@ TEST(PackageCatalog, NamesADependantOnceThatListsAFormulaTwice) {
 }
 
 TEST(PackageCatalog, OfBothDocumentsHasFormulaeBeforeCasks) {
-  PackageCatalog formulae =
-      formulaCatalog(R"([{"name": "wget", "versions": {}, "dependencies": ["zlib"]},
-                         {"name": "zlib", "versions": {}}])")
+  const PackageCatalogSnapshot catalog =
+      decodeCatalog({.formulae = R"([{"name": "wget", "versions": {}, "dependencies": ["zlib"]},
+                           {"name": "zlib", "versions": {}}])",
+                     .casks = R"([{"token": "firefox"}, {"token": "zlib"}])"})
           .value();
-  PackageCatalog casks = caskCatalog(R"([{"token": "firefox"}, {"token": "zlib"}])").value();
-  const PackageCatalog both = PackageCatalog::joined(std::move(formulae), std::move(casks));
+  const PackageCatalog& both = *catalog;
   std::vector<SharedText> ids;
   for (const HomebrewPackageSummary& package : both.packages()) {
     ids.push_back(package.id);
@@ -73,7 +73,22 @@ TEST(PackageCatalog, OfBothDocumentsHasFormulaeBeforeCasks) {
   EXPECT_THAT(search(u"cask"), ElementsAre(2, 3));
 }
 
+TEST(PackageCatalog, OfOneDocumentHasItsPackagesAlone) {
+  const auto formulae = decodeCatalog({.formulae = R"([{"name": "wget", "versions": {}}])"});
+  EXPECT_EQ(formulae.value()->packages().front().id, "formula:wget");
+  const auto casks = decodeCatalog({.casks = R"([{"token": "firefox"}])"});
+  EXPECT_EQ(casks.value()->packages().front().id, "cask:firefox");
+  EXPECT_THAT(decodeCatalog({}).value()->packages(), IsEmpty());
+}
+
 TEST(PackageCatalog, PassesOnWhatIsWrongWithADocument) {
+  using Document = CatalogDecodingError::Document;
+  const auto faultyDocument = [](const QByteArray& formulae, const QByteArray& casks) {
+    return decodeCatalog({.formulae = formulae, .casks = casks}).error().document;
+  };
+  EXPECT_EQ(faultyDocument("[{}]", "[]"), Document::formulae);
+  EXPECT_EQ(faultyDocument("[]", "[{}]"), Document::casks);
+  EXPECT_EQ(faultyDocument("[{}]", "<html>"), Document::formulae);
   EXPECT_EQ(formulaCatalog("[{}]").error().document, CatalogDecodingError::Document::formulae);
   EXPECT_EQ(caskCatalog("<html>").error().document, CatalogDecodingError::Document::casks);
 }
