@@ -2,6 +2,8 @@
 
 #include <QtCore/QLocale>
 
+#include <numeric>
+
 namespace quillmere {
 namespace {
 
@@ -29,6 +31,28 @@ int NameOrdering::compare(QStringView left, QStringView right) const {
 
 QCollatorSortKey NameOrdering::sortKey(const QString& name) const {
   return collator_.sortKey(name);
+}
+
+std::vector<std::size_t> NameOrdering::stableOrder(const std::vector<QString>& names) const {
+  // A key costs as much as several comparisons, and lists are often sorted by one who got them
+  // sorted.
+  const auto comesBefore = [this](const QString& left, const QString& right) {
+    return compare(left, right) < 0;
+  };
+  if (std::ranges::is_sorted(names, comesBefore)) {
+    return {};
+  }
+  std::vector<QCollatorSortKey> keys;
+  keys.reserve(names.size());
+  for (const QString& name : names) {
+    keys.push_back(sortKey(name));
+  }
+  std::vector<std::size_t> order(names.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::ranges::stable_sort(order, [&keys](std::size_t left, std::size_t right) {
+    return keys[left].compare(keys[right]) < 0;
+  });
+  return order;
 }
 
 }  // namespace quillmere

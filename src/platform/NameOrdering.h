@@ -4,7 +4,7 @@
 #include <QtCore/QString>
 
 #include <algorithm>
-#include <numeric>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -30,28 +30,28 @@ class NameOrdering {
   [[nodiscard]] QCollatorSortKey sortKey(const QString& name) const;
 
   /// Sorts `items` by what `nameOf(item)` gives as a `QString`, asked once for each; those that are
-  /// equal keep their order.
-  template <typename T, typename NameOf>
-  void stableSort(std::vector<T>& items, const NameOf& nameOf) const {
-    std::vector<QCollatorSortKey> keys;
-    keys.reserve(items.size());
-    for (const T& item : items) {
-      keys.push_back(sortKey(nameOf(item)));
+  /// equal keep their order. Items that are in order already cost one comparison each.
+  template <typename Items, typename NameOf>
+  void stableSort(Items& items, const NameOf& nameOf) const {
+    std::vector<QString> names;
+    names.reserve(static_cast<std::size_t>(items.size()));
+    std::ranges::transform(items, std::back_inserter(names), nameOf);
+    const std::vector<std::size_t> order = stableOrder(names);
+    if (order.empty()) {
+      return;
     }
-    std::vector<std::size_t> order(items.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::stable_sort(order, [&keys](std::size_t left, std::size_t right) {
-      return keys[left].compare(keys[right]) < 0;
-    });
-    std::vector<T> sorted;
+    Items sorted;
     sorted.reserve(items.size());
     for (const std::size_t index : order) {
-      sorted.push_back(std::move(items[index]));
+      sorted.push_back(std::move(items[static_cast<decltype(items.size())>(index)]));
     }
     items = std::move(sorted);
   }
 
  private:
+  /// The indexes of `names` in the order of the names; empty when they are in order as they stand.
+  [[nodiscard]] std::vector<std::size_t> stableOrder(const std::vector<QString>& names) const;
+
   QCollator collator_;
 };
 

@@ -103,6 +103,24 @@ TEST(NameOrdering, AsksEachItemForItsNameOnce) {
   EXPECT_TRUE(std::ranges::is_sorted(items, {}, &Item::number));
 }
 
+TEST(NameOrdering, LeavesWhatIsInOrderWhereItIs) {
+  std::vector<Item> items = {{QStringLiteral("a9"), 1},
+                             {QStringLiteral("A9"), 2},
+                             {QStringLiteral("a10"), 3},
+                             {QStringLiteral("b"), 4}};
+  const Item* const first = items.data();
+  NameOrdering::ofUser().stableSort(items, [](const Item& item) { return item.name; });
+  EXPECT_EQ(items.data(), first);
+  EXPECT_TRUE(std::ranges::is_sorted(items, {}, &Item::number));
+}
+
+TEST(NameOrdering, SortsAListOfTexts) {
+  QStringList names = {QStringLiteral("1.10"), QStringLiteral("1.9"), QStringLiteral("1.9_1")};
+  NameOrdering::ofUser().stableSort(names, [](const QString& name) { return name; });
+  EXPECT_EQ(names,
+            (QStringList{QStringLiteral("1.9"), QStringLiteral("1.9_1"), QStringLiteral("1.10")}));
+}
+
 TEST(NameOrdering, SortsNothing) {
   std::vector<Item> items;
   NameOrdering::ofUser().stableSort(items, [](const Item& item) { return item.name; });
