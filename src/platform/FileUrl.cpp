@@ -19,4 +19,9 @@ QUrl appendingPath(const QUrl& url, QStringView relativePath) {
   return fileUrl(path);
 }
 
+QString lastPathComponent(const QUrl& url) {
+  const QString path = filePath(url);
+  return path.sliced(path.lastIndexOf(u'/') + 1);
+}
+
 }  // namespace quillmere

@@ -14,4 +14,8 @@ namespace quillmere {
 /// `url` with a relative path appended, whether or not `url` ends in a slash.
 [[nodiscard]] QUrl appendingPath(const QUrl& url, QStringView relativePath);
 
+/// What stands behind the last slash of the path, not counting a trailing one: the name of the file
+/// or folder. Empty for the root.
+[[nodiscard]] QString lastPathComponent(const QUrl& url);
+
 }  // namespace quillmere

@@ -19,11 +19,6 @@ bool comesBefore(const QString& left, const QString& right) {
   return std::ranges::lexicographical_compare(left, right, {}, codePointRank, codePointRank);
 }
 
-QString lastPathComponent(const QUrl& url) {
-  const QString path = filePath(url);
-  return path.sliced(path.lastIndexOf(u'/') + 1);
-}
-
 QStringList sortedChildNames(const HomebrewPrefixFileSystem& fileSystem, const QUrl& url) {
   QStringList names;
   if (const auto contents = fileSystem.contentsOfDirectory(url)) {

@@ -25,5 +25,12 @@ TEST(FileUrl, AppendsAPathWithOneSlashBetween) {
   EXPECT_EQ(appendingPath(fileUrl(u"/"_s), u"bin"_s), fileUrl(u"/bin"_s));
 }
 
+TEST(FileUrl, EndsInTheNameOfTheFileOrFolder) {
+  EXPECT_EQ(lastPathComponent(fileUrl(u"/opt/homebrew/bin/brew"_s)), u"brew"_s);
+  EXPECT_EQ(lastPathComponent(fileUrl(u"/opt/homebrew/"_s)), u"homebrew"_s);
+  EXPECT_EQ(lastPathComponent(fileUrl(u"/Caskroom/a b/1,2:3%2F4?#"_s)), u"1,2:3%2F4?#"_s);
+  EXPECT_EQ(lastPathComponent(fileUrl(u"/"_s)), QString());
+}
+
 }  // namespace
 }  // namespace quillmere
