@@ -1,0 +1,70 @@
+#include "inventory/HomebrewInstallReceipt.h"
+
+#include <simdjson.h>
+#include <string_view>
+
+#include "platform/RegularFile.h"
+
+namespace quillmere {
+namespace {
+
+static_assert(readAheadPadding >= simdjson::SIMDJSON_PADDING);
+
+/// The value of the key that counts, which is its last where a document repeats it.
+std::optional<simdjson::dom::element> lastValue(const simdjson::dom::object& object,
+                                                std::string_view wanted) {
+  std::optional<simdjson::dom::element> found;
+  for (const auto& [key, value] : object) {
+    if (key == wanted) {
+      found = value;
+    }
+  }
+  return found;
+}
+
+std::optional<HomebrewInstallReceipt> receiptOf(const simdjson::dom::element& root) {
+  simdjson::dom::object object;
+  if (root.get(object) != simdjson::SUCCESS) {
+    return std::nullopt;
+  }
+  const auto value = lastValue(object, "installed_on_request");
+  if (!value || value->is_null()) {
+    return HomebrewInstallReceipt();
+  }
+  bool installedOnRequest = false;
+  if (value->get(installedOnRequest) != simdjson::SUCCESS) {
+    return std::nullopt;
+  }
+  return HomebrewInstallReceipt{.installedOnRequest = installedOnRequest};
+}
+
+}  // namespace
+
+class HomebrewInstallReceiptReader::Parser {
+ public:
+  std::optional<HomebrewInstallReceipt> read(QByteArrayView json, bool copies) {
+    simdjson::dom::element root;
+    const auto error =
+        parser_.parse(json.data(), static_cast<std::size_t>(json.size()), copies).get(root);
+    return error == simdjson::SUCCESS ? receiptOf(root) : std::nullopt;
+  }
+
+ private:
+  simdjson::dom::parser parser_;
+};
+
+HomebrewInstallReceiptReader::HomebrewInstallReceiptReader() : parser_(std::make_unique<Parser>()) {
+}
+
+HomebrewInstallReceiptReader::~HomebrewInstallReceiptReader() = default;
+
+std::optional<HomebrewInstallReceipt> HomebrewInstallReceiptReader::read(QByteArray json) {
+  const bool isPadded = json.data_ptr().freeSpaceAtEnd() >= readAheadPadding;
+  return parser_->read(json, !isPadded);
+}
+
+std::optional<HomebrewInstallReceipt> HomebrewInstallReceipt::fromJson(QByteArrayView json) {
+  return HomebrewInstallReceiptReader().read(QByteArray::fromRawData(json.data(), json.size()));
+}
+
+}  // namespace quillmere
