@@ -1,0 +1,16 @@
+#include "catalog/HomebrewFormulaMetadataClient.h"
+
+#include <utility>
+
+namespace quillmere {
+
+QUrl HomebrewFormulaMetadataClient::defaultApiURL() {
+  return urlFromFixedText(QStringLiteral("https://formulae.brew.sh/api/formula.json"));
+}
+
+QCoro::Task<MetadataFetchResult> HomebrewFormulaMetadataClient::fetch(
+    MetadataFetchOptions options) const {
+  return downloadMetadata(session, apiURL, std::move(options));
+}
+
+}  // namespace quillmere

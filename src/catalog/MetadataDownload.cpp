@@ -1,0 +1,274 @@
+#include "catalog/MetadataDownload.h"
+
+#include <QCoroFuture>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QPointer>
+#include <QtCore/QPromise>
+#include <QtCore/QTimer>
+#include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkReply>
+#include <QtNetwork/QNetworkRequest>
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/RegularFile.h"
+
+namespace quillmere {
+namespace {
+
+/// How much the platform keeps ready as it came over the line. It unpacks that in one go on the UI
+/// thread, twice, because it counts first; JSON unpacks to some seven times the size.
+constexpr qint64 readBufferBytes = qint64{64} * 1024;
+/// How much of the document is taken in one turn of the event loop.
+constexpr qint64 stepBytes = qint64{256} * 1024;
+constexpr qint64 progressInterval = 34;
+
+MetadataFetchResult transportError(const QString& message) {
+  return std::unexpected(MetadataTransportError{message});
+}
+
+MetadataFetchResult cancelled() {
+  return std::unexpected(MetadataFetchCancelled{});
+}
+
+QNetworkRequest requestFor(const QUrl& url) {
+  QNetworkRequest request(url);
+  request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+  request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+  request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+  request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+  // One document at a time gains nothing from a connection for many.
+  request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                       QNetworkRequest::NoLessSafeRedirectPolicy);
+  // The platform would tell the language of the user's desktop. This is what it says where there is
+  // none.
+  request.setRawHeader("Accept-Language", "en,*");
+  return request;
+}
+
+/// One transfer: takes the body as it comes and says in the end what came of it. Whoever waits is
+/// woken from the event loop, so that nothing here is on the stack when this object goes.
+class Download : public QObject {
+ public:
+  Download(QNetworkAccessManager& session, const QUrl& url, MetadataFetchOptions options);
+  ~Download() override;
+  Q_DISABLE_COPY_MOVE(Download)
+
+  [[nodiscard]] QFuture<void> ended() const { return ended_.future(); }
+
+  [[nodiscard]] MetadataFetchResult takeResult();
+
+ private:
+  void connectReply();
+  void step();
+  qint64 takeBytes();
+  void reserve(qint64 bytes);
+  void reportProgress();
+  [[nodiscard]] std::optional<qint64> statedLength() const;
+  [[nodiscard]] bool isCut() const;
+  [[nodiscard]] MetadataFetchResult judge();
+  void end(MetadataFetchResult result);
+
+  MetadataFetchOptions options_;
+  // The session deletes it when the session goes.
+  QPointer<QNetworkReply> reply_;
+  QByteArray body_;
+  bool replyHasEnded_ = false;
+  QTimer nextStep_;
+  QTimer patience_;
+  qint64 bytesInWindow_ = 0;
+  QElapsedTimer sinceProgress_;
+  QPromise<void> ended_;
+  std::optional<MetadataFetchResult> result_;
+  std::optional<std::stop_callback<std::function<void()>>> onStop_;
+};
+
+Download::Download(QNetworkAccessManager& session, const QUrl& url, MetadataFetchOptions options)
+    : options_(std::move(options)), reply_(session.get(requestFor(url))) {
+  ended_.start();
+  reserve(std::clamp(options_.expectedBytes, qint64{0}, options_.maximumBytes));
+  // What a slot of the reply does must not delete it, and a callback of ours might: so its signals
+  // only set the next step going. A timer and not a posted call, because posted calls go on being
+  // delivered as long as each of them posts another.
+  nextStep_.setSingleShot(true);
+  connect(&nextStep_, &QTimer::timeout, this, &Download::step);
+  patience_.setSingleShot(true);
+  connect(&patience_, &QTimer::timeout, this, [this] {
+    end(transportError(
+        QStringLiteral("The server sent too little for too long, so the download was given up.")));
+  });
+  patience_.start(options_.patience.window);
+  connectReply();
+  // Called on the thread that asks; the end of `onStop_` waits for a call that is under way.
+  onStop_.emplace(options_.stop, [this] {
+    const auto stop = [this] { end(cancelled()); };
+    QMetaObject::invokeMethod(this, stop, Qt::QueuedConnection);
+  });
+}
+
+Download::~Download() {
+  onStop_.reset();
+  end(cancelled());
+}
+
+void Download::connectReply() {
+  // Bounds what is unpacked at once; the connection waits meanwhile.
+  reply_->setReadBufferSize(readBufferBytes);
+  const auto stepSoon = [this] { nextStep_.start(0); };
+  const auto lastStepSoon = [this] {
+    replyHasEnded_ = true;
+    nextStep_.start(0);
+  };
+  connect(reply_, &QNetworkReply::readyRead, this, stepSoon);
+  connect(reply_, &QNetworkReply::errorOccurred, this, lastStepSoon);
+  connect(reply_, &QNetworkReply::finished, this, lastStepSoon);
+  connect(reply_, &QObject::destroyed, this, [this] { end(cancelled()); });
+}
+
+void Download::step() {
+  if (result_ || options_.stop.stop_requested()) {
+    end(cancelled());
+    return;
+  }
+  const bool hasFailed = reply_->error() != QNetworkReply::NoError;
+  const qint64 taken = hasFailed ? 0 : takeBytes();
+  if (std::max(qint64{body_.size()}, statedLength().value_or(0)) > options_.maximumBytes) {
+    end(transportError(QStringLiteral("The document is too large: more than %1 MiB.")
+                           .arg(options_.maximumBytes / (1024 * 1024))));
+  } else if (taken > 0) {
+    nextStep_.start(0);
+    if (!sinceProgress_.isValid() || sinceProgress_.hasExpired(progressInterval)) {
+      reportProgress();
+    }
+  } else if (replyHasEnded_) {
+    MetadataFetchResult result = judge();
+    if (result) {
+      reportProgress();
+    }
+    end(std::move(result));
+  }
+}
+
+/// Reads behind what is there already: the document is never copied from one place to another.
+qint64 Download::takeBytes() {
+  const qint64 available = std::min(reply_->bytesAvailable(), stepBytes);
+  if (available <= 0) {
+    return 0;
+  }
+  if (body_.isEmpty()) {
+    reserve(std::min(statedLength().value_or(0), options_.maximumBytes));
+  }
+  const qsizetype before = body_.size();
+  if (before + available + readAheadPadding > body_.capacity()) {
+    reserve(std::max(before + available, 2 * qint64{before}));
+  }
+  body_.resize(before + available);
+  const qint64 count = std::max(reply_->read(body_.data() + before, available), qint64{0});
+  body_.resize(before + count);
+  bytesInWindow_ += count;
+  if (bytesInWindow_ >= options_.patience.bytes) {
+    bytesInWindow_ = 0;
+    patience_.start();
+  }
+  return count;
+}
+
+void Download::reserve(qint64 bytes) {
+  body_.reserve(bytes + readAheadPadding);
+}
+
+void Download::reportProgress() {
+  sinceProgress_.start();
+  if (options_.onProgress) {
+    options_.onProgress({.receivedBytes = body_.size(), .totalBytes = statedLength()});
+  }
+}
+
+/// The document's size as the server says it; what it says of a packed body is of no use here.
+std::optional<qint64> Download::statedLength() const {
+  const QVariant length = reply_->header(QNetworkRequest::ContentLengthHeader);
+  if (!length.isValid() || reply_->hasRawHeader("Content-Encoding")) {
+    return std::nullopt;
+  }
+  return length.toLongLong();
+}
+
+/// Whether the end of the body is missing. The platform takes a chunked or packed body for whole
+/// wherever the connection ends, so the document itself has to say it: an array that begins must
+/// end. One that is cut right behind an inner bracket gets past this and is refused by the decoder.
+bool Download::isCut() const {
+  if (const auto length = statedLength()) {
+    return body_.size() < *length;
+  }
+  const QByteArrayView document = QByteArrayView(body_).trimmed();
+  return document.startsWith('[') && !document.endsWith(']');
+}
+
+/// What came of a reply that has ended.
+MetadataFetchResult Download::judge() {
+  const QVariant status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+  const QNetworkReply::NetworkError error = reply_->error();
+  // The platform has errors of its own for the status of an answer that arrived.
+  const bool isStatus = status.toInt() >= 400 &&
+                        (error == QNetworkReply::ProxyAuthenticationRequiredError ||
+                         error >= QNetworkReply::ContentAccessDenied);
+  if (error != QNetworkReply::NoError && !isStatus) {
+    return transportError(reply_->errorString());
+  }
+  if (!status.isValid()) {
+    return std::unexpected(HomebrewFormulaMetadataError::invalidResponse());
+  }
+  if (status.toInt() < 200 || status.toInt() > 299) {
+    return std::unexpected(HomebrewFormulaMetadataError::httpStatus(status.toInt()));
+  }
+  if (isCut()) {
+    return transportError(
+        QStringLiteral("The connection ended before the whole document had arrived."));
+  }
+  return std::move(body_);
+}
+
+void Download::end(MetadataFetchResult result) {
+  if (result_) {
+    return;
+  }
+  result_ = std::move(result);
+  nextStep_.stop();
+  patience_.stop();
+  if (reply_) {
+    disconnect(reply_, nullptr, this, nullptr);
+    reply_->abort();
+    reply_->deleteLater();
+    reply_.clear();
+  }
+  ended_.finish();
+}
+
+MetadataFetchResult Download::takeResult() {
+  return options_.stop.stop_requested() ? cancelled() : std::move(*result_);
+}
+
+}  // namespace
+
+QCoro::Task<MetadataFetchResult> downloadMetadata(QNetworkAccessManager* session, QUrl url,
+                                                  MetadataFetchOptions options) {
+  if (options.stop.stop_requested()) {
+    co_return cancelled();
+  }
+  Download download(*session, url, std::move(options));
+  const QFuture<void> ended = download.ended();
+  co_await ended;
+  co_return download.takeResult();
+}
+
+QUrl urlFromFixedText(const QString& text) {
+  QUrl url(text, QUrl::StrictMode);
+  if (!url.isValid() || url.isRelative()) {
+    qFatal("\"%s\" is not a URL.", qUtf8Printable(text));
+  }
+  return url;
+}
+
+}  // namespace quillmere

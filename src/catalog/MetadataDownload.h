@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QCoroTask>
+#include <QtCore/QByteArray>
+#include <QtCore/QUrl>
+
+#include <coroutine>
+#include <cstddef>
+#include <expected>
+
+#include "catalog/MetadataFetchError.h"
+#include "catalog/MetadataFetchOptions.h"
+
+class QNetworkAccessManager;
+
+namespace quillmere {
+
+using MetadataFetchResult = std::expected<QByteArray, MetadataFetchError>;
+
+/// Who awaits a fetch has its handle compared with null. A null makes a QByteArray as well, so that
+/// libstdc++ 12 would compare two results, and then the bytes of one with the handle, without end:
+/// this is the better match.
+[[nodiscard]] inline bool operator==(
+    std::coroutine_handle<QCoro::detail::TaskPromise<MetadataFetchResult>> handle,
+    std::nullptr_t) noexcept {
+  return !handle;
+}
+
+/// One GET of `url` through `session`, which is borrowed and lives on the UI thread, as does this.
+/// The result is the whole body of an answer with a status from 200 to 299, unpacked, with
+/// `readAheadPadding` of capacity behind it. A body that is known to be cut is an error even where
+/// the platform takes it for whole.
+///
+/// Nothing is tried again, kept on disk, or sent back as a cookie, and nothing in the request tells
+/// one user from another. Redirects are followed to HTTPS only. The UI thread is held for a few
+/// milliseconds at a time. When the session goes first, the fetch ends as cancelled.
+[[nodiscard]] QCoro::Task<MetadataFetchResult> downloadMetadata(QNetworkAccessManager* session,
+                                                                QUrl url,
+                                                                MetadataFetchOptions options);
+
+/// The URL that a text written in the program spells; the process ends when it spells none.
+[[nodiscard]] QUrl urlFromFixedText(const QString& text);
+
+}  // namespace quillmere
