@@ -28,6 +28,7 @@ TestCase {
         wait(0);
         window = null;
         stage.endWorld();
+        compare(stage.content, null);
     }
 
     // What assistive technology finds, in reading order: the visible items that have a role.

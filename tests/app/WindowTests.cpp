@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
@@ -48,7 +49,8 @@ struct World {
                            BrewExecutableResolver(disk)};
 };
 
-/// What the test may ask of the world; reaches QML as `stage`.
+/// What the test may ask of the world; reaches QML as `stage`. Between two tests there is no world,
+/// and QML may look all the same: the bindings of the next test are made then.
 class Stage : public QObject {
   Q_OBJECT
   Q_PROPERTY(quillmere::ContentViewModel* content READ content NOTIFY worldChanged)
@@ -57,20 +59,24 @@ class Stage : public QObject {
   Q_PROPERTY(QUrl emptyFolder READ emptyFolder NOTIFY worldChanged)
 
  public:
-  [[nodiscard]] ContentViewModel* content() { return &world_->content; }
+  [[nodiscard]] ContentViewModel* content() { return world_ ? &world_->content : nullptr; }
 
-  [[nodiscard]] WindowMemory* memory() { return &world_->memory; }
+  [[nodiscard]] WindowMemory* memory() { return world_ ? &world_->memory : nullptr; }
 
-  [[nodiscard]] QUrl prefix() const { return world_->prefix.url(); }
+  [[nodiscard]] QUrl prefix() const { return world_ ? world_->prefix.url() : QUrl(); }
 
-  [[nodiscard]] QUrl emptyFolder() const { return world_->emptyFolder.url(); }
+  [[nodiscard]] QUrl emptyFolder() const { return world_ ? world_->emptyFolder.url() : QUrl(); }
 
   Q_INVOKABLE void makeWorld() {
-    world_.emplace();
+    world_ = std::make_unique<World>();
     Q_EMIT worldChanged();
   }
 
-  Q_INVOKABLE void endWorld() { world_.reset(); }
+  /// Whoever looks at the world looks away before it goes.
+  Q_INVOKABLE void endWorld() {
+    const std::unique_ptr<World> ended = std::move(world_);
+    Q_EMIT worldChanged();
+  }
 
   Q_INVOKABLE void selectPrefix() { world_->store.selectPrefix(prefix()); }
 
@@ -144,7 +150,7 @@ class Stage : public QObject {
   void worldChanged();
 
  private:
-  std::optional<World> world_;
+  std::unique_ptr<World> world_;
 };
 
 /// Prepares the test program as `main` prepares the real one.
