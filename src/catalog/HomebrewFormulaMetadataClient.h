@@ -4,8 +4,8 @@
 
 namespace quillmere {
 
-/// Downloads the public catalog's document of formulae. A plain value without a state of its own; the
-/// caller decodes what it gets.
+/// Downloads the public catalog's document of formulae. A plain value without a state of its own;
+/// the caller decodes what it gets.
 struct HomebrewFormulaMetadataClient {
   [[nodiscard]] static QUrl defaultApiURL();
 

@@ -227,7 +227,7 @@ MetadataFetchResult Download::judge() {
     return transportError(
         QStringLiteral("The connection ended before the whole document had arrived."));
   }
-  return std::move(body_);
+  return body_;
 }
 
 void Download::end(MetadataFetchResult result) {

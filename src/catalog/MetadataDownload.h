@@ -4,27 +4,17 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QUrl>
 
-#include <coroutine>
-#include <cstddef>
 #include <expected>
 
 #include "catalog/MetadataFetchError.h"
 #include "catalog/MetadataFetchOptions.h"
+#include "platform/AwaitedExpected.h"
 
 class QNetworkAccessManager;
 
 namespace quillmere {
 
 using MetadataFetchResult = std::expected<QByteArray, MetadataFetchError>;
-
-/// Who awaits a fetch has its handle compared with null. A null makes a QByteArray as well, so that
-/// libstdc++ 12 would compare two results, and then the bytes of one with the handle, without end:
-/// this is the better match.
-[[nodiscard]] inline bool operator==(
-    std::coroutine_handle<QCoro::detail::TaskPromise<MetadataFetchResult>> handle,
-    std::nullptr_t) noexcept {
-  return !handle;
-}
 
 /// One GET of `url` through `session`, which is borrowed and lives on the UI thread, as does this.
 /// The result is the whole body of an answer with a status from 200 to 299, unpacked, with

@@ -15,6 +15,7 @@ namespace quillmere::test {
 /// One connection to a `CatalogServer`, in the server's thread: reads requests and sends the
 /// scripted answers. Deletes itself with its socket, which it owns.
 class ScriptedConnection : public QObject {
+  Q_OBJECT
  public:
   /// The answer to a request.
   using Script = std::function<Answer(const Request&)>;
