@@ -28,14 +28,15 @@ std::optional<HomebrewInstallReceipt> receiptOf(const simdjson::dom::element& ro
     return std::nullopt;
   }
   const auto value = lastValue(object, "installed_on_request");
-  if (!value || value->is_null()) {
-    return HomebrewInstallReceipt();
+  HomebrewInstallReceipt receipt;
+  if (value && !value->is_null()) {
+    bool installedOnRequest = false;
+    if (value->get(installedOnRequest) != simdjson::SUCCESS) {
+      return std::nullopt;
+    }
+    receipt.installedOnRequest = installedOnRequest;
   }
-  bool installedOnRequest = false;
-  if (value->get(installedOnRequest) != simdjson::SUCCESS) {
-    return std::nullopt;
-  }
-  return HomebrewInstallReceipt{.installedOnRequest = installedOnRequest};
+  return receipt;
 }
 
 }  // namespace
