@@ -3,11 +3,24 @@
 namespace quillmere {
 
 QUrl fileUrl(const QString& path) {
-  return QUrl::fromLocalFile(path);
+  // Two slashes may begin the name of another machine.
+  if (!path.startsWith(u'/') || path.startsWith(QLatin1StringView("//"))) {
+    return QUrl::fromLocalFile(path);
+  }
+  // Scans make many of these, and what `fromLocalFile` does is mostly to set the scheme and to look
+  // for percent signs, slowly.
+  static const QUrl root = QUrl::fromLocalFile(QStringLiteral("/"));
+  QUrl url = root;
+  url.setPath(path, path.contains(u'%') ? QUrl::DecodedMode : QUrl::TolerantMode);
+  return url;
 }
 
 QString filePath(const QUrl& url) {
-  return url.adjusted(QUrl::StripTrailingSlash).toLocalFile();
+  QString path = url.toLocalFile();
+  while (path.size() > 1 && path.endsWith(u'/')) {
+    path.chop(1);
+  }
+  return path;
 }
 
 QUrl appendingPath(const QUrl& url, QStringView relativePath) {

@@ -1,41 +1,38 @@
 #include "prefix/HomebrewPrefixFileSystem.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 
-#include <filesystem>
-#include <system_error>
+#include <unistd.h>
 #include <utility>
 
 #include "platform/FileUrl.h"
 #include "platform/RegularFile.h"
+#include "platform/VisibleEntries.h"
 
 namespace quillmere {
 namespace {
 
-FileSystemError errorOf(const std::error_code& code) {
-  return {QString::fromStdString(code.message())};
+/// Whether the calling user may do to what is at `path` what `mode` says.
+bool isAccessible(const QString& path, int mode) {
+  return access(QFile::encodeName(path).constData(), mode) == 0;
 }
 
 class PlatformFileSystem final : public HomebrewPrefixFileSystem {
  public:
-  bool fileExists(const QString& path) const override { return QFileInfo::exists(path); }
+  bool fileExists(const QString& path) const override { return isAccessible(path, F_OK); }
 
-  bool isReadableFile(const QString& path) const override { return QFileInfo(path).isReadable(); }
+  bool isReadableFile(const QString& path) const override { return isAccessible(path, R_OK); }
 
   std::expected<QList<QUrl>, FileSystemError> contentsOfDirectory(const QUrl& url) const override {
     const QString folder = filePath(url);
-    std::error_code code;
-    std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), code);
+    const QString beginning = folder.endsWith(u'/') ? folder : folder + u'/';
+    VisibleEntries entries(folder);
     QList<QUrl> contents;
-    for (; !code && entry != std::filesystem::directory_iterator(); entry.increment(code)) {
-      const std::string name = entry->path().filename().string();
-      if (!name.starts_with('.')) {
-        contents += appendingPath(url, QFile::decodeName(name.c_str()));
-      }
+    while (const dirent* const entry = entries.next()) {
+      contents += fileUrl(beginning + QFile::decodeName(entry->d_name));
     }
-    if (code) {
-      return std::unexpected(errorOf(code));
+    if (entries.error()) {
+      return std::unexpected(FileSystemError{QString::fromStdString(entries.error().message())});
     }
     return contents;
   }

@@ -16,7 +16,9 @@ constexpr int codePointRank(QChar unit) {
 }
 
 bool comesBefore(const QString& left, const QString& right) {
-  return std::ranges::lexicographical_compare(left, right, {}, codePointRank, codePointRank);
+  const auto [leftRest, rightRest] = std::ranges::mismatch(left, right);
+  return rightRest != right.end() &&
+         (leftRest == left.end() || codePointRank(*leftRest) < codePointRank(*rightRest));
 }
 
 QStringList sortedChildNames(const HomebrewPrefixFileSystem& fileSystem, const QUrl& url) {

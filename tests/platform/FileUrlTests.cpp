@@ -13,9 +13,24 @@ TEST(FileUrl, MeansEveryCharacterOfAPathAsItself) {
   }
 }
 
+TEST(FileUrl, IsTheUrlThatQtMakesOfThePath) {
+  QString everyCharacter = u"/x"_s;
+  for (char16_t unit = 1; unit < 0x0800; ++unit) {
+    everyCharacter += QChar(unit);
+  }
+  for (const QString& path : {u"/"_s, u"/a b"_s, u"/a%20b"_s, u"/a%zz?#[]@:"_s, u"/a/../b/./c//d"_s,
+                              u"/\u6d4f \U0001F37A"_s, u"//server/share"_s, u"relative"_s, u"a:b"_s,
+                              QString(), everyCharacter, QString(everyCharacter).remove(u'%')}) {
+    EXPECT_EQ(fileUrl(path), QUrl::fromLocalFile(path)) << path.toStdString();
+    EXPECT_EQ(fileUrl(path).toEncoded(), QUrl::fromLocalFile(path).toEncoded());
+  }
+}
+
 TEST(FileUrl, HasAPathWithoutATrailingSlash) {
   EXPECT_EQ(filePath(fileUrl(u"/opt/homebrew/"_s)), u"/opt/homebrew"_s);
+  EXPECT_EQ(filePath(fileUrl(u"/opt//"_s)), u"/opt"_s);
   EXPECT_EQ(filePath(fileUrl(u"/"_s)), u"/"_s);
+  EXPECT_EQ(filePath(QUrl(u"https://www.example.org/etc/"_s)), QString());
 }
 
 TEST(FileUrl, AppendsAPathWithOneSlashBetween) {

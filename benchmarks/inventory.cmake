@@ -1,0 +1,3 @@
+quillmere_benchmark(inventory
+  SOURCES inventory.cpp
+  LINK quillmere_inventory)
