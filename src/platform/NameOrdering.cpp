@@ -49,8 +49,11 @@ std::vector<std::size_t> NameOrdering::stableOrder(const std::vector<QString>& n
   }
   std::vector<std::size_t> order(names.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, [&keys](std::size_t left, std::size_t right) {
-    return keys[left].compare(keys[right]) < 0;
+  // With the place as the last word, nothing is equal; the library's own stable sort does not build
+  // with clang without a warning.
+  std::ranges::sort(order, [&keys](std::size_t left, std::size_t right) {
+    const int compared = keys[left].compare(keys[right]);
+    return compared < 0 || (compared == 0 && left < right);
   });
   return order;
 }

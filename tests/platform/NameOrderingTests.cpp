@@ -89,6 +89,19 @@ TEST(NameOrdering, SortsAndKeepsTheOrderOfEqualNames) {
   EXPECT_THAT(numbers, ElementsAre(5, 7, 3, 2, 4, 6, 1));
 }
 
+// Few items are sorted by insertion, which keeps their order by itself.
+TEST(NameOrdering, KeepsTheOrderOfEqualNamesAmongMany) {
+  std::vector<Item> items;
+  for (int i = 0; i < 1000; ++i) {
+    items.push_back({i % 2 == 0 ? QStringLiteral("wget") : QStringLiteral("Curl"), i});
+  }
+  NameOrdering(QLocale::c()).stableSort(items, [](const Item& item) { return item.name; });
+  const auto firstWget = std::ranges::find(items, QStringLiteral("wget"), &Item::name);
+  EXPECT_EQ(firstWget - items.begin(), 500);
+  EXPECT_TRUE(std::ranges::is_sorted(items.begin(), firstWget, {}, &Item::number));
+  EXPECT_TRUE(std::ranges::is_sorted(firstWget, items.end(), {}, &Item::number));
+}
+
 TEST(NameOrdering, AsksEachItemForItsNameOnce) {
   std::vector<Item> items;
   for (int i = 0; i < 100; ++i) {
