@@ -1,0 +1,117 @@
+#include "guidance/InstalledPackageSummary.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "platform/NameOrdering.h"
+
+namespace quillmere {
+namespace {
+
+using InstallReason = InstalledFormula::InstallReason;
+
+std::string_view detailOf(InstallReason reason) {
+  switch (reason) {
+    case InstallReason::direct:
+      return "Installed on request";
+    case InstallReason::dependency:
+      return "Installed as dependency";
+    case InstallReason::unknown:
+      break;
+  }
+  return "Install reason unknown";
+}
+
+SharedText added(SharedTextBuilder& texts, const QString& text) {
+  const QByteArray utf8 = text.toUtf8();
+  return texts.add(std::string_view(utf8.constData(), utf8.size()));
+}
+
+std::optional<SharedText> added(SharedTextBuilder& texts, const std::optional<QString>& text) {
+  return text ? std::optional(added(texts, *text)) : std::nullopt;
+}
+
+std::vector<SharedText> added(SharedTextBuilder& texts, const QStringList& list) {
+  std::vector<SharedText> result;
+  result.reserve(static_cast<std::size_t>(list.size()));
+  for (const QString& text : list) {
+    result.push_back(added(texts, text));
+  }
+  return result;
+}
+
+InstalledPackageSummary summaryOf(const InstalledFormula& formula, SharedTextBuilder& texts) {
+  InstalledPackageSummary summary;
+  summary.name = added(texts, formula.name);
+  summary.id = texts.add("formula:", summary.name.view());
+  summary.kind = HomebrewPackageSummary::Kind::formula;
+  summary.installedVersions = added(texts, formula.installedVersions);
+  summary.installedVersion = added(texts, formula.currentVersion);
+  summary.detail = texts.addOnce(detailOf(formula.installReason));
+  if (const auto& known = formula.catalogFormula) {
+    summary.description = known->description;
+    summary.latestKnownVersion = known->versions.stable;
+    summary.alternateVersion = known->versions.head;
+    summary.homepage = known->homepage;
+    summary.license = known->license;
+    summary.tap = known->tap;
+    summary.detailItems = known->dependencies;
+  }
+  return summary;
+}
+
+InstalledPackageSummary summaryOf(const InstalledCask& cask, SharedTextBuilder& texts) {
+  const SharedText token = added(texts, cask.token);
+  InstalledPackageSummary summary;
+  summary.id = texts.add("cask:", token.view());
+  summary.kind = HomebrewPackageSummary::Kind::cask;
+  summary.name = token;
+  summary.installedVersions = added(texts, cask.installedVersions);
+  summary.installedVersion = added(texts, cask.currentVersion);
+  summary.detail = texts.add("Cask token: ", token.view());
+  if (const auto& known = cask.catalogCask) {
+    if (!known->names.empty()) {
+      summary.name = known->names.front();
+    }
+    summary.description = known->description;
+    summary.latestKnownVersion = known->version;
+    summary.homepage = known->homepage;
+    summary.tap = known->tap;
+    summary.detailItems = known->artifacts;
+  }
+  return summary;
+}
+
+}  // namespace
+
+InstalledPackageSummary installedPackageSummary(const InstalledFormula& formula) {
+  SharedTextBuilder texts;
+  return summaryOf(formula, texts);
+}
+
+InstalledPackageSummary installedPackageSummary(const InstalledCask& cask) {
+  SharedTextBuilder texts;
+  return summaryOf(cask, texts);
+}
+
+std::vector<InstalledPackageSummary> installedPackageSummaries(
+    const std::vector<InstalledFormula>& formulae, const std::vector<InstalledCask>& casks) {
+  SharedTextBuilder texts;
+  std::vector<InstalledPackageSummary> summaries;
+  summaries.reserve(formulae.size() + casks.size());
+  for (const InstalledFormula& formula : formulae) {
+    summaries.push_back(summaryOf(formula, texts));
+  }
+  for (const InstalledCask& cask : casks) {
+    summaries.push_back(summaryOf(cask, texts));
+  }
+  NameOrdering::ofUser().stableSort(
+      summaries, [](const InstalledPackageSummary& summary) { return summary.name.toString(); });
+  return summaries;
+}
+
+bool comesBefore(const InstalledPackageSummary& left, const InstalledPackageSummary& right) {
+  return NameOrdering::ofUser().compare(left.name.toString(), right.name.toString()) < 0;
+}
+
+}  // namespace quillmere

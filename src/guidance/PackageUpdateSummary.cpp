@@ -1,0 +1,49 @@
+#include "guidance/PackageUpdateSummary.h"
+
+#include <QtCore/QStringList>
+
+#include "platform/NameOrdering.h"
+
+namespace quillmere {
+namespace {
+
+QString spoken(const QString& lead, const std::optional<SharedText>& value) {
+  return lead + (value ? value->toString() : QStringLiteral("unknown"));
+}
+
+PackageUpdateSummary updateOf(const InstalledPackageSummary& package) {
+  return {.package = package,
+          .versionState = {.kind = package.kind,
+                           .name = package.name,
+                           .currentVersion = package.installedVersion,
+                           .latestKnownVersion = package.latestKnownVersion,
+                           .status = packageVersionStatus(package.installedVersion,
+                                                          package.latestKnownVersion)}};
+}
+
+}  // namespace
+
+std::vector<PackageUpdateSummary> packageUpdateSummaries(
+    const std::vector<InstalledPackageSummary>& inventory) {
+  std::vector<PackageUpdateSummary> updates;
+  updates.reserve(inventory.size());
+  for (const InstalledPackageSummary& package : inventory) {
+    updates.push_back(updateOf(package));
+  }
+  NameOrdering::ofUser().stableSort(
+      updates, [](const PackageUpdateSummary& update) { return update.package.name.toString(); });
+  return updates;
+}
+
+QString spokenLabel(const PackageUpdateSummary& update) {
+  const PackageVersionState& state = update.versionState;
+  return QStringList{update.package.name.toString(),
+                     displayLabel(update.package.kind),
+                     rawValue(state.status),
+                     spoken(QStringLiteral("installed "), state.currentVersion),
+                     spoken(QStringLiteral("latest known "), state.latestKnownVersion),
+                     spoken(QStringLiteral("tap "), update.package.tap)}
+      .join(QStringLiteral(", "));
+}
+
+}  // namespace quillmere
