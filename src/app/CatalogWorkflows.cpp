@@ -14,6 +14,9 @@
 #include "platform/FileUrl.h"
 
 namespace quillmere {
+
+using State = PackageCatalogState;
+
 namespace {
 
 QString loadingMessage(CatalogScope scope) {
@@ -89,7 +92,7 @@ QCoro::Task<> CatalogWorkflows::fetch(CatalogScope scope) {
     auto saving = save(std::move(fetched->documents));
     co_await saving;
     if (self) {
-      finish(fetch, CatalogLoaded{std::move(fetched->catalog)});
+      finish(fetch, {State::Loaded{std::move(fetched->catalog)}});
     }
     co_return;
   }
@@ -101,9 +104,9 @@ QCoro::Task<> CatalogWorkflows::fetch(CatalogScope scope) {
   if (fetch.stop.stop_requested()) {
     restoreStateBefore(fetch);
   } else if (cached) {
-    finish(fetch, CatalogLoaded{*std::move(cached)});
+    finish(fetch, {State::Loaded{*std::move(cached)}});
   } else {
-    finish(fetch, CatalogFailed{std::move(fetched).error()});
+    finish(fetch, {State::Failed{std::move(fetched).error()}});
   }
 }
 
@@ -166,8 +169,8 @@ QCoro::Task<bool> CatalogWorkflows::loadCached(CatalogScope scope) {
     co_return false;
   }
   const bool isLoaded = cached.has_value();
-  settledState_ = isLoaded ? PackageCatalogState(CatalogLoaded{*std::move(cached)})
-                           : CatalogFailed{cacheFailureMessage(scope, cached.error())};
+  settledState_ = isLoaded ? State{State::Loaded{*std::move(cached)}}
+                           : State{State::Failed{cacheFailureMessage(scope, cached.error())}};
   setState(settledState_);
   co_return isLoaded;
 }
@@ -197,7 +200,7 @@ auto CatalogWorkflows::begin(CatalogScope scope) -> Fetch {
     fetch.documents.push_back(notBegun(store_.caskCacheURL()));
   }
   fetches_.push_back(fetch);
-  setState(CatalogLoading{loadingMessage(scope)});
+  setState({State::Loading{loadingMessage(scope)}});
   showProgress();
   return fetch;
 }
@@ -210,9 +213,9 @@ void CatalogWorkflows::finish(const Fetch& fetch, PackageCatalogState state) {
 
 void CatalogWorkflows::restoreStateBefore(const Fetch& fetch) {
   remove(fetch);
-  if (std::holds_alternative<CatalogLoading>(state_)) {
+  if (std::holds_alternative<State::Loading>(state_.value)) {
     setState(fetches_.empty() ? settledState_
-                              : CatalogLoading{loadingMessage(fetches_.back().scope)});
+                              : State{State::Loading{loadingMessage(fetches_.back().scope)}});
   }
 }
 

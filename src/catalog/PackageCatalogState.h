@@ -8,35 +8,46 @@
 
 namespace quillmere {
 
-/// Nothing has been asked for yet.
-struct CatalogIdle {
-  bool operator==(const CatalogIdle&) const = default;
-};
+/// What there is of the catalog to show. A value; the catalog is shared and never changes.
+struct PackageCatalogState {
+  /// Nothing has been asked for yet.
+  struct Idle {
+    bool operator==(const Idle&) const = default;
+  };
 
-struct CatalogLoading {
-  /// What is being done, for the user.
-  QString message;
+  struct Loading {
+    /// What is being done, for the user.
+    QString message;
 
-  bool operator==(const CatalogLoading&) const = default;
-};
+    bool operator==(const Loading&) const = default;
+  };
 
-struct CatalogLoaded {
-  /// Never null.
-  PackageCatalogSnapshot catalog;
+  struct Loaded {
+    /// Never null.
+    PackageCatalogSnapshot catalog;
 
-  friend bool operator==(const CatalogLoaded& left, const CatalogLoaded& right) {
-    return left.catalog == right.catalog || *left.catalog == *right.catalog;
+    /// Whether the rows are the same, wherever they are kept.
+    friend bool operator==(const Loaded& left, const Loaded& right) {
+      return left.catalog == right.catalog || *left.catalog == *right.catalog;
+    }
+  };
+
+  struct Failed {
+    /// The sentence for the user.
+    QString message;
+
+    bool operator==(const Failed&) const = default;
+  };
+
+  std::variant<Idle, Loading, Loaded, Failed> value;
+
+  bool operator==(const PackageCatalogState&) const = default;
+
+  /// The catalog, if it is loaded; null otherwise.
+  [[nodiscard]] PackageCatalogSnapshot catalog() const {
+    const auto* const loaded = std::get_if<Loaded>(&value);
+    return loaded != nullptr ? loaded->catalog : nullptr;
   }
 };
-
-struct CatalogFailed {
-  /// Why, for the user.
-  QString message;
-
-  bool operator==(const CatalogFailed&) const = default;
-};
-
-/// What there is of the catalog to show.
-using PackageCatalogState = std::variant<CatalogIdle, CatalogLoading, CatalogLoaded, CatalogFailed>;
 
 }  // namespace quillmere

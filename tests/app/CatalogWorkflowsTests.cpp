@@ -18,6 +18,7 @@ using namespace Qt::StringLiterals;
 namespace quillmere {
 
 using Progress = CatalogWorkflows::Progress;
+using State = PackageCatalogState;
 
 [[maybe_unused]] static void PrintTo(const Progress& progress, std::ostream* out) {
   *out << progress.receivedBytes << " of " << progress.expectedBytes.value_or(-1);
@@ -75,7 +76,7 @@ class CatalogWorkflowsTest : public testing::Test {
   bool loadCached(CatalogScope scope) { return QCoro::waitFor(workflows_->loadCached(scope)); }
 
   [[nodiscard]] QStringList shownIDs() const {
-    const auto* loaded = std::get_if<CatalogLoaded>(&workflows_->state());
+    const auto* loaded = std::get_if<State::Loaded>(&workflows_->state().value);
     QStringList ids;
     for (const auto& package :
          loaded ? loaded->catalog->packages() : std::vector<HomebrewPackageSummary>()) {
@@ -85,12 +86,12 @@ class CatalogWorkflowsTest : public testing::Test {
   }
 
   [[nodiscard]] QString failure() const {
-    const auto* failed = std::get_if<CatalogFailed>(&workflows_->state());
+    const auto* failed = std::get_if<State::Failed>(&workflows_->state().value);
     return failed ? failed->message : u"(not failed)"_s;
   }
 
   [[nodiscard]] QString loadingMessage() const {
-    const auto* loading = std::get_if<CatalogLoading>(&workflows_->state());
+    const auto* loading = std::get_if<State::Loading>(&workflows_->state().value);
     return loading ? loading->message : u"(not loading)"_s;
   }
 
@@ -113,7 +114,7 @@ class CatalogWorkflowsTest : public testing::Test {
 };
 
 TEST_F(CatalogWorkflowsTest, BeginWithNothing) {
-  EXPECT_EQ(workflows_->state(), PackageCatalogState(CatalogIdle{}));
+  EXPECT_EQ(workflows_->state(), State{State::Idle{}});
   EXPECT_EQ(workflows_->fetchProgress(), std::nullopt);
 }
 
@@ -285,7 +286,7 @@ TEST_F(CatalogWorkflowsTest, LeaveEverythingAsItWasWhenCancelled) {
     if (isLoaded) {
       loadCached(CatalogScope::casks);
     }
-    const PackageCatalogState before = workflows_->state();
+    const State before = workflows_->state();
     server_.answer(caskPath, {.body = caskDocument("firefox"), .waits = true});
     auto fetching = workflows_->fetch(CatalogScope::all);
     EXPECT_EQ(loadingMessage(), u"Fetching Homebrew package metadata..."_s);
@@ -306,13 +307,13 @@ TEST_F(CatalogWorkflowsTest, MayBeCancelledAtAnyMoment) {
     }
     workflows_->cancelFetches();
     QCoro::waitFor(fetching);
-    ASSERT_FALSE(std::holds_alternative<CatalogLoading>(workflows_->state()));
+    ASSERT_FALSE(std::holds_alternative<State::Loading>(workflows_->state().value));
     const bool isFetched = store_.catalogLastRefreshDate() == friday;
     EXPECT_EQ(cached(u"formula.json"_s),
               isFetched ? formulaDocument("wget") : formulaDocument("cached-formula"));
     EXPECT_EQ(cached(u"cask.json"_s),
               isFetched ? caskDocument("firefox") : caskDocument("cached-cask"));
-    EXPECT_EQ(std::holds_alternative<CatalogLoaded>(workflows_->state()), isFetched);
+    EXPECT_EQ(std::holds_alternative<State::Loaded>(workflows_->state().value), isFetched);
   }
 }
 

@@ -94,15 +94,23 @@ TEST(PackageCatalog, PassesOnWhatIsWrongWithADocument) {
 }
 
 TEST(PackageCatalogState, IsComparedByWhatItShows) {
+  using State = PackageCatalogState;
   const auto loaded = [](std::string_view name) {
-    return PackageCatalogState(CatalogLoaded{std::make_shared<const PackageCatalog>(
-        std::vector<HomebrewPackageSummary>{formula(name)})});
+    return State{State::Loaded{std::make_shared<const PackageCatalog>(
+        std::vector<HomebrewPackageSummary>{formula(name)})}};
   };
-  EXPECT_EQ(PackageCatalogState(), PackageCatalogState(CatalogIdle{}));
+  EXPECT_EQ(State(), State{State::Idle{}});
   EXPECT_EQ(loaded("a"), loaded("a"));
   EXPECT_NE(loaded("a"), loaded("b"));
-  EXPECT_NE(PackageCatalogState(CatalogLoading{QStringLiteral("a")}),
-            PackageCatalogState(CatalogFailed{QStringLiteral("a")}));
+  EXPECT_NE(State{State::Loading{QStringLiteral("a")}}, State{State::Failed{QStringLiteral("a")}});
+}
+
+TEST(PackageCatalogState, HasACatalogOnlyWhenItIsLoaded) {
+  using State = PackageCatalogState;
+  const auto catalog = std::make_shared<const PackageCatalog>();
+  EXPECT_EQ((State{State::Loaded{catalog}}).catalog(), catalog);
+  EXPECT_EQ(State().catalog(), nullptr);
+  EXPECT_EQ((State{State::Failed{QStringLiteral("a")}}).catalog(), nullptr);
 }
 
 }  // namespace
