@@ -1,7 +1,11 @@
 #include "app/CachedCatalog.h"
 
+#include <QtCore/QFile>
+
+#include <future>
 #include <utility>
 
+#include "catalog/CatalogDecoding.h"
 #include "platform/FileUrl.h"
 #include "platform/RegularFile.h"
 
@@ -14,6 +18,23 @@ std::expected<QByteArray, QString> readDocument(const QUrl& file) {
     return std::unexpected(QStringLiteral("%1: %2").arg(file.fileName(), document.error()));
   }
   return document;
+}
+
+template <typename Records>
+std::expected<Records, QString> recordsIn(
+    const QUrl& file, std::expected<Records, CatalogDecodingError> (*decode)(const QByteArray&)) {
+  if (!QFile::exists(filePath(file))) {
+    return Records();
+  }
+  const auto document = readDocument(file);
+  if (!document) {
+    return std::unexpected(document.error());
+  }
+  auto records = decode(*document);
+  if (!records) {
+    return std::unexpected(records.error().description());
+  }
+  return withoutDuplicates(*std::move(records));
 }
 
 }  // namespace
@@ -49,6 +70,20 @@ std::expected<PackageCatalogSnapshot, QString> readCachedCatalog(const CachedCat
     return std::unexpected(catalog.error().description());
   }
   return *std::move(catalog);
+}
+
+std::expected<CatalogRecords, QString> readCachedRecords(const CachedCatalogFiles& files) {
+  auto readingCasks =
+      std::async(std::launch::async, [&files] { return recordsIn(files.casks, &decodeCasks); });
+  auto formulae = recordsIn(files.formulae, &decodeFormulae);
+  auto casks = readingCasks.get();
+  if (!formulae) {
+    return std::unexpected(std::move(formulae).error());
+  }
+  if (!casks) {
+    return std::unexpected(std::move(casks).error());
+  }
+  return CatalogRecords{.formulae = *std::move(formulae), .casks = *std::move(casks)};
 }
 
 }  // namespace quillmere

@@ -4,9 +4,11 @@
 #include <QtCore/QUrl>
 
 #include <expected>
-#include <optional>
+#include <vector>
 
 #include "app/CatalogScope.h"
+#include "catalog/HomebrewCask.h"
+#include "catalog/HomebrewFormula.h"
 #include "catalog/PackageCatalog.h"
 
 namespace quillmere {
@@ -25,5 +27,15 @@ struct CachedCatalogFiles {
 /// The catalog of those documents, or a sentence that says why there is none. Slow; any thread.
 [[nodiscard]] std::expected<PackageCatalogSnapshot, QString> readCachedCatalog(
     const CachedCatalogFiles& files, CatalogScope scope);
+
+/// The records of the documents that lie in the cache, each name and token once; none of a document
+/// that does not. The error is a sentence for the user.
+struct CatalogRecords {
+  std::vector<HomebrewFormula> formulae;
+  std::vector<HomebrewCask> casks;
+};
+
+[[nodiscard]] std::expected<CatalogRecords, QString> readCachedRecords(
+    const CachedCatalogFiles& files);
 
 }  // namespace quillmere

@@ -76,4 +76,8 @@ FocusScope {
     CommandPreviewHost {
         viewModel: root.viewModel
     }
+
+    PrefixSelectionHost {
+        workflow: root.viewModel.prefixSelection
+    }
 }

@@ -41,12 +41,15 @@ QLatin1StringView planOf(AppSection section) {
 ContentViewModel::ContentViewModel(
     LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
     std::shared_ptr<const DirectCommandExecutionStarting> executionStarter,
-    BrewExecutableResolver resolver, QObject* parent)
+    CatalogWorkflows::Clients catalogClients, BrewExecutableResolver resolver, QObject* parent)
     : QObject(parent),
       store_(store),
       appCapabilities_(appCapabilities),
       executionStarter_(std::move(executionStarter)),
       resolver_(std::move(resolver)),
+      catalog_(store, std::move(catalogClients)),
+      inventory_(store),
+      prefixSelection_(store),
       services_([this](const BrewCommand& command, const QString& sourceScreen) {
         openPreview(command, sourceScreen);
       }),
@@ -62,6 +65,7 @@ void ContentViewModel::select(AppSection section) {
     return;
   }
   selectedSection_ = section;
+  detailNavigationResetID_ = QUuid::createUuid();
   Q_EMIT selectedSectionChanged();
 }
 

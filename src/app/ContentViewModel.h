@@ -2,6 +2,7 @@
 
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QUuid>
 #include <QtQml/qqmlregistration.h>
 
 #include <memory>
@@ -10,6 +11,9 @@
 #include "app/AppCapabilities.h"
 #include "app/AppSection.h"
 #include "app/AppSectionListModel.h"
+#include "app/CatalogWorkflows.h"
+#include "app/InventoryWorkflows.h"
+#include "app/PrefixSelectionWorkflow.h"
 #include "app/QuitGuard.h"
 #include "execution/BrewExecutableResolver.h"
 #include "execution/DirectCommandExecution.h"
@@ -22,8 +26,9 @@ namespace quillmere {
 
 class LocalPersistenceStore;
 
-/// The state of the windows as a whole: the section that is shown and the view models of all
-/// screens. Owned by `QuillmereApp`; UI thread only.
+/// The state of the windows as a whole: the section that is shown, what is known of the catalog and
+/// of the prefix with the workflows that find it out, and the view models of all screens. Owned by
+/// `QuillmereApp`; UI thread only.
 class ContentViewModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -34,6 +39,9 @@ class ContentViewModel : public QObject {
   Q_PROPERTY(QString selectedTitle READ selectedTitle NOTIFY selectedSectionChanged)
   Q_PROPERTY(QString selectedSymbolName READ selectedSymbolName NOTIFY selectedSectionChanged)
   Q_PROPERTY(QString plannedText READ plannedText NOTIFY selectedSectionChanged)
+  Q_PROPERTY(
+      QUuid detailNavigationResetID READ detailNavigationResetID NOTIFY selectedSectionChanged)
+  Q_PROPERTY(quillmere::PrefixSelectionWorkflow* prefixSelection READ prefixSelection CONSTANT)
   Q_PROPERTY(quillmere::ServicesGuidanceViewModel* services READ services CONSTANT)
   Q_PROPERTY(quillmere::CommandHistoryViewModel* history READ history CONSTANT)
   Q_PROPERTY(quillmere::SettingsViewModel* settings READ settings CONSTANT)
@@ -44,6 +52,7 @@ class ContentViewModel : public QObject {
  public:
   ContentViewModel(LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
                    std::shared_ptr<const DirectCommandExecutionStarting> executionStarter,
+                   CatalogWorkflows::Clients catalogClients,
                    BrewExecutableResolver resolver = BrewExecutableResolver(),
                    QObject* parent = nullptr);
   ~ContentViewModel() override;
@@ -55,6 +64,15 @@ class ContentViewModel : public QObject {
   }
 
   void select(AppSection section);
+
+  /// New whenever another section is selected: what was opened inside the one before is gone.
+  [[nodiscard]] const QUuid& detailNavigationResetID() const { return detailNavigationResetID_; }
+
+  [[nodiscard]] CatalogWorkflows& catalog() { return catalog_; }
+
+  [[nodiscard]] InventoryWorkflows& inventory() { return inventory_; }
+
+  [[nodiscard]] PrefixSelectionWorkflow* prefixSelection() { return &prefixSelection_; }
 
   [[nodiscard]] AppSectionListModel* sections() { return &sections_; }
 
@@ -103,6 +121,10 @@ class ContentViewModel : public QObject {
   std::shared_ptr<const DirectCommandExecutionStarting> executionStarter_;
   BrewExecutableResolver resolver_;
   std::optional<AppSection> selectedSection_ = AppSection::dashboard;
+  QUuid detailNavigationResetID_ = QUuid::createUuid();
+  CatalogWorkflows catalog_;
+  InventoryWorkflows inventory_;
+  PrefixSelectionWorkflow prefixSelection_;
   AppSectionListModel sections_;
   ServicesGuidanceViewModel services_;
   CommandHistoryViewModel history_;

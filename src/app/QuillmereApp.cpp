@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QVariantMap>
+#include <QtNetwork/QNetworkProxyFactory>
 #include <QtQuick/QQuickWindow>
 #include <QtQuickControls2/QQuickStyle>
 
@@ -14,6 +15,7 @@ namespace quillmere {
 void QuillmereApp::prepare() {
   QCoreApplication::setOrganizationName(QStringLiteral("Quillmere"));
   QCoreApplication::setApplicationName(QStringLiteral("Quillmere"));
+  QNetworkProxyFactory::setUseSystemConfiguration(true);
   // The look is ours: a style named in the environment must not mix with it.
   QQuickStyle::setStyle(QStringLiteral("Basic"));
   QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
@@ -23,7 +25,8 @@ QuillmereApp::QuillmereApp()
     : localPersistenceStore_(std::make_unique<QSettings>()),
       windowMemory_(std::make_unique<QSettings>()),
       content_(localPersistenceStore_, AppCapabilities::all(),
-               std::make_shared<DirectCommandRunner>()) {
+               std::make_shared<DirectCommandRunner>(),
+               {.formulae = {.session = &session_}, .casks = {.session = &session_}}) {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
 }
 

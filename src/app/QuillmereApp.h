@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QUrl>
+#include <QtNetwork/QNetworkAccessManager>
 #include <QtQml/QQmlApplicationEngine>
 
 #include "app/ContentViewModel.h"
@@ -24,6 +25,7 @@ class QuillmereApp {
  private:
   LocalPersistenceStore localPersistenceStore_;
   WindowMemory windowMemory_;
+  QNetworkAccessManager session_;
   ContentViewModel content_;
   QQmlApplicationEngine engine_;
 };

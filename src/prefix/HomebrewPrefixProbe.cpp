@@ -50,6 +50,12 @@ bool HomebrewPrefixProbeSummary::looksLikeHomebrewPrefix() const {
   });
 }
 
+QString notAHomebrewPrefixText() {
+  return QStringLiteral(
+      "That folder does not look like a Homebrew prefix. Select `/opt/homebrew` or another folder "
+      "that contains `bin/brew`.");
+}
+
 HomebrewPrefixProbeSummary probeHomebrewPrefix(const QUrl& folder) {
   const SecurityScopedAccess access(folder);
   HomebrewPrefixProbeSummary summary{.prefixURL = folder, .scannedAt = {}, .results = {}};

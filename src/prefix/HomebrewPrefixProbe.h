@@ -42,6 +42,9 @@ struct HomebrewPrefixProbeSummary {
   [[nodiscard]] bool looksLikeHomebrewPrefix() const;
 };
 
+/// What a user is told who chose a folder that does not look like a prefix.
+[[nodiscard]] QString notAHomebrewPrefixText();
+
 /// Looks at a folder of this machine. Blocks on the disk for seven look-ups and listings; any
 /// thread.
 [[nodiscard]] HomebrewPrefixProbeSummary probeHomebrewPrefix(const QUrl& folder);

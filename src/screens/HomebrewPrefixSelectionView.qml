@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Dialogs
 import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
@@ -86,14 +85,10 @@ ColumnLayout {
         visible: root.viewModel.hasReport
     }
 
-    FolderDialog {
+    HomebrewPrefixChooser {
         id: chooser
 
-        acceptLabel: "Select Prefix"
         currentFolder: root.viewModel.startFolder
-        // No new folders: a prefix is chosen, not made. qmllint knows no type of this property.
-        options: FolderDialog.ReadOnly // qmllint disable
-        title: "Select your Homebrew prefix. For Apple Silicon Macs, this is usually /opt/homebrew."
 
         onAccepted: root.viewModel.chooseFolder(selectedFolder)
     }

@@ -97,9 +97,7 @@ QCoro::Task<> HomebrewPrefixSelectionViewModel::look(QUrl folder, Purpose purpos
 
 void HomebrewPrefixSelectionViewModel::chosen(const HomebrewPrefixProbeSummary& summary) {
   if (!summary.looksLikeHomebrewPrefix()) {
-    showReport(summary,
-               QStringLiteral("That folder does not look like a Homebrew prefix. Select "
-                              "`/opt/homebrew` or another folder that contains `bin/brew`."));
+    showReport(summary, notAHomebrewPrefixText());
     return;
   }
   {

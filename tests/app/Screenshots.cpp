@@ -86,7 +86,7 @@ class Stage {
         store_(settings_.open(), settings_.cacheDirectoryURL()),
         memory_(settings_.open()),
         content_(store_, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
-                 BrewExecutableResolver(disk_)) {
+                 CatalogWorkflows::Clients(), BrewExecutableResolver(disk_)) {
     disk_->released.release();
     prefix_.withBrew(test::fakeBrewScript()).withAllLocations();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -46,7 +46,7 @@ struct World {
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
   WindowMemory memory{settings.open()};
   ContentViewModel content{store, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
-                           BrewExecutableResolver(disk)};
+                           CatalogWorkflows::Clients(), BrewExecutableResolver(disk)};
 };
 
 /// What the test may ask of the world; reaches QML as `stage`. Between two tests there is no world,

@@ -1,0 +1,100 @@
+#include "app/InventoryWorkflows.h"
+
+#include <QCoroFuture>
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QFutureWatcher>
+#include <QtCore/QPointer>
+
+#include <utility>
+
+#include "app/LocalInventory.h"
+#include "persistence/LocalPersistenceStore.h"
+#include "platform/BackgroundThreads.h"
+
+namespace quillmere {
+
+using State = InstalledPackagesState;
+
+namespace {
+
+void scanInBackground(QPromise<LocalInventory>& promise, const QUrl& prefix,
+                      const HomebrewPrefixFileSystemPtr& fileSystem,
+                      const CachedCatalogFiles& cachedCatalog) {
+  const auto progress = [&promise](qsizetype scanned, qsizetype total) {
+    promise.setProgressRange(0, static_cast<int>(total));
+    promise.setProgressValue(static_cast<int>(scanned));
+  };
+  promise.addResult(scanLocalInventory(prefix, fileSystem, cachedCatalog, progress));
+}
+
+}  // namespace
+
+InventoryWorkflows::InventoryWorkflows(LocalPersistenceStore& store,
+                                       HomebrewPrefixFileSystemPtr fileSystem, QObject* parent)
+    : QObject(parent), store_(store), fileSystem_(std::move(fileSystem)) {
+  connect(&store_, &LocalPersistenceStore::selectedHomebrewPrefixPathChanged, this,
+          &InventoryWorkflows::followSelection);
+}
+
+QCoro::Task<> InventoryWorkflows::scan() {
+  const QPointer<InventoryWorkflows> self(this);
+  const std::optional<QUrl> prefix = store_.resolvedPrefixURL();
+  if (!prefix) {
+    settle({State::AccessNeeded{}});
+    co_return;
+  }
+  const int generation = generation_;
+  setState({State::Loading{}});
+  setProgress(Progress{});
+  const CachedCatalogFiles cachedCatalog{.formulae = store_.formulaCacheURL(),
+                                         .casks = store_.caskCacheURL()};
+  const QFuture<LocalInventory> scanning = QtConcurrent::run(backgroundThreads(), &scanInBackground,
+                                                             *prefix, fileSystem_, cachedCatalog);
+  QFutureWatcher<LocalInventory> watcher;
+  connect(&watcher, &QFutureWatcherBase::progressValueChanged, this,
+          [this, generation, &watcher](int scanned) {
+            if (generation == generation_ && scanProgress_) {
+              setProgress(
+                  Progress{.scannedPackages = scanned, .knownPackages = watcher.progressMaximum()});
+            }
+          });
+  watcher.setFuture(scanning);
+  const LocalInventory inventory = co_await scanning;
+  if (!self || generation != generation_) {
+    co_return;
+  }
+  if (inventory.scannedAt) {
+    store_.setLocalInventoryLastScanDate(inventory.scannedAt);
+  }
+  settle(inventory.state);
+}
+
+void InventoryWorkflows::cancelScans() {
+  ++generation_;
+  settle(settledState_);
+}
+
+/// What was found in one prefix says nothing about another.
+void InventoryWorkflows::followSelection() {
+  ++generation_;
+  settle({State::Idle{}});
+}
+
+void InventoryWorkflows::settle(InstalledPackagesState state) {
+  setProgress(std::nullopt);
+  settledState_ = state;
+  setState(std::move(state));
+}
+
+void InventoryWorkflows::setState(InstalledPackagesState state) {
+  state_ = std::move(state);
+  Q_EMIT stateChanged();
+}
+
+void InventoryWorkflows::setProgress(std::optional<Progress> progress) {
+  if (std::exchange(scanProgress_, progress) != progress) {
+    Q_EMIT scanProgressChanged();
+  }
+}
+
+}  // namespace quillmere

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QCoroTask>
+#include <QtCore/QDateTime>
+#include <QtCore/QObject>
+
+#include <optional>
+
+#include "guidance/InstalledPackagesState.h"
+#include "prefix/HomebrewPrefixFileSystem.h"
+
+namespace quillmere {
+
+class LocalPersistenceStore;
+
+/// Finds out what is installed in the selected prefix, and owns what is known of it. Scans may
+/// overlap: the last to finish has the last word. They run on another thread; the state changes on
+/// the UI thread alone. Owned by `ContentViewModel`.
+class InventoryWorkflows : public QObject {
+  Q_OBJECT
+ public:
+  /// How far a scan has come.
+  struct Progress {
+    int scannedPackages = 0;
+    /// Grows when the scan goes on from the formulae to the casks.
+    int knownPackages = 0;
+    bool operator==(const Progress&) const = default;
+  };
+
+  explicit InventoryWorkflows(LocalPersistenceStore& store,
+                              HomebrewPrefixFileSystemPtr fileSystem = platformFileSystem(),
+                              QObject* parent = nullptr);
+
+  [[nodiscard]] const InstalledPackagesState& state() const { return state_; }
+
+  /// Absent when no scan is under way.
+  [[nodiscard]] const std::optional<Progress>& scanProgress() const { return scanProgress_; }
+
+  /// Scans the selected prefix, tells from the cached catalog which versions are the latest, and
+  /// records when.
+  QCoro::Task<> scan();
+  /// Shows again what was shown before. The disk may not answer, so nobody waits for the scan.
+  void cancelScans();
+
+ Q_SIGNALS:
+  void stateChanged();
+  void scanProgressChanged();
+
+ private:
+  void followSelection();
+  void setState(InstalledPackagesState state);
+  void settle(InstalledPackagesState state);
+  void setProgress(std::optional<Progress> progress);
+
+  LocalPersistenceStore& store_;
+  HomebrewPrefixFileSystemPtr fileSystem_;
+  InstalledPackagesState state_;
+  /// What a cancelled scan leaves behind: the last state that was not loading.
+  InstalledPackagesState settledState_;
+  std::optional<Progress> scanProgress_;
+  /// Counts what makes the scans that are under way useless: another prefix, or nobody waits.
+  int generation_ = 0;
+};
+
+}  // namespace quillmere
