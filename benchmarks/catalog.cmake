@@ -1,5 +1,9 @@
+add_library(benchmark_real_catalog STATIC RealCatalog.cpp)
+target_link_libraries(benchmark_real_catalog
+  PUBLIC quillmere_platform quillmere_test_support PRIVATE quillmere_compiler)
+target_compile_definitions(benchmark_real_catalog PRIVATE
+  QUILLMERE_REAL_DATA="${PROJECT_SOURCE_DIR}/../shared/data")
+
 quillmere_benchmark(catalog
   SOURCES catalog.cpp
-  LINK quillmere_catalog quillmere_test_support simdjson::simdjson)
-target_compile_definitions(benchmark_catalog PRIVATE
-  QUILLMERE_REAL_DATA="${PROJECT_SOURCE_DIR}/../shared/data")
+  LINK quillmere_catalog benchmark_real_catalog simdjson::simdjson)

@@ -1,7 +1,6 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
-#include <QtCore/QProcess>
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -9,51 +8,18 @@
 #include <random>
 #include <simdjson.h>
 
-#include "catalog/CatalogDecoding.h"
+#include "RealCatalog.h"
 #include "catalog/PackageCatalogFilter.h"
 #include "platform/NameOrdering.h"
-#include "platform/RegularFile.h"
-#include "support/GeneratedCatalog.h"
 
 namespace quillmere {
 namespace {
 
-struct Documents {
-  QByteArray formulae;
-  QByteArray casks;
-
-  [[nodiscard]] qint64 size() const { return formulae.size() + casks.size(); }
-};
-
-/// The document as Homebrew writes it; empty where it or `xz` is not at hand.
-QByteArray realDocument(const QString& name) {
-  const QString folder =
-      qEnvironmentVariable("QUILLMERE_REAL_DATA", QStringLiteral(QUILLMERE_REAL_DATA));
-  QProcess xz;
-  xz.start(QStringLiteral("xz"), {QStringLiteral("--decompress"), QStringLiteral("--stdout"),
-                                  folder + u'/' + name + QStringLiteral(".json.xz")});
-  QByteArray document = xz.waitForFinished() ? xz.readAllStandardOutput() : QByteArray();
-  // As it comes out of the cache.
-  document.reserve(document.size() + readAheadPadding);
-  return document;
-}
-
-const Documents& realDocuments() {
-  static const Documents documents = {.formulae = realDocument(QStringLiteral("formula")),
-                                      .casks = realDocument(QStringLiteral("cask"))};
-  return documents;
-}
-
-Documents generatedDocuments(int times) {
-  return {.formulae = generatedFormulaDocument(8554 * times),
-          .casks = generatedCaskDocument(7701 * times)};
-}
-
 /// Runs `task` on the real documents, or says that they are absent.
 template <typename Task>
 void onRealDocuments(benchmark::State& state, const Task& task) {
-  const Documents& documents = realDocuments();
-  if (documents.formulae.isEmpty() || documents.casks.isEmpty()) {
+  const CatalogBytes& documents = realCatalog();
+  if (documents.isEmpty()) {
     state.SkipWithError("no real documents; QUILLMERE_REAL_DATA names their folder");
     return;
   }
@@ -63,7 +29,7 @@ void onRealDocuments(benchmark::State& state, const Task& task) {
   state.SetBytesProcessed(state.iterations() * documents.size());
 }
 
-PackageCatalogSnapshot catalogOf(const Documents& documents) {
+PackageCatalogSnapshot catalogOf(const CatalogBytes& documents) {
   return decodeCatalog({.formulae = documents.formulae, .casks = documents.casks}).value();
 }
 
@@ -77,13 +43,13 @@ void parse(const QByteArray& document) {
 /// As the program does it: side by side, to summaries with their search index.
 void decodeBothToCatalog(benchmark::State& state) {
   onRealDocuments(
-      state, [](const Documents& documents) { benchmark::DoNotOptimize(catalogOf(documents)); });
+      state, [](const CatalogBytes& documents) { benchmark::DoNotOptimize(catalogOf(documents)); });
 }
 
 BENCHMARK(decodeBothToCatalog)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void parseBothWithSimdjsonDom(benchmark::State& state) {
-  onRealDocuments(state, [](const Documents& documents) {
+  onRealDocuments(state, [](const CatalogBytes& documents) {
     parse(documents.formulae);
     parse(documents.casks);
   });
@@ -92,7 +58,7 @@ void parseBothWithSimdjsonDom(benchmark::State& state) {
 BENCHMARK(parseBothWithSimdjsonDom)->Unit(benchmark::kMillisecond);
 
 void parseBothWithQJsonDocument(benchmark::State& state) {
-  onRealDocuments(state, [](const Documents& documents) {
+  onRealDocuments(state, [](const CatalogBytes& documents) {
     benchmark::DoNotOptimize(QJsonDocument::fromJson(documents.formulae));
     benchmark::DoNotOptimize(QJsonDocument::fromJson(documents.casks));
   });
@@ -101,20 +67,20 @@ void parseBothWithQJsonDocument(benchmark::State& state) {
 BENCHMARK(parseBothWithQJsonDocument)->Unit(benchmark::kMillisecond);
 
 /// Catalogs of one, three and ten times the real size, beside their floor: the ratio stays.
-template <void (*task)(const Documents&)>
+template <void (*task)(const CatalogBytes&)>
 void onGeneratedCatalog(benchmark::State& state) {
-  const Documents documents = generatedDocuments(static_cast<int>(state.range(0)));
+  const CatalogBytes documents = generatedCatalog(static_cast<int>(state.range(0)));
   for (auto _ : state) {
     task(documents);
   }
   state.SetBytesProcessed(state.iterations() * documents.size());
 }
 
-void decodeGenerated(const Documents& documents) {
+void decodeGenerated(const CatalogBytes& documents) {
   benchmark::DoNotOptimize(catalogOf(documents));
 }
 
-void parseGenerated(const Documents& documents) {
+void parseGenerated(const CatalogBytes& documents) {
   parse(documents.formulae);
   parse(documents.casks);
 }
@@ -157,7 +123,7 @@ double allocated() {
 void keepCatalog(benchmark::State& state) {
   double kept = 0;
   std::size_t texts = 0;
-  onRealDocuments(state, [&](const Documents& documents) {
+  onRealDocuments(state, [&](const CatalogBytes& documents) {
     const double before = allocated();
     const PackageCatalogSnapshot catalog = catalogOf(documents);
     kept = allocated() - before;
@@ -221,9 +187,8 @@ BENCHMARK(makeSortKeys)->Unit(benchmark::kMillisecond);
 /// The catalog that searches are measured on: the real one, or as many generated packages.
 const PackageCatalog& searchedCatalog() {
   static const PackageCatalogSnapshot catalog = [] {
-    const Documents& real = realDocuments();
-    return catalogOf(real.formulae.isEmpty() || real.casks.isEmpty() ? generatedDocuments(1)
-                                                                     : real);
+    const CatalogBytes& real = realCatalog();
+    return catalogOf(real.isEmpty() ? generatedCatalog(1) : real);
   }();
   return *catalog;
 }

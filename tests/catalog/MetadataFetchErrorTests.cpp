@@ -1,7 +1,6 @@
-#include "catalog/MetadataFetchError.h"
-
 #include <gtest/gtest.h>
 
+#include "catalog/MetadataFetchError.h"
 #include "support/Printers.h"
 
 namespace quillmere {

@@ -1,0 +1,36 @@
+#include "RealCatalog.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QString>
+
+#include "platform/RegularFile.h"
+#include "support/GeneratedCatalog.h"
+
+namespace quillmere {
+namespace {
+
+QByteArray realDocument(const QString& name) {
+  const QString folder =
+      qEnvironmentVariable("QUILLMERE_REAL_DATA", QStringLiteral(QUILLMERE_REAL_DATA));
+  QProcess xz;
+  xz.start(QStringLiteral("xz"), {QStringLiteral("--decompress"), QStringLiteral("--stdout"),
+                                  folder + u'/' + name + QStringLiteral(".json.xz")});
+  QByteArray document = xz.waitForFinished() ? xz.readAllStandardOutput() : QByteArray();
+  document.reserve(document.size() + readAheadPadding);
+  return document;
+}
+
+}  // namespace
+
+const CatalogBytes& realCatalog() {
+  static const CatalogBytes documents = {.formulae = realDocument(QStringLiteral("formula")),
+                                         .casks = realDocument(QStringLiteral("cask"))};
+  return documents;
+}
+
+CatalogBytes generatedCatalog(int times) {
+  return {.formulae = generatedFormulaDocument(8554 * times),
+          .casks = generatedCaskDocument(7701 * times)};
+}
+
+}  // namespace quillmere
