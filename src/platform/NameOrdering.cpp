@@ -33,21 +33,8 @@ QCollatorSortKey NameOrdering::sortKey(const QString& name) const {
   return collator_.sortKey(name);
 }
 
-std::vector<std::size_t> NameOrdering::stableOrder(const std::vector<QString>& names) const {
-  // A key costs as much as several comparisons, and lists are often sorted by one who got them
-  // sorted.
-  const auto comesBefore = [this](const QString& left, const QString& right) {
-    return compare(left, right) < 0;
-  };
-  if (std::ranges::is_sorted(names, comesBefore)) {
-    return {};
-  }
-  std::vector<QCollatorSortKey> keys;
-  keys.reserve(names.size());
-  for (const QString& name : names) {
-    keys.push_back(sortKey(name));
-  }
-  std::vector<std::size_t> order(names.size());
+std::vector<std::size_t> NameOrdering::stableOrder(const std::vector<QCollatorSortKey>& keys) {
+  std::vector<std::size_t> order(keys.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
   // With the place as the last word, nothing is equal; the library's own stable sort does not build
   // with clang without a warning.

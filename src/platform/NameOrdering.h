@@ -4,7 +4,6 @@
 #include <QtCore/QString>
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -29,28 +28,41 @@ class NameOrdering {
   /// What the comparison needs to know of `name`, for comparing it often.
   [[nodiscard]] QCollatorSortKey sortKey(const QString& name) const;
 
-  /// Sorts `items` by what `nameOf(item)` gives as a `QString`, asked once for each; those that are
-  /// equal keep their order. Items that are in order already cost one comparison each.
+  /// Sorts `items` by what `nameOf(item)` gives as a `QString`, asked at most twice for each; those
+  /// that are equal keep their order. Items that are in order already cost one comparison each.
   template <typename Items, typename NameOf>
   void stableSort(Items& items, const NameOf& nameOf) const {
-    std::vector<QString> names;
-    names.reserve(static_cast<std::size_t>(items.size()));
-    std::ranges::transform(items, std::back_inserter(names), nameOf);
-    const std::vector<std::size_t> order = stableOrder(names);
-    if (order.empty()) {
+    // A key costs as much as several comparisons, and lists are often sorted by one who got them
+    // sorted.
+    if (isInOrder(items, nameOf)) {
       return;
+    }
+    std::vector<QCollatorSortKey> keys;
+    keys.reserve(static_cast<std::size_t>(items.size()));
+    for (const auto& item : std::as_const(items)) {
+      keys.push_back(sortKey(nameOf(item)));
     }
     Items sorted;
     sorted.reserve(items.size());
-    for (const std::size_t index : order) {
+    for (const std::size_t index : stableOrder(keys)) {
       sorted.push_back(std::move(items[static_cast<decltype(items.size())>(index)]));
     }
     items = std::move(sorted);
   }
 
  private:
-  /// The indexes of `names` in the order of the names; empty when they are in order as they stand.
-  [[nodiscard]] std::vector<std::size_t> stableOrder(const std::vector<QString>& names) const;
+  template <typename Items, typename NameOf>
+  [[nodiscard]] bool isInOrder(const Items& items, const NameOf& nameOf) const {
+    QString previous;
+    return std::ranges::all_of(items, [&](const auto& item) {
+      const QString last = std::exchange(previous, nameOf(item));
+      return compare(last, previous) <= 0;
+    });
+  }
+
+  /// The indexes of the keys in the order of the keys.
+  [[nodiscard]] static std::vector<std::size_t> stableOrder(
+      const std::vector<QCollatorSortKey>& keys);
 
   QCollator collator_;
 };
