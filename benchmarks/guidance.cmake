@@ -1,0 +1,3 @@
+quillmere_benchmark(guidance
+  SOURCES guidance.cpp
+  LINK quillmere_guidance)
