@@ -44,7 +44,10 @@ void check(const QByteArray& json) {
 }  // namespace quillmere
 
 extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size) {
-  quillmere::check(
-      QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size)));
+  const auto bytes =
+      QByteArray::fromRawData(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+  quillmere::check(bytes);
+  // Few inputs are whole documents; more of them are whole values.
+  quillmere::check("{\"installed_on_request\":" + bytes + '}');
   return 0;
 }

@@ -44,6 +44,9 @@ std::optional<HomebrewInstallReceipt> receiptOf(const simdjson::dom::element& ro
 class HomebrewInstallReceiptReader::Parser {
  public:
   std::optional<HomebrewInstallReceipt> read(QByteArrayView json, bool copies) {
+    if (json.isEmpty()) {
+      return std::nullopt;  // and has perhaps no address to copy from
+    }
     simdjson::dom::element root;
     const auto error =
         parser_.parse(json.data(), static_cast<std::size_t>(json.size()), copies).get(root);
