@@ -17,11 +17,9 @@
 namespace quillmere {
 namespace {
 
-/// How much the platform keeps ready as it came over the line. It unpacks that in one go on the UI
-/// thread, twice, because it counts first; JSON unpacks to some seven times the size.
+/// How much the platform may take from the line before it is taken from there. It unpacks that in
+/// one go on the UI thread; JSON unpacks to some seven times the size.
 constexpr qint64 readBufferBytes = qint64{64} * 1024;
-/// How much of the document is taken in one turn of the event loop.
-constexpr qint64 stepBytes = qint64{256} * 1024;
 constexpr qint64 progressInterval = 34;
 
 MetadataFetchResult transportError(const QString& message) {
@@ -66,6 +64,8 @@ class Download : public QObject {
   qint64 takeBytes();
   void reserve(qint64 bytes);
   void reportProgress();
+  [[nodiscard]] QVariant status() const;
+  [[nodiscard]] bool isPacked() const;
   [[nodiscard]] std::optional<qint64> statedLength() const;
   [[nodiscard]] bool isCut() const;
   [[nodiscard]] MetadataFetchResult judge();
@@ -152,8 +152,10 @@ void Download::step() {
 }
 
 /// Reads behind what is there already: the document is never copied from one place to another.
+/// Takes all that waits, because the platform lets a full buffer follow whatever little is taken,
+/// and unpacks from the start again once ten megabytes wait.
 qint64 Download::takeBytes() {
-  const qint64 available = std::min(reply_->bytesAvailable(), stepBytes);
+  const qint64 available = reply_->bytesAvailable();
   if (available <= 0) {
     return 0;
   }
@@ -186,13 +188,22 @@ void Download::reportProgress() {
   }
 }
 
+/// The status of an HTTP response; not valid for anything else, even where the platform makes up a
+/// status, as it does for files.
+QVariant Download::status() const {
+  return reply_->url().scheme().startsWith(u"http")
+             ? reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute)
+             : QVariant();
+}
+
 /// The document's size as the server says it; what it says of a packed body is of no use here.
 std::optional<qint64> Download::statedLength() const {
   const QVariant length = reply_->header(QNetworkRequest::ContentLengthHeader);
-  if (!length.isValid() || reply_->hasRawHeader("Content-Encoding")) {
-    return std::nullopt;
-  }
-  return length.toLongLong();
+  return length.isValid() && !isPacked() ? std::optional(length.toLongLong()) : std::nullopt;
+}
+
+bool Download::isPacked() const {
+  return reply_->hasRawHeader("Content-Encoding");
 }
 
 /// Whether the end of the body is missing. The platform takes a chunked or packed body for whole
@@ -208,20 +219,19 @@ bool Download::isCut() const {
 
 /// What came of a reply that has ended.
 MetadataFetchResult Download::judge() {
-  const QVariant status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute);
+  const int code = status().toInt();
   const QNetworkReply::NetworkError error = reply_->error();
   // The platform has errors of its own for the status of an answer that arrived.
-  const bool isStatus = status.toInt() >= 400 &&
-                        (error == QNetworkReply::ProxyAuthenticationRequiredError ||
-                         error >= QNetworkReply::ContentAccessDenied);
+  const bool isStatus = code >= 400 && (error == QNetworkReply::ProxyAuthenticationRequiredError ||
+                                        error >= QNetworkReply::ContentAccessDenied);
   if (error != QNetworkReply::NoError && !isStatus) {
     return transportError(reply_->errorString());
   }
-  if (!status.isValid()) {
+  if (!status().isValid()) {
     return std::unexpected(HomebrewFormulaMetadataError::invalidResponse());
   }
-  if (status.toInt() < 200 || status.toInt() > 299) {
-    return std::unexpected(HomebrewFormulaMetadataError::httpStatus(status.toInt()));
+  if (code < 200 || code > 299) {
+    return std::unexpected(HomebrewFormulaMetadataError::httpStatus(code));
   }
   if (isCut()) {
     return transportError(
@@ -239,7 +249,7 @@ void Download::end(MetadataFetchResult result) {
   patience_.stop();
   if (reply_) {
     disconnect(reply_, nullptr, this, nullptr);
-    reply_->abort();
+    // What is still under way ends with it.
     reply_->deleteLater();
     reply_.clear();
   }

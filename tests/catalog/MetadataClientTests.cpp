@@ -1,98 +1,177 @@
-#include <QCoroTask>
-#include <QtNetwork/QNetworkAccessManager>
-
-#include <gtest/gtest.h>
-
-#include "catalog/HomebrewFormulaMetadataClient.h"
-#include "support/CatalogServer.h"
-#include "support/GeneratedCatalog.h"
-#include "support/Printers.h"
+#include "catalog/DownloadFixture.h"
+#include "catalog/HomebrewCaskMetadataClient.h"
+#include "platform/RegularFile.h"
 
 namespace quillmere::test {
 namespace {
-void show(const char* what, const CatalogServer& server, const QUrl& url,
-          MetadataFetchOptions o = {}) {
-  QNetworkAccessManager session;
-  HomebrewFormulaMetadataClient client{url, &session};
-  const auto n = server.requests().size();
-  const auto r = QCoro::waitFor(client.fetch(o));
-  printf("%-28s requests %d: %s\n", what, int(server.requests().size() - n),
-         r ? ("body " + r->left(30) + " " + QByteArray::number(r->size())).constData()
-           : qPrintable(description(r.error())));
+
+using testing::ElementsAre;
+using testing::Pair;
+using testing::UnorderedElementsAre;
+
+class MetadataClient : public Download {};
+
+TEST(MetadataClientDefaults, AreThePublicDocuments) {
+  EXPECT_EQ(HomebrewFormulaMetadataClient().apiURL.toString(),
+            QStringLiteral("https://formulae.brew.sh/api/formula.json"));
+  EXPECT_EQ(HomebrewCaskMetadataClient().apiURL.toString(),
+            QStringLiteral("https://formulae.brew.sh/api/cask.json"));
 }
 
-void show(const char* what, CatalogServer& server, Answer a, MetadataFetchOptions o = {}) {
-  server.answer("/a", a);
-  show(what, server, server.url("/a"), o);
+TEST(MetadataClientDefaults, EndTheProcessWhenTheFixedTextIsNoUrl) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_DEATH((void)urlFromFixedText(QStringLiteral("https://bad host/")), "is not a URL");
 }
 
-TEST(Explore, All) {
-  CatalogServer s;
-  using E = Answer::Ending;
-  using F = Answer::Framing;
-  const QByteArray doc = generatedFormulaDocument(300);
-  printf("doc %d\n", int(doc.size()));
-  show("200", s, Answer{.body = "[1]"});
-  for (auto& [n, v] : s.requests().back().headers)
-    printf("   %s: %s\n", n.constData(), v.constData());
-  show("200 gzip", s, Answer{.body = doc, .gzip = true});
-  show("200 gzip chunked", s, Answer{.body = doc, .gzip = true, .framing = F::chunked});
-  show("200 connectionEnd", s, Answer{.body = doc, .framing = F::connectionEnd});
-  for (int c : {204, 300, 304, 401, 404, 407, 503})
-    show(QByteArray::number(c), s, Answer{.status = c});
-  show("300 body", s, Answer{.status = 300, .body = "hello"});
-  show("404 gzip", s, Answer{.status = 404, .body = doc, .gzip = true});
-  for (E e : {E::close, E::cut, E::reset}) {
-    printf("--- ending %d\n", int(e));
-    show("cut length", s, Answer{.body = doc, .bodyBytes = 100000, .ending = e});
-    show("cut chunked", s,
-         Answer{.body = doc, .framing = F::chunked, .bodyBytes = 100000, .ending = e});
-    show("cut end", s,
-         Answer{.body = doc, .framing = F::connectionEnd, .bodyBytes = 100000, .ending = e});
-    show("cut gzip", s, Answer{.body = doc, .gzip = true, .bodyBytes = 5000, .ending = e});
-    show("cut gzip chunked", s,
-         Answer{.body = doc, .gzip = true, .framing = F::chunked, .bodyBytes = 5000, .ending = e});
-    show("cut head 0", s, Answer{.body = doc, .headBytes = 0, .ending = e});
-    show("cut head 10", s, Answer{.body = doc, .headBytes = 10, .ending = e});
-    show("cut head 30", s, Answer{.body = doc, .headBytes = 30, .ending = e});
-  }
-  s.answer("/to", Answer{.body = "[2]"});
-  for (int c : {301, 302, 303, 307, 308}) {
-    Answer a = redirect(s.url("/to"), c);
-    a.body = doc;
-    show("redirect", s, a);
-  }
-  {
-    Answer a = redirect(s.url("/to"));
-    a.body = doc;
-    a.gzip = true;
-    show("redirect gzip", s, a);
-  }
-  show("redirect http", s, redirect(QUrl(QStringLiteral("http://127.0.0.1:1/x"))));
-  show("redirect loop", s, redirect(s.url("/a")));
-  show("redirect no loc", s, Answer{.status = 302});
-  show("bomb", s, Answer{.body = QByteArray(60'000'000, '0'), .gzip = true});
-  show("cap", s, Answer{.body = doc}, {.maximumBytes = 100000});
-  show("cap gz", s, Answer{.body = doc, .gzip = true}, {.maximumBytes = 100000});
-  show("no gzip in truth", s, Answer{.body = doc, .headers = {{"Content-Encoding", "gzip"}}});
-  show("cookie", s, Answer{.body = doc, .headers = {{"Set-Cookie", "a=b"}}});
-  show("data", s, QUrl(QStringLiteral("data:,hello")));
-  show("file", s, QUrl(QStringLiteral("file:///etc/passwd")));
-  show("nofile", s, QUrl(QStringLiteral("file:///nonsense")));
-  show("scheme", s, QUrl(QStringLiteral("foo://x/y")));
-  show("nothing", s, QUrl(QStringLiteral("https://127.0.0.1:1/")));
-  show("silent", s, Answer{.headBytes = 0, .ending = E::silence},
-       {.patience = {std::chrono::milliseconds(200), 1000}});
-  show("silent in body", s, Answer{.body = doc, .bodyBytes = 70000, .ending = E::silence},
-       {.patience = {std::chrono::milliseconds(200), 1000}});
-  {
-    CatalogServer o(ServerIdentity::selfSigned);
-    show("selfsigned", o, Answer{});
-  }
-  {
-    CatalogServer o(ServerIdentity::otherHost);
-    show("other", o, Answer{});
+TEST_F(MetadataClient, HandsOnTheBodyAsItIs) {
+  EXPECT_EQ(fetch({.body = " [1, 2]\n"}), " [1, 2]\n");
+  EXPECT_THAT(requestedPaths(), ElementsAre(path));
+}
+
+TEST_F(MetadataClient, FetchesCasksToo) {
+  server.answer("/api/cask.json", {.body = "[]"});
+  const HomebrewCaskMetadataClient casks{.apiURL = server.url("/api/cask.json"),
+                                         .session = &session};
+  EXPECT_EQ(QCoro::waitFor(casks.fetch()), "[]");
+  EXPECT_THAT(requestedPaths(), ElementsAre("/api/cask.json"));
+}
+
+TEST_F(MetadataClient, UnpacksAndJoinsWhateverWayTheBodyComes) {
+  for (const auto framing :
+       {Answer::Framing::length, Answer::Framing::chunked, Answer::Framing::connectionEnd}) {
+    for (const bool gzip : {false, true}) {
+      const auto result = fetch({.body = document, .gzip = gzip, .framing = framing});
+      ASSERT_EQ(told(result), "");
+      EXPECT_TRUE(result == document);
+    }
   }
 }
+
+TEST_F(MetadataClient, LeavesRoomBehindTheDocumentForItsReader) {
+  for (const qint64 expected : {qint64{0}, qint64{10}, qint64{document.size()}, qint64{1} << 60}) {
+    const auto result = fetch({.body = document}, {.expectedBytes = expected});
+    ASSERT_EQ(told(result), "");
+    EXPECT_GE(result->capacity(), result->size() + readAheadPadding);
+  }
+}
+
+TEST_F(MetadataClient, DoesNotJudgeTheContentType) {
+  EXPECT_EQ(fetch({.body = "<html>", .headers = {{"Content-Type", "text/html"}}}), "<html>");
+}
+
+TEST_F(MetadataClient, TakesStatusesFrom200To299) {
+  EXPECT_EQ(fetch({.status = 200, .body = "[]"}), "[]");
+  EXPECT_EQ(fetch({.status = 204}), "");
+  EXPECT_EQ(fetch({.status = 299, .body = "[]"}), "[]");
+}
+
+TEST_F(MetadataClient, RefusesOtherStatusesWithOneRequestEach) {
+  const std::vector<int> codes = {300, 304, 400, 401, 403, 404, 407, 410, 429, 500, 503, 599};
+  for (const int code : codes) {
+    const auto result = fetch({.status = code, .body = code == 304 ? "" : "an apology"});
+    EXPECT_EQ(result,
+              MetadataFetchResult(std::unexpected(HomebrewFormulaMetadataError::httpStatus(code))));
+    EXPECT_EQ(told(result), "Homebrew returned HTTP status " + std::to_string(code) + ".");
+  }
+  EXPECT_EQ(requestedPaths().size(), codes.size());
+}
+
+TEST_F(MetadataClient, RefusesWhatIsNotHttp) {
+  QTemporaryDir folder;
+  QFile file(folder.filePath(QStringLiteral("formula.json")));
+  ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write("[]") == 2);
+  file.close();
+  for (const QUrl& url : {QUrl(QStringLiteral("data:,[]")), QUrl::fromLocalFile(file.fileName())}) {
+    EXPECT_EQ(told(fetch(url)), "Homebrew returned an invalid response.");
+  }
+}
+
+TEST_F(MetadataClient, SendsNothingThatTellsOneUserFromAnother) {
+  (void)fetch({.body = "[]"});
+  const Request request = server.requests().value(0);
+  EXPECT_EQ(request.method, "GET");
+  EXPECT_EQ(request.version, "HTTP/1.1");
+  // All that the platform adds. It would put the desktop's language where "en,*" is.
+  const QByteArray host = server.url(path).authority().toLatin1();
+  EXPECT_THAT(
+      request.headers,
+      UnorderedElementsAre(Pair("Host", host), Pair("Accept-Language", "en,*"),
+                           Pair("Accept-Encoding", testing::_), Pair("Connection", "Keep-Alive"),
+                           Pair("User-Agent", "Mozilla/5.0")));
+}
+
+TEST_F(MetadataClient, BringsNoCookieBack) {
+  (void)fetch({.body = "[]", .headers = {{"Set-Cookie", "visitor=1; Path=/"}}});
+  (void)fetch();
+  ASSERT_EQ(server.requests().size(), 2);
+  for (const auto& [name, value] : server.requests().at(1).headers) {
+    EXPECT_NE(name.toLower(), "cookie");
+  }
+}
+
+TEST_F(MetadataClient, FollowsRedirectsToHttps) {
+  server.answer("/moved", {.body = "[2]"});
+  for (const int status : {301, 302, 303, 307, 308}) {
+    Answer moved = redirect(server.url("/moved"), status);
+    moved.body = "[\"not this\"]";
+    EXPECT_EQ(fetch(moved), "[2]");
+    EXPECT_EQ(requestedPaths().back(), "/moved");
+  }
+}
+
+TEST_F(MetadataClient, RefusesARedirectToPlainHttp) {
+  EXPECT_EQ(told(fetch(redirect(QUrl(QStringLiteral("http://127.0.0.1:1/"))))),
+            "Insecure redirect");
+}
+
+TEST_F(MetadataClient, LeavesALoopOfRedirects) {
+  EXPECT_EQ(told(fetch(redirect(server.url(path)))), "Too many redirects");
+}
+
+TEST_F(MetadataClient, ReportsProgressInBytesOfTheDocument) {
+  for (const bool gzip : {false, true}) {
+    std::vector<MetadataProgress> reports;
+    const auto result = fetch(
+        {.body = document, .gzip = gzip},
+        {.onProgress = [&reports](MetadataProgress progress) { reports.push_back(progress); }});
+    ASSERT_EQ(told(result), "");
+    ASSERT_GE(reports.size(), 2);
+    for (std::size_t i = 0; i < reports.size(); ++i) {
+      EXPECT_EQ(reports[i].totalBytes,
+                gzip ? std::nullopt : std::optional<qint64>(document.size()));
+      EXPECT_TRUE(i == 0 || reports[i].receivedBytes >= reports[i - 1].receivedBytes);
+    }
+    EXPECT_EQ(reports.back().receivedBytes, document.size());
+  }
+}
+
+TEST_F(MetadataClient, ReportsProgressAtMostThirtyTimesASecond) {
+  int reports = 0;
+  QElapsedTimer clock;
+  clock.start();
+  const auto result =
+      fetch({.body = document, .pieceBytes = document.size() / 200},
+            {.onProgress = [&reports](MetadataProgress /*progress*/) { ++reports; }});
+  ASSERT_EQ(told(result), "");
+  // One at once, one at the end.
+  EXPECT_LE(reports, clock.elapsed() / 33 + 2);
+}
+
+TEST_F(MetadataClient, FetchesManyAtOnce) {
+  constexpr int count = 20;
+  std::vector<QCoro::Task<MetadataFetchResult>> fetches;
+  for (int i = 0; i < count; ++i) {
+    const QByteArray each = "/" + QByteArray::number(i);
+    server.answer(each, {.body = document + QByteArray(i, ' '), .gzip = i % 2 == 0});
+    fetches.push_back(client(server.url(each)).fetch());
+  }
+  for (int i = 0; i < count; ++i) {
+    const auto result = QCoro::waitFor(fetches[static_cast<std::size_t>(i)]);
+    ASSERT_EQ(told(result), "");
+    EXPECT_EQ(result->size(), document.size() + i);
+  }
+  EXPECT_EQ(server.requests().size(), count);
+}
+
 }  // namespace
 }  // namespace quillmere::test

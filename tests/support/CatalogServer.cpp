@@ -1,6 +1,7 @@
 #include "support/CatalogServer.h"
 
 #include <QtCore/QEventLoop>
+#include <QtCore/QProcess>
 #include <QtNetwork/QSslServer>
 #include <QtNetwork/QSslSocket>
 
@@ -12,6 +13,20 @@
 #include "support/ScriptedConnection.h"
 
 namespace quillmere::test {
+namespace {
+
+QByteArray gzipped(const QByteArray& body) {
+  QProcess gzip;
+  gzip.start(QStringLiteral("gzip"), {QStringLiteral("-c")});
+  gzip.write(body);
+  gzip.closeWriteChannel();
+  if (!gzip.waitForFinished() || gzip.exitCode() != 0) {
+    qFatal("gzip: %s", qUtf8Printable(gzip.errorString()));
+  }
+  return gzip.readAllStandardOutput();
+}
+
+}  // namespace
 
 Answer redirect(const QUrl& target, int status) {
   return {.status = status, .headers = {{"Location", target.toEncoded()}}};
@@ -23,10 +38,10 @@ class CatalogServer::Private {
   explicit Private(ServerIdentity identity) {
     std::promise<quint16> port;
     std::future<quint16> listening = port.get_future();
-    thread_ = std::jthread([this, configuration = serverConfiguration(identity),
-                            promise = std::move(port)]() mutable {
-      serve(configuration, std::move(promise));
-    });
+    thread_ = std::jthread(
+        [this, configuration = serverConfiguration(identity), promise = std::move(port)]() mutable {
+          serve(configuration, std::move(promise));
+        });
     port_ = listening.get();
   }
 
@@ -110,6 +125,9 @@ CatalogServer::CatalogServer(ServerIdentity identity) {
 CatalogServer::~CatalogServer() = default;
 
 void CatalogServer::answer(const QByteArray& path, Answer answer) {
+  if (answer.gzip) {
+    answer.body = gzipped(answer.body);
+  }
   d_->answer(path, std::move(answer));
 }
 
@@ -118,9 +136,8 @@ void CatalogServer::release() {
 }
 
 QUrl CatalogServer::url(const QByteArray& path) const {
-  return QUrl(QStringLiteral("https://127.0.0.1:%1%2")
-                  .arg(d_->port())
-                  .arg(QString::fromLatin1(path)));
+  return QUrl(
+      QStringLiteral("https://127.0.0.1:%1%2").arg(d_->port()).arg(QString::fromLatin1(path)));
 }
 
 QList<Request> CatalogServer::requests() const {

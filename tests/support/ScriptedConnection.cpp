@@ -1,23 +1,11 @@
 #include "support/ScriptedConnection.h"
 
-#include <QtCore/QProcess>
 #include <QtNetwork/QSslSocket>
 
 #include <sys/socket.h>
 
 namespace quillmere::test {
 namespace {
-
-QByteArray gzipped(const QByteArray& body) {
-  QProcess gzip;
-  gzip.start(QStringLiteral("gzip"), {QStringLiteral("-c")});
-  gzip.write(body);
-  gzip.closeWriteChannel();
-  if (!gzip.waitForFinished() || gzip.exitCode() != 0) {
-    qFatal("gzip: %s", qUtf8Printable(gzip.errorString()));
-  }
-  return gzip.readAllStandardOutput();
-}
 
 /// In chunks of uneven sizes.
 QByteArray chunked(const QByteArray& body) {
@@ -64,10 +52,8 @@ QByteArray headOf(const Answer& answer, qsizetype bodySize) {
 
 /// What `answer` puts on the line.
 QByteArray bytesOf(const Answer& answer) {
-  QByteArray body = answer.gzip ? gzipped(answer.body) : answer.body;
-  if (answer.framing == Answer::Framing::chunked) {
-    body = chunked(body);
-  }
+  const QByteArray body =
+      answer.framing == Answer::Framing::chunked ? chunked(answer.body) : answer.body;
   const QByteArray head = headOf(answer, body.size());
   if (answer.headBytes) {
     return head.left(*answer.headBytes);

@@ -52,18 +52,17 @@ class Workshop {
 
   static void run(const QStringList& arguments) {
     QProcess openssl;
-    openssl.start(QStringLiteral("openssl"),
-                  QStringList{QStringLiteral("req"), QStringLiteral("-x509"),
-                              QStringLiteral("-newkey"), QStringLiteral("ec"),
-                              QStringLiteral("-pkeyopt"),
-                              QStringLiteral("ec_paramgen_curve:prime256v1"),
-                              QStringLiteral("-nodes"), QStringLiteral("-days"),
-                              QStringLiteral("2")} +
-                      arguments);
+    openssl.start(
+        QStringLiteral("openssl"),
+        QStringList{QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"),
+                    QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
+                    QStringLiteral("ec_paramgen_curve:prime256v1"), QStringLiteral("-nodes"),
+                    QStringLiteral("-days"), QStringLiteral("2")} +
+            arguments);
     if (!openssl.waitForFinished() || openssl.exitCode() != 0) {
-      qFatal("openssl: %s", (openssl.errorString().toUtf8() + openssl.readAll() +
-                             openssl.readAllStandardError())
-                                .constData());
+      qFatal("openssl: %s",
+             (openssl.errorString().toUtf8() + openssl.readAll() + openssl.readAllStandardError())
+                 .constData());
     }
   }
 
@@ -79,15 +78,15 @@ Certificates make() {
   const Workshop workshop;
   const auto here = QStringLiteral("IP:127.0.0.1,DNS:localhost");
   const auto elsewhere = QStringLiteral("DNS:elsewhere.example");
-  return {.authority = workshop.read(QStringLiteral("authority.pem")),
-          .servers = {
-              {ServerIdentity::trusted,
-               workshop.certificate(QStringLiteral("trusted"), here, true)},
-              {ServerIdentity::selfSigned,
-               workshop.certificate(QStringLiteral("selfsigned"), here, false)},
-              {ServerIdentity::otherHost,
-               workshop.certificate(QStringLiteral("other"), elsewhere, true)},
-          }};
+  return {
+      .authority = workshop.read(QStringLiteral("authority.pem")),
+      .servers = {
+          {ServerIdentity::trusted, workshop.certificate(QStringLiteral("trusted"), here, true)},
+          {ServerIdentity::selfSigned,
+           workshop.certificate(QStringLiteral("selfsigned"), here, false)},
+          {ServerIdentity::otherHost,
+           workshop.certificate(QStringLiteral("other"), elsewhere, true)},
+      }};
 }
 
 const Certificates& certificates() {
