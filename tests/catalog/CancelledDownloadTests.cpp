@@ -1,3 +1,4 @@
+#include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 #include <QtNetwork/QNetworkReply>
 

@@ -1,3 +1,4 @@
+#include <QtCore/QElapsedTimer>
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 
