@@ -3,7 +3,6 @@
 #include <QtCore/QFile>
 #include <QtCore/QStringList>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 
 #include "platform/FileUrl.h"
@@ -38,14 +37,11 @@ class SizeEstimate {
       return false;
     }
     while (const dirent* const entry = entries.next()) {
-      struct stat status = {};
-      if (fstatat(entries.descriptor(), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) {
-        continue;
-      }
-      if (S_ISDIR(status.st_mode)) {
+      const auto status = entries.status(*entry);
+      if (status && S_ISDIR(status->st_mode)) {
         remaining_ += path + u'/' + QFile::decodeName(entry->d_name);
-      } else if (S_ISREG(status.st_mode)) {
-        addFile(status.st_size);
+      } else if (status && S_ISREG(status->st_mode)) {
+        addFile(status->st_size);
       }
     }
     return true;

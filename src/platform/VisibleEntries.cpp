@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <unistd.h>
 
 namespace quillmere {
 
@@ -14,6 +15,9 @@ VisibleEntries::VisibleEntries(const QString& path, Links links) {
   folder_.reset(descriptor < 0 ? nullptr : fdopendir(descriptor));
   if (!folder_) {
     error_.assign(errno, std::generic_category());
+    if (descriptor >= 0) {
+      close(descriptor);
+    }
   }
 }
 
@@ -30,6 +34,14 @@ const dirent* VisibleEntries::next() {
     }
   }
   return nullptr;
+}
+
+std::optional<struct stat> VisibleEntries::status(const dirent& entry) const {
+  struct stat status = {};
+  const int folder = dirfd(folder_.get());
+  const bool isKnown =
+      folder >= 0 && fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0;
+  return isKnown ? std::optional(status) : std::nullopt;
 }
 
 }  // namespace quillmere

@@ -4,6 +4,8 @@
 
 #include <dirent.h>
 #include <memory>
+#include <optional>
+#include <sys/stat.h>
 #include <system_error>
 
 namespace quillmere {
@@ -23,8 +25,9 @@ class VisibleEntries {
   /// Why the folder could not be opened or read to its end.
   [[nodiscard]] std::error_code error() const { return error_; }
 
-  /// The folder, for looking at its entries.
-  [[nodiscard]] int descriptor() const { return dirfd(folder_.get()); }
+  /// What an entry of this folder is, a link itself and not what it leads to; absent when that
+  /// cannot be told. Opens nothing.
+  [[nodiscard]] std::optional<struct stat> status(const dirent& entry) const;
 
  private:
   struct Closer {

@@ -60,6 +60,30 @@ TEST_F(VisibleEntriesOf, AFileOrOfNothingAreAnError) {
   EXPECT_EQ(ofNothing.error(), std::errc::no_such_file_or_directory);
 }
 
+TEST_F(VisibleEntriesOf, AFolderAreWhatTheyAreAndNotWhatTheyLeadTo) {
+  ASSERT_TRUE(QFile::link(u"."_s, pathOf(u"link"_s)));
+  VisibleEntries entries(folder_.path());
+  int seen = 0;
+  while (const dirent* const entry = entries.next()) {
+    const auto status = entries.status(*entry);
+    const QByteArray name = entry->d_name;
+    ASSERT_TRUE(status) << name.constData();
+    EXPECT_EQ(S_ISREG(status->st_mode), name == "file");
+    EXPECT_EQ(S_ISDIR(status->st_mode), name == "folder");
+    EXPECT_EQ(S_ISLNK(status->st_mode), name == "link");
+    ++seen;
+  }
+  EXPECT_EQ(seen, 3);
+}
+
+TEST_F(VisibleEntriesOf, AFolderThatVanishedAreUnknown) {
+  VisibleEntries entries(folder_.path());
+  const dirent* const entry = entries.next();
+  ASSERT_NE(entry, nullptr);
+  ASSERT_TRUE(folder_.remove());
+  EXPECT_FALSE(entries.status(*entry));
+}
+
 TEST_F(VisibleEntriesOf, ALinkAreThoseOfItsFolderUnlessLinksAreRefused) {
   ASSERT_TRUE(QFile::link(folder_.path(), pathOf(u"folder/link"_s)));
   VisibleEntries followed(pathOf(u"folder/link"_s));
