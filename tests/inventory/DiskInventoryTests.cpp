@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "inventory/HomebrewCaskInventoryScanner.h"
 #include "inventory/HomebrewFormulaInventoryScanner.h"
@@ -102,9 +103,15 @@ TEST(DiskInventory, LeavesOutAFolderWhoseNameIsNoText) {
   DemoPrefix prefix;
   prefix.withFolder(u"Cellar/wget/1.0"_s);
   const QByteArray cellar = QFile::encodeName(prefix.pathOf(u"Cellar"_s));
-  ASSERT_EQ(mkdir((cellar + "/broken\xFF\xFE").constData(), 0755), 0);
-  ASSERT_EQ(mkdir((cellar + "/wget/2.0\xC3").constData(), 0755), 0);
+  const QByteArrayList folders = {cellar + "/broken\xFF\xFE", cellar + "/wget/2.0\xC3"};
+  for (const QByteArray& folder : folders) {
+    ASSERT_EQ(mkdir(folder.constData(), 0755), 0);
+  }
   const auto formulae = formulaeOf(prefix);
+  // Qt knows no name for them and would leave them behind.
+  for (const QByteArray& folder : folders) {
+    EXPECT_EQ(rmdir(folder.constData()), 0);
+  }
   EXPECT_EQ(namesOf(formulae), QStringList{u"wget"_s});
   EXPECT_EQ(formulae[0].installedVersions, (QStringList{u"1.0"_s, u"2.0\uFFFD"_s}));
 }
