@@ -171,6 +171,9 @@ std::expected<std::vector<Record>, CatalogDecodingError> decodeDocument(
     return std::unexpected(
         CatalogDecodingError{.document = RecordKind<Record>::document, .problem = problem});
   };
+  if (document.isEmpty()) {
+    return failure(problemOf(simdjson::EMPTY));
+  }
   static_assert(readAheadPadding >= qsizetype{simdjson::SIMDJSON_PADDING});
   const bool isPadded = QByteArray(document).data_ptr().freeSpaceAtEnd() >= readAheadPadding;
   simdjson::dom::parser parser;

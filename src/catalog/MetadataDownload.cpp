@@ -21,6 +21,7 @@ namespace {
 /// one go on the UI thread; JSON unpacks to some seven times the size.
 constexpr qint64 readBufferBytes = qint64{64} * 1024;
 constexpr qint64 progressInterval = 34;
+constexpr qint64 mebibyte = qint64{1024} * 1024;
 
 MetadataFetchResult transportError(const QString& message) {
   return std::unexpected(MetadataTransportError{message});
@@ -136,7 +137,7 @@ void Download::step() {
   const qint64 taken = hasFailed ? 0 : takeBytes();
   if (std::max(qint64{body_.size()}, statedLength().value_or(0)) > options_.maximumBytes) {
     end(transportError(QStringLiteral("The document is too large: more than %1 MiB.")
-                           .arg(options_.maximumBytes / (1024 * 1024))));
+                           .arg(options_.maximumBytes / mebibyte)));
   } else if (taken > 0) {
     nextStep_.start(0);
     if (!sinceProgress_.isValid() || sinceProgress_.hasExpired(progressInterval)) {
@@ -257,7 +258,7 @@ void Download::end(MetadataFetchResult result) {
 }
 
 MetadataFetchResult Download::takeResult() {
-  return options_.stop.stop_requested() ? cancelled() : std::move(*result_);
+  return options_.stop.stop_requested() ? cancelled() : std::move(result_).value_or(cancelled());
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 #include <QtNetwork/QNetworkReply>
 

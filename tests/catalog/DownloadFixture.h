@@ -1,6 +1,10 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QFile>
+#include <QtCore/QTemporaryDir>
 #include <QtNetwork/QNetworkAccessManager>
 
 #include <gmock/gmock.h>

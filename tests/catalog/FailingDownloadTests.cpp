@@ -1,4 +1,3 @@
-#include <QtCore/QElapsedTimer>
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 

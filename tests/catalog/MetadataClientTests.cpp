@@ -1,7 +1,3 @@
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
-
 #include "catalog/DownloadFixture.h"
 #include "catalog/HomebrewCaskMetadataClient.h"
 #include "platform/RegularFile.h"

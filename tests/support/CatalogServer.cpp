@@ -1,7 +1,6 @@
 #include "support/CatalogServer.h"
 
 #include <QtCore/QEventLoop>
-#include <QtCore/QProcess>
 #include <QtNetwork/QSslServer>
 #include <QtNetwork/QSslSocket>
 
@@ -11,22 +10,9 @@
 #include <thread>
 
 #include "support/ScriptedConnection.h"
+#include "support/ToolOutput.h"
 
 namespace quillmere::test {
-namespace {
-
-QByteArray gzipped(const QByteArray& body) {
-  QProcess gzip;
-  gzip.start(QStringLiteral("gzip"), {QStringLiteral("-c")});
-  gzip.write(body);
-  gzip.closeWriteChannel();
-  if (!gzip.waitForFinished() || gzip.exitCode() != 0) {
-    qFatal("gzip: %s", qUtf8Printable(gzip.errorString()));
-  }
-  return gzip.readAllStandardOutput();
-}
-
-}  // namespace
 
 Answer redirect(const QUrl& target, int status) {
   return {.status = status, .headers = {{"Location", target.toEncoded()}}};
@@ -126,7 +112,7 @@ CatalogServer::~CatalogServer() = default;
 
 void CatalogServer::answer(const QByteArray& path, Answer answer) {
   if (answer.gzip) {
-    answer.body = gzipped(answer.body);
+    answer.body = toolOutput(QStringLiteral("gzip"), {QStringLiteral("-c")}, answer.body);
   }
   d_->answer(path, std::move(answer));
 }

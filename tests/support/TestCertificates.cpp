@@ -1,13 +1,14 @@
 #include "support/TestCertificates.h"
 
 #include <QtCore/QFile>
-#include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
 #include <QtNetwork/QSslCertificate>
 #include <QtNetwork/QSslKey>
 
 #include <map>
 #include <mutex>
+
+#include "support/ToolOutput.h"
 
 namespace quillmere::test {
 namespace {
@@ -51,19 +52,13 @@ class Workshop {
   QString path(const QString& name) const { return folder_.filePath(name); }
 
   static void run(const QStringList& arguments) {
-    QProcess openssl;
-    openssl.start(
-        QStringLiteral("openssl"),
-        QStringList{QStringLiteral("req"), QStringLiteral("-x509"), QStringLiteral("-newkey"),
-                    QStringLiteral("ec"), QStringLiteral("-pkeyopt"),
-                    QStringLiteral("ec_paramgen_curve:prime256v1"), QStringLiteral("-nodes"),
-                    QStringLiteral("-days"), QStringLiteral("2")} +
-            arguments);
-    if (!openssl.waitForFinished() || openssl.exitCode() != 0) {
-      qFatal("openssl: %s",
-             (openssl.errorString().toUtf8() + openssl.readAll() + openssl.readAllStandardError())
-                 .constData());
-    }
+    const QStringList newKey = {
+        QStringLiteral("req"),      QStringLiteral("-x509"),
+        QStringLiteral("-newkey"),  QStringLiteral("ec"),
+        QStringLiteral("-pkeyopt"), QStringLiteral("ec_paramgen_curve:prime256v1"),
+        QStringLiteral("-nodes"),   QStringLiteral("-days"),
+        QStringLiteral("2")};
+    (void)toolOutput(QStringLiteral("openssl"), newKey + arguments);
   }
 
   QTemporaryDir folder_;
