@@ -2,6 +2,8 @@
 
 #include <QtCore/QLocale>
 
+#include <algorithm>
+#include <iterator>
 #include <numeric>
 
 namespace quillmere {
@@ -11,6 +13,32 @@ QLocale languageOf(const QLocale& locale) {
   const bool hasLanguage =
       locale.language() != QLocale::C && locale.language() != QLocale::AnyLanguage;
   return hasLanguage ? locale : QLocale(QLocale::English, QLocale::UnitedStates);
+}
+
+/// Where the parts of `order` end that are in order, each as long as it is; a part in the reverse
+/// order is turned.
+template <typename ComesBefore>
+std::vector<std::ptrdiff_t> endsOfRuns(std::vector<std::size_t>& order,
+                                       const ComesBefore& comesBefore) {
+  std::vector<std::ptrdiff_t> ends;
+  for (auto begin = order.begin(); begin != order.end();) {
+    const auto isNext = [&comesBefore](std::size_t left, std::size_t right) {
+      return comesBefore(right, left);
+    };
+    auto end = std::adjacent_find(begin, order.end(), isNext);
+    end = end == order.end() ? end : std::next(end);
+    if (end == std::next(begin)) {
+      const auto isNoLonger = [&comesBefore](std::size_t left, std::size_t right) {
+        return !comesBefore(right, left);
+      };
+      end = std::adjacent_find(begin, order.end(), isNoLonger);
+      end = end == order.end() ? end : std::next(end);
+      std::reverse(begin, end);
+    }
+    begin = end;
+    ends.push_back(end - order.begin());
+  }
+  return ends;
 }
 
 }  // namespace
@@ -34,14 +62,29 @@ QCollatorSortKey NameOrdering::sortKey(const QString& name) const {
 }
 
 std::vector<std::size_t> NameOrdering::stableOrder(const std::vector<QCollatorSortKey>& keys) {
+  // Lists come nearly in order, and a comparison is a walk through memory: so what is in order is
+  // kept and merged. The library's own stable sort does not look for that, and does not build with
+  // clang without a warning.
+  const auto comesBefore = [&keys](std::size_t left, std::size_t right) {
+    return keys[left].compare(keys[right]) < 0;
+  };
   std::vector<std::size_t> order(keys.size());
   std::iota(order.begin(), order.end(), std::size_t{0});
-  // With the place as the last word, nothing is equal; the library's own stable sort does not build
-  // with clang without a warning.
-  std::ranges::sort(order, [&keys](std::size_t left, std::size_t right) {
-    const int compared = keys[left].compare(keys[right]);
-    return compared < 0 || (compared == 0 && left < right);
-  });
+  std::vector<std::ptrdiff_t> ends = endsOfRuns(order, comesBefore);
+  std::vector<std::size_t> merged(order.size());
+  while (ends.size() > 1) {
+    std::vector<std::ptrdiff_t> mergedEnds;
+    std::ptrdiff_t begin = 0;
+    for (std::size_t run = 0; run < ends.size(); run += 2) {
+      const std::ptrdiff_t middle = ends[run];
+      const std::ptrdiff_t end = run + 1 < ends.size() ? ends[run + 1] : middle;
+      std::merge(order.begin() + begin, order.begin() + middle, order.begin() + middle,
+                 order.begin() + end, merged.begin() + begin, comesBefore);
+      mergedEnds.push_back(begin = end);
+    }
+    std::swap(order, merged);
+    std::swap(ends, mergedEnds);
+  }
   return order;
 }
 

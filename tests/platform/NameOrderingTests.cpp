@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <random>
 
 #include "platform/NameOrdering.h"
 
@@ -100,6 +101,27 @@ TEST(NameOrdering, KeepsTheOrderOfEqualNamesAmongMany) {
   EXPECT_EQ(firstWget - items.begin(), 500);
   EXPECT_TRUE(std::ranges::is_sorted(items.begin(), firstWget, {}, &Item::number));
   EXPECT_TRUE(std::ranges::is_sorted(firstWget, items.end(), {}, &Item::number));
+}
+
+TEST(NameOrdering, SortsWhateverTheOrderBefore) {
+  const NameOrdering ordering(QLocale::c());
+  std::minstd_rand random(1);
+  for (int size = 0; size < 200; ++size) {
+    std::vector<Item> items;
+    for (int i = 0; i < size; ++i) {
+      // Parts in order, parts in the reverse order, and equal names among them.
+      const auto draw = static_cast<int>(random() % 8);
+      const int number = draw < 3 ? i : draw < 6 ? size - i : draw;
+      items.push_back({QStringLiteral("package-%1").arg(number / 3), i});
+    }
+    ordering.stableSort(items, [](const Item& item) { return item.name; });
+    EXPECT_EQ(items.size(), static_cast<std::size_t>(size));
+    const bool isSorted = std::ranges::is_sorted(items, [&](const Item& left, const Item& right) {
+      const int compared = ordering.compare(left.name, right.name);
+      return compared < 0 || (compared == 0 && left.number < right.number);
+    });
+    EXPECT_TRUE(isSorted) << size;
+  }
 }
 
 TEST(NameOrdering, AsksEachItemForItsNameAtMostTwice) {
