@@ -84,7 +84,8 @@ TEST(DirectCommandRunnerCancel, ReachesToolsInProcessGroupsOfTheirOwn) {
   const FinishedRun run = finish(execution);
   EXPECT_TRUE(run.result.wasCancelled);
   EXPECT_EQ(run.result.exitCode, 1);
-  EXPECT_EQ(run.result.standardError, "Error: SIGTERM\n");
+  // The shell may find the time to say that its jobs were terminated.
+  EXPECT_TRUE(run.result.standardError.contains("Error: SIGTERM\n"));
   const qint64 session = sessionOf(run);
   EXPECT_TRUE(
       QTest::qWaitFor([session] { return livingProcessesOfSession(session).isEmpty(); }, 5000));
