@@ -72,19 +72,16 @@ TEST_F(FormulaCatalogViewModelTest, NarrowsToOneType) {
 
 TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
   model_.setCatalog(catalogOf(someFormulae, someCasks));
-  std::vector<QString> shown;
+  // An answer may be there before the next question, but never after it.
   QObject::connect(&model_, &FormulaCatalogViewModel::resultsChanged, &model_, [&] {
-    if (!model_.isFiltering()) {
-      shown.push_back(model_.filteredResults()->request.searchQuery);
-    }
+    EXPECT_EQ(model_.filteredResults()->request.searchQuery, model_.searchText());
   });
   for (const QString& text : {u"c"_s, u"cu"_s, u"w"_s, u"wge"_s}) {
     model_.setSearchText(text);
   }
   waitForResults();
-  EXPECT_THAT(visible(), ElementsAre(1, 2));
   QTest::qWait(20);
-  EXPECT_THAT(shown, ElementsAre(u"wge"_s));
+  EXPECT_THAT(visible(), ElementsAre(1, 2));
 }
 
 TEST_F(FormulaCatalogViewModelTest, DoesNotSearchAgainForTheSameRequest) {
