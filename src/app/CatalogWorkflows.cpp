@@ -186,7 +186,7 @@ auto CatalogWorkflows::readCached(CatalogScope scope)
 
 void CatalogWorkflows::cancelFetches() {
   // Stopping one may end it at once, and with it its place in the list.
-  for (Fetch fetch : std::vector(fetches_)) {
+  for (const Fetch& fetch : std::vector(fetches_)) {
     fetch.stop.request_stop();
   }
 }

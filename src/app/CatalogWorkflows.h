@@ -46,6 +46,7 @@ class CatalogWorkflows : public QObject {
   CatalogWorkflows(LocalPersistenceStore& store, Clients clients,
                    Clock clock = &QDateTime::currentDateTimeUtc, QObject* parent = nullptr);
   ~CatalogWorkflows() override;
+  Q_DISABLE_COPY_MOVE(CatalogWorkflows)
 
   [[nodiscard]] const PackageCatalogState& state() const { return state_; }
 
