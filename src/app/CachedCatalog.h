@@ -6,7 +6,7 @@
 #include <expected>
 #include <vector>
 
-#include "app/CatalogScope.h"
+#include "catalog/CatalogScope.h"
 #include "catalog/HomebrewCask.h"
 #include "catalog/HomebrewFormula.h"
 #include "catalog/PackageCatalog.h"

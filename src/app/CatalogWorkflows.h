@@ -10,7 +10,7 @@
 #include <stop_token>
 #include <vector>
 
-#include "app/CatalogScope.h"
+#include "catalog/CatalogScope.h"
 #include "catalog/HomebrewCaskMetadataClient.h"
 #include "catalog/HomebrewFormulaMetadataClient.h"
 #include "catalog/PackageCatalogState.h"

@@ -11,8 +11,6 @@ FocusScope {
 
     required property ContentViewModel viewModel
 
-    readonly property string section: viewModel.selectedSection
-
     Sidebar {
         id: sidebar
 
@@ -24,53 +22,14 @@ FocusScope {
         width: Theme.sidebarWidth
     }
 
-    // A screen lives while its section is selected.
-    Item {
+    SectionScreen {
+        id: screen
+
         anchors.bottom: parent.bottom
         anchors.left: sidebar.right
         anchors.right: parent.right
         anchors.top: parent.top
-
-        Repeater {
-            model: root.section === "services" ? 1 : 0
-
-            delegate: ServicesGuidanceView {
-                anchors.fill: parent
-                viewModel: root.viewModel.services
-            }
-        }
-
-        Repeater {
-            model: root.section === "history" ? 1 : 0
-
-            delegate: CommandHistoryView {
-                anchors.fill: parent
-                viewModel: root.viewModel.history
-            }
-        }
-
-        Repeater {
-            model: root.section === "settings" ? 1 : 0
-
-            delegate: SettingsView {
-                anchors.fill: parent
-                viewModel: root.viewModel.settings
-            }
-        }
-
-        Repeater {
-            model: root.viewModel.plannedText.length > 0 ? 1 : 0
-
-            delegate: SectionPlaceholderView {
-                anchors.fill: parent
-                plan: root.viewModel.plannedText
-                symbolName: root.viewModel.selectedSymbolName
-                title: root.viewModel.selectedTitle
-
-                onServicesWanted: root.viewModel.selectServices()
-                onSettingsWanted: root.viewModel.selectSettings()
-            }
-        }
+        viewModel: root.viewModel
     }
 
     CommandPreviewHost {
@@ -79,5 +38,12 @@ FocusScope {
 
     PrefixSelectionHost {
         workflow: root.viewModel.prefixSelection
+    }
+
+    OnboardingSheet {
+        shown: root.viewModel.showsOnboarding
+
+        onFinished: root.viewModel.finishOnboarding()
+        onSelectPrefixWanted: root.viewModel.prefixSelection.begin()
     }
 }

@@ -8,35 +8,7 @@
 #include "commands/PreparedCommandAction.h"
 #include "persistence/LocalPersistenceStore.h"
 
-using namespace Qt::StringLiterals;
-
 namespace quillmere {
-namespace {
-
-QLatin1StringView planOf(AppSection section) {
-  switch (section) {
-    case AppSection::dashboard:
-      return "An overview of Homebrew on this computer will stand here. Until then, choose your "
-             "Homebrew prefix in Settings, then look at a command in Services."_L1;
-    case AppSection::installed:
-      return "The packages in your Homebrew prefix will be listed here."_L1;
-    case AppSection::browse:
-      return "The formulae and casks that Homebrew offers will be found here."_L1;
-    case AppSection::updates:
-      return "Packages with a newer version will be listed here."_L1;
-    case AppSection::cleanup:
-      return "Old versions and the size of the download cache will be shown here."_L1;
-    case AppSection::aboutLegal:
-      return "What Quillmere is, and its licence, will be told here."_L1;
-    case AppSection::services:
-    case AppSection::history:
-    case AppSection::settings:
-      break;
-  }
-  return {};
-}
-
-}  // namespace
 
 ContentViewModel::ContentViewModel(
     LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
@@ -50,12 +22,18 @@ ContentViewModel::ContentViewModel(
       catalog_(store, std::move(catalogClients)),
       inventory_(store),
       prefixSelection_(store),
-      services_([this](const BrewCommand& command, const QString& sourceScreen) {
-        openPreview(command, sourceScreen);
-      }),
+      dashboard_(store, appCapabilities),
+      updates_(previewRequest()),
+      cleanup_(previewRequest()),
+      services_(previewRequest()),
       history_(store),
       settings_(store),
       settingsWindow_(store) {
+  connectCatalog();
+  connectInventory();
+  connectScreens();
+  tellCatalog();
+  tellInventory();
 }
 
 ContentViewModel::~ContentViewModel() = default;
@@ -66,6 +44,7 @@ void ContentViewModel::select(AppSection section) {
   }
   selectedSection_ = section;
   detailNavigationResetID_ = QUuid::createUuid();
+  details_.clear();
   Q_EMIT selectedSectionChanged();
 }
 
@@ -85,14 +64,24 @@ QString ContentViewModel::selectedSymbolName() const {
   return selectedSection_ ? QString(symbolName(*selectedSection_)) : QString();
 }
 
-QString ContentViewModel::plannedText() const {
-  return selectedSection_ ? QString(planOf(*selectedSection_)) : QString();
-}
-
 void ContentViewModel::selectIndex(int index) {
   if (index >= 0 && index < sections_.rowCount()) {
     select(allAppSections[static_cast<std::size_t>(index)]);
   }
+}
+
+bool ContentViewModel::showsOnboarding() const {
+  return !store_.hasCompletedOnboarding();
+}
+
+void ContentViewModel::finishOnboarding() {
+  store_.setHasCompletedOnboarding(true);
+}
+
+PreviewRequest ContentViewModel::previewRequest() {
+  return [this](const BrewCommand& command, const QString& sourceScreen) {
+    openPreview(command, sourceScreen);
+  };
 }
 
 void ContentViewModel::openPreview(const BrewCommand& command, const QString& sourceScreen) {

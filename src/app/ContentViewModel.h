@@ -12,15 +12,21 @@
 #include "app/AppSection.h"
 #include "app/AppSectionListModel.h"
 #include "app/CatalogWorkflows.h"
+#include "app/DetailNavigation.h"
 #include "app/InventoryWorkflows.h"
 #include "app/PrefixSelectionWorkflow.h"
 #include "app/QuitGuard.h"
 #include "execution/BrewExecutableResolver.h"
 #include "execution/DirectCommandExecution.h"
+#include "screens/CleanupGuidanceViewModel.h"
 #include "screens/CommandHistoryViewModel.h"
 #include "screens/CommandPreviewSheetModel.h"
+#include "screens/DashboardViewModel.h"
+#include "screens/FormulaCatalogViewModel.h"
+#include "screens/InstalledPackagesViewModel.h"
 #include "screens/ServicesGuidanceViewModel.h"
 #include "screens/SettingsViewModel.h"
+#include "screens/UpdatesViewModel.h"
 
 namespace quillmere {
 
@@ -38,10 +44,16 @@ class ContentViewModel : public QObject {
   Q_PROPERTY(QString selectedSection READ selectedSectionName NOTIFY selectedSectionChanged)
   Q_PROPERTY(QString selectedTitle READ selectedTitle NOTIFY selectedSectionChanged)
   Q_PROPERTY(QString selectedSymbolName READ selectedSymbolName NOTIFY selectedSectionChanged)
-  Q_PROPERTY(QString plannedText READ plannedText NOTIFY selectedSectionChanged)
   Q_PROPERTY(
       QUuid detailNavigationResetID READ detailNavigationResetID NOTIFY selectedSectionChanged)
   Q_PROPERTY(quillmere::PrefixSelectionWorkflow* prefixSelection READ prefixSelection CONSTANT)
+  Q_PROPERTY(quillmere::DetailNavigation* details READ details CONSTANT)
+  Q_PROPERTY(bool showsOnboarding READ showsOnboarding NOTIFY showsOnboardingChanged)
+  Q_PROPERTY(quillmere::DashboardViewModel* dashboard READ dashboard CONSTANT)
+  Q_PROPERTY(quillmere::InstalledPackagesViewModel* installed READ installed CONSTANT)
+  Q_PROPERTY(quillmere::FormulaCatalogViewModel* browse READ browse CONSTANT)
+  Q_PROPERTY(quillmere::UpdatesViewModel* updates READ updates CONSTANT)
+  Q_PROPERTY(quillmere::CleanupGuidanceViewModel* cleanup READ cleanup CONSTANT)
   Q_PROPERTY(quillmere::ServicesGuidanceViewModel* services READ services CONSTANT)
   Q_PROPERTY(quillmere::CommandHistoryViewModel* history READ history CONSTANT)
   Q_PROPERTY(quillmere::SettingsViewModel* settings READ settings CONSTANT)
@@ -81,8 +93,22 @@ class ContentViewModel : public QObject {
   [[nodiscard]] QString selectedSectionName() const;
   [[nodiscard]] QString selectedTitle() const;
   [[nodiscard]] QString selectedSymbolName() const;
-  /// What the selected section will do once it is built; empty where it is.
-  [[nodiscard]] QString plannedText() const;
+
+  /// The packages that are open over the selected section.
+  [[nodiscard]] DetailNavigation* details() { return &details_; }
+
+  /// Whether the first steps are to be shown.
+  [[nodiscard]] bool showsOnboarding() const;
+
+  [[nodiscard]] DashboardViewModel* dashboard() { return &dashboard_; }
+
+  [[nodiscard]] InstalledPackagesViewModel* installed() { return &installed_; }
+
+  [[nodiscard]] FormulaCatalogViewModel* browse() { return &browse_; }
+
+  [[nodiscard]] UpdatesViewModel* updates() { return &updates_; }
+
+  [[nodiscard]] CleanupGuidanceViewModel* cleanup() { return &cleanup_; }
 
   [[nodiscard]] ServicesGuidanceViewModel* services() { return &services_; }
 
@@ -101,9 +127,8 @@ class ContentViewModel : public QObject {
   /// Selects the section in this row of the sidebar; does nothing for a row that is none.
   Q_INVOKABLE void selectIndex(int index);
 
-  Q_INVOKABLE void selectServices() { select(AppSection::services); }
-
-  Q_INVOKABLE void selectSettings() { select(AppSection::settings); }
+  /// The user has seen the first steps.
+  Q_INVOKABLE void finishOnboarding();
 
   /// Shows the preview of a command; does nothing while another one is open.
   void openPreview(const BrewCommand& command, const QString& sourceScreen);
@@ -111,8 +136,21 @@ class ContentViewModel : public QObject {
  Q_SIGNALS:
   void selectedSectionChanged();
   void previewChanged();
+  void showsOnboardingChanged();
 
  private:
+  void connectCatalog();
+  void connectInventory();
+  template <typename ViewModel>
+  void connectInventoryScreen(ViewModel& screen);
+  void connectScreens();
+  void tellCatalog();
+  void tellInventory();
+  void openCatalogPackage(const HomebrewPackageSummary& package);
+  void openInstalledPackage(const InstalledPackageSummary& package);
+  void openFormula(const QString& name);
+  void openDetail(PackageDetailViewModel::Inputs inputs);
+  [[nodiscard]] PreviewRequest previewRequest();
   void closePreview();
   void copy(const BrewCommand& command, const QString& sourceScreen);
 
@@ -126,6 +164,12 @@ class ContentViewModel : public QObject {
   InventoryWorkflows inventory_;
   PrefixSelectionWorkflow prefixSelection_;
   AppSectionListModel sections_;
+  DetailNavigation details_;
+  DashboardViewModel dashboard_;
+  InstalledPackagesViewModel installed_;
+  FormulaCatalogViewModel browse_;
+  UpdatesViewModel updates_;
+  CleanupGuidanceViewModel cleanup_;
   ServicesGuidanceViewModel services_;
   CommandHistoryViewModel history_;
   SettingsViewModel settings_;

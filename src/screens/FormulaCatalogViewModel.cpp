@@ -28,6 +28,12 @@ void FormulaCatalogViewModel::setPackageFilter(PackageCatalogFilter filter) {
   this->filter();
 }
 
+void FormulaCatalogViewModel::setInputs(const CatalogInputs& inputs) {
+  inputs_ = inputs;
+  setCatalog(inputs_.state.catalog());
+  Q_EMIT inputsChanged();
+}
+
 void FormulaCatalogViewModel::setCatalog(PackageCatalogSnapshot catalog) {
   if (catalog_ == catalog) {
     return;

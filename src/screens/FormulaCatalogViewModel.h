@@ -7,7 +7,9 @@
 
 #include <optional>
 
+#include "catalog/CatalogScope.h"
 #include "catalog/PackageCatalogFilter.h"
+#include "screens/CatalogInputs.h"
 
 namespace quillmere {
 
@@ -33,10 +35,12 @@ class FormulaCatalogViewModel : public QObject {
 
   void setPackageFilter(PackageCatalogFilter filter);
 
+  [[nodiscard]] const CatalogInputs& inputs() const { return inputs_; }
+
+  void setInputs(const CatalogInputs& inputs);
+
   /// The catalog that is loaded; null when none is.
   [[nodiscard]] const PackageCatalogSnapshot& catalog() const { return catalog_; }
-
-  void setCatalog(PackageCatalogSnapshot catalog);
 
   /// What is shown: while a search goes on, provisionally nothing; absent without a catalog.
   [[nodiscard]] const std::optional<FilteredPackageResults>& filteredResults() const {
@@ -46,15 +50,24 @@ class FormulaCatalogViewModel : public QObject {
   [[nodiscard]] bool isFiltering() const { return isFiltering_; }
 
  Q_SIGNALS:
+  void inputsChanged();
+  // What the user wants of the main window.
+  void fetchWanted(quillmere::CatalogScope scope);
+  void loadCachedWanted(quillmere::CatalogScope scope);
+  void cancelFetchWanted();
+  void packageChosen(const quillmere::HomebrewPackageSummary& package);
+
   void searchTextChanged();
   void packageFilterChanged();
   void catalogChanged();
   void resultsChanged();
 
  private:
+  void setCatalog(PackageCatalogSnapshot catalog);
   QCoro::Task<> filter();
   void show(std::optional<FilteredPackageResults> results, bool isFiltering);
 
+  CatalogInputs inputs_;
   QString searchText_;
   PackageCatalogFilter packageFilter_ = PackageCatalogFilter::all;
   PackageCatalogSnapshot catalog_;

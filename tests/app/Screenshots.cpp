@@ -88,6 +88,7 @@ class Stage {
         content_(store_, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
                  CatalogWorkflows::Clients(), BrewExecutableResolver(disk_)) {
     disk_->released.release();
+    store_.setHasCompletedOnboarding(true);
     prefix_.withBrew(test::fakeBrewScript()).withAllLocations();
     engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
     engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)},

@@ -32,6 +32,7 @@ using namespace quillmere;
 /// A world of a test's own: settings, a demo prefix, and the window's view models over them.
 struct World {
   World() {
+    store.setHasCompletedOnboarding(true);
     prefix.withBrew(test::fakeBrewScript()).withAllLocations();
     disk->released.release();
   }

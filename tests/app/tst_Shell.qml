@@ -52,30 +52,6 @@ WindowCase {
         compare(stage.content.selectedSection, "history");
     }
 
-    function test_sectionsThatAreNotBuiltSaySo_data() {
-        return [
-            {tag: "dashboard", index: 0, plan: "An overview of Homebrew on this computer will stand here. Until then, choose your Homebrew prefix in Settings, then look at a command in Services."},
-            {tag: "installed", index: 1, plan: "The packages in your Homebrew prefix will be listed here."},
-            {tag: "browse", index: 2, plan: "The formulae and casks that Homebrew offers will be found here."},
-            {tag: "updates", index: 3, plan: "Packages with a newer version will be listed here."},
-            {tag: "cleanup", index: 4, plan: "Old versions and the size of the download cache will be shown here."},
-            {tag: "about", index: 8, plan: "What Quillmere is, and its licence, will be told here."},
-        ];
-    }
-
-    function test_sectionsThatAreNotBuiltSaySo(data) {
-        stage.content.selectIndex(data.index);
-        shows("This section is not built yet. " + data.plan);
-    }
-
-    function test_theDashboardLeadsToWhatWorks() {
-        press("Open Settings");
-        compare(stage.content.selectedSection, "settings");
-        stage.content.selectIndex(0);
-        press("Open Services");
-        compare(stage.content.selectedSection, "services");
-    }
-
     function test_sectionsStayWhereTheyAreUnderASheet() {
         stage.content.selectIndex(5);
         stage.content.services.previewServicesList();

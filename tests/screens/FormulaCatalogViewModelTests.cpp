@@ -23,6 +23,14 @@ const QByteArray someFormulae = R"([{"name": "curl", "versions": {}},
                                     {"name": "wget", "versions": {}}])";
 const QByteArray someCasks = R"([{"token": "wget-app"}])";
 
+CatalogInputs inputsOf(PackageCatalogSnapshot catalog) {
+  CatalogInputs inputs;
+  if (catalog) {
+    inputs.state.value = PackageCatalogState::Loaded{std::move(catalog)};
+  }
+  return inputs;
+}
+
 class FormulaCatalogViewModelTest : public testing::Test {
  protected:
   void waitForResults() {
@@ -31,6 +39,10 @@ class FormulaCatalogViewModelTest : public testing::Test {
 
   [[nodiscard]] std::vector<std::size_t> visible() const {
     return model_.filteredResults()->visiblePackages;
+  }
+
+  void setCatalog(PackageCatalogSnapshot catalog) {
+    model_.setInputs(inputsOf(std::move(catalog)));
   }
 
   FormulaCatalogViewModel model_;
@@ -44,13 +56,13 @@ TEST_F(FormulaCatalogViewModelTest, ShowsNothingWithoutACatalog) {
 }
 
 TEST_F(FormulaCatalogViewModelTest, ShowsAnUnfilteredCatalogAtOnce) {
-  model_.setCatalog(catalogOf(someFormulae, someCasks));
+  setCatalog(catalogOf(someFormulae, someCasks));
   EXPECT_THAT(visible(), ElementsAre(0, 1, 2));
   EXPECT_FALSE(model_.isFiltering());
 }
 
 TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
-  model_.setCatalog(catalogOf(someFormulae, someCasks));
+  setCatalog(catalogOf(someFormulae, someCasks));
   model_.setSearchText(u" wget "_s);
   EXPECT_TRUE(model_.isFiltering());
   EXPECT_EQ(model_.filteredResults(), FilteredPackageResults::provisional(FilterRequest::make(
@@ -61,7 +73,7 @@ TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
 }
 
 TEST_F(FormulaCatalogViewModelTest, NarrowsToOneType) {
-  model_.setCatalog(catalogOf(someFormulae, someCasks));
+  setCatalog(catalogOf(someFormulae, someCasks));
   model_.setPackageFilter(PackageCatalogFilter::casks);
   EXPECT_TRUE(model_.isFiltering());
   waitForResults();
@@ -71,7 +83,7 @@ TEST_F(FormulaCatalogViewModelTest, NarrowsToOneType) {
 }
 
 TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
-  model_.setCatalog(catalogOf(someFormulae, someCasks));
+  setCatalog(catalogOf(someFormulae, someCasks));
   // An answer may be there before the next question, but never after it.
   QObject::connect(&model_, &FormulaCatalogViewModel::resultsChanged, &model_, [&] {
     EXPECT_EQ(model_.filteredResults()->request.searchQuery, model_.searchText());
@@ -85,7 +97,7 @@ TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
 }
 
 TEST_F(FormulaCatalogViewModelTest, DoesNotSearchAgainForTheSameRequest) {
-  model_.setCatalog(catalogOf(someFormulae));
+  setCatalog(catalogOf(someFormulae));
   model_.setSearchText(u"wget"_s);
   waitForResults();
   const QSignalSpy results(&model_, &FormulaCatalogViewModel::resultsChanged);
@@ -94,22 +106,22 @@ TEST_F(FormulaCatalogViewModelTest, DoesNotSearchAgainForTheSameRequest) {
 }
 
 TEST_F(FormulaCatalogViewModelTest, SearchesAgainInANewCatalog) {
-  model_.setCatalog(catalogOf(someFormulae));
+  setCatalog(catalogOf(someFormulae));
   model_.setSearchText(u"wget"_s);
   waitForResults();
   EXPECT_THAT(visible(), ElementsAre(1));
-  model_.setCatalog(catalogOf(R"([{"name": "wget", "versions": {}},
+  setCatalog(catalogOf(R"([{"name": "wget", "versions": {}},
                                   {"name": "curl", "versions": {}}])"));
   waitForResults();
   EXPECT_THAT(visible(), ElementsAre(0));
-  model_.setCatalog(nullptr);
+  setCatalog(nullptr);
   EXPECT_EQ(model_.filteredResults(), std::nullopt);
 }
 
 TEST_F(FormulaCatalogViewModelTest, DropsTheAnswerOfACatalogThatIsGone) {
-  model_.setCatalog(catalogOf(someFormulae));
+  setCatalog(catalogOf(someFormulae));
   model_.setSearchText(u"wget"_s);
-  model_.setCatalog(nullptr);
+  setCatalog(nullptr);
   EXPECT_FALSE(model_.isFiltering());
   QTest::qWait(20);
   EXPECT_EQ(model_.filteredResults(), std::nullopt);
@@ -117,7 +129,7 @@ TEST_F(FormulaCatalogViewModelTest, DropsTheAnswerOfACatalogThatIsGone) {
 
 TEST_F(FormulaCatalogViewModelTest, MayGoInTheMiddleOfASearch) {
   auto model = std::make_unique<FormulaCatalogViewModel>();
-  model->setCatalog(catalogOf(someFormulae));
+  model->setInputs(inputsOf(catalogOf(someFormulae)));
   model->setSearchText(u"wget"_s);
   model.reset();
   QTest::qWait(20);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QtCore/QDateTime>
+#include <QtCore/QString>
+#include <QtCore/QUrl>
+
+#include <optional>
+
+#include "guidance/InstalledPackagesState.h"
+
+namespace quillmere {
+
+/// What the main window tells a screen of the local inventory, anew whenever any of it changes.
+struct LocalInventoryInputs {
+  InstalledPackagesState state;
+  /// Of the scan that is under way.
+  int scannedPackages = 0;
+  int knownPackages = 0;
+  std::optional<QString> selectedPrefixPath;
+  std::optional<QUrl> selectedPrefixURL;
+  std::optional<QDateTime> lastScanDate;
+  std::optional<QDateTime> catalogLastRefreshDate;
+
+  bool operator==(const LocalInventoryInputs&) const = default;
+};
+
+}  // namespace quillmere
