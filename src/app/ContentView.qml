@@ -40,10 +40,19 @@ FocusScope {
         workflow: root.viewModel.prefixSelection
     }
 
+    // Its second way in asks for a folder: a prefix opens the program, any other folder does not.
     OnboardingSheet {
         shown: root.viewModel.showsOnboarding
 
         onFinished: root.viewModel.finishOnboarding()
         onSelectPrefixWanted: root.viewModel.prefixSelection.begin()
+    }
+
+    Connections {
+        function onPrefixSelected(): void {
+            root.viewModel.finishOnboarding();
+        }
+
+        target: root.viewModel.prefixSelection
     }
 }

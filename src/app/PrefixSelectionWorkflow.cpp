@@ -43,10 +43,11 @@ QCoro::Task<> PrefixSelectionWorkflow::selectPrefix(QUrl folder) {
   if (!self || choice != choice_) {
     co_return;
   }
+  setRefused(!summary.looksLikeHomebrewPrefix());
   if (summary.looksLikeHomebrewPrefix()) {
     store_.selectPrefix(summary.prefixURL);
+    Q_EMIT prefixSelected();
   }
-  setRefused(!summary.looksLikeHomebrewPrefix());
 }
 
 void PrefixSelectionWorkflow::acknowledge() {

@@ -55,6 +55,8 @@ class PrefixSelectionWorkflow : public QObject {
 
  Q_SIGNALS:
   void chooserWanted();
+  /// The folder that was chosen is a prefix and is selected now.
+  void prefixSelected();
   void isRefusedChanged();
 
  private:

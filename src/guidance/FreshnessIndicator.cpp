@@ -7,6 +7,9 @@
 namespace quillmere {
 namespace {
 
+constexpr int catalogDays = 7;
+constexpr int inventoryDays = 1;
+
 /// In the order of the alternatives.
 constexpr auto statusWords = std::to_array<QLatin1StringView>({
     QLatin1StringView("Not available"),
@@ -60,13 +63,19 @@ QString FreshnessIndicator::longText(const QString& label, const QLocale& region
 }
 
 FreshnessIndicator catalogFreshness(const std::optional<QDateTime>& date, const QDateTime& now) {
-  constexpr int days = 7;
-  return freshness(date, now, days, QStringLiteral("Refresh catalog metadata"));
+  return freshness(date, now, catalogDays, QStringLiteral("Refresh catalog metadata"));
 }
 
 FreshnessIndicator inventoryFreshness(const std::optional<QDateTime>& date, const QDateTime& now) {
-  constexpr int days = 1;
-  return freshness(date, now, days, QStringLiteral("Scan local inventory"));
+  return freshness(date, now, inventoryDays, QStringLiteral("Scan local inventory"));
+}
+
+QDateTime catalogStalePoint(const QDateTime& date) {
+  return stalePoint(date, catalogDays);
+}
+
+QDateTime inventoryStalePoint(const QDateTime& date) {
+  return stalePoint(date, inventoryDays);
 }
 
 }  // namespace quillmere

@@ -57,4 +57,8 @@ struct FreshnessIndicator {
 [[nodiscard]] FreshnessIndicator inventoryFreshness(const std::optional<QDateTime>& date,
                                                     const QDateTime& now);
 
+/// When catalog metadata of `date` becomes stale; `date` itself where the calendar ends.
+[[nodiscard]] QDateTime catalogStalePoint(const QDateTime& date);
+[[nodiscard]] QDateTime inventoryStalePoint(const QDateTime& date);
+
 }  // namespace quillmere

@@ -203,6 +203,10 @@ bool LocalPersistenceStore::hasCachedCaskCatalog() const {
   return QFile::exists(filePath(caskCacheURL()));
 }
 
+bool LocalPersistenceStore::hasReadableCatalogCache() const {
+  return isReadableFile(filePath(formulaCacheURL())) || isReadableFile(filePath(caskCacheURL()));
+}
+
 QCoro::Task<> LocalPersistenceStore::saveFormulaCatalog(QByteArray document,
                                                         QDateTime refreshedAt) {
   return saveCatalog(std::move(document), formulaCacheURL(), std::move(refreshedAt));

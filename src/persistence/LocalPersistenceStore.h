@@ -74,6 +74,8 @@ class LocalPersistenceStore : public QObject {
 
   [[nodiscard]] bool hasCachedFormulaCatalog() const;
   [[nodiscard]] bool hasCachedCaskCatalog() const;
+  /// Whether a document of the cache can be read, so that there is something to forget.
+  [[nodiscard]] bool hasReadableCatalogCache() const;
 
   /// Writes the document as it was downloaded, on a thread of the store's own, and then records
   /// when, even where the write failed. Where the cache is cleared meanwhile it stays cleared. A

@@ -58,6 +58,7 @@ constexpr auto symbols = std::to_array<Symbol>({
     {QLatin1StringView("trash"), u'\ue872'},
     {QLatin1StringView("wifi.exclamationmark"), u'\ue648'},
     {QLatin1StringView("wrench.adjustable"), u'\ue869'},
+    {QLatin1StringView("xmark.circle.fill"), u'\ue5c9'},
     {QLatin1StringView("xmark.octagon"), u'\ue99a'},
 });
 

@@ -1,7 +1,11 @@
 #include "screens/CommandHistoryListModel.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/DateTexts.h"
+#include "platform/TextMatching.h"
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +42,30 @@ QString outcomeText(const CommandHistoryRecord& record) {
                         : QStringLiteral("Executed");
 }
 
+/// What a run said, in one line.
+QString output(const CommandHistoryRecord& record) {
+  return record.executionOutputSummary.value_or(QString()).simplified();
+}
+
+std::string foldedSearchText(const CommandHistoryRecord& record) {
+  return searchableForm(searchText(record));
+}
+
 }  // namespace
+
+QString searchText(const CommandHistoryRecord& record) {
+  const auto& exitCode = record.executionExitCode;
+  return QStringList{record.command,
+                     record.operationType,
+                     record.packageTarget.value_or(QString()),
+                     record.sourceScreen.value_or(QString()),
+                     record.copied ? "copied"_L1 : "not copied"_L1,
+                     record.executed ? "executed"_L1 : "not executed"_L1,
+                     exitCode ? QString::number(*exitCode) : QString(),
+                     cancelled(record) ? "cancelled"_L1 : ""_L1,
+                     record.executionOutputSummary.value_or(QString())}
+      .join(u' ');
+}
 
 QString accessibleLabel(const CommandHistoryRecord& record) {
   return "Command "_L1 + record.command + ", operation "_L1 + record.operationType +
@@ -55,19 +82,24 @@ CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& st
 }
 
 int CommandHistoryListModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(records_.size());
+  if (parent.isValid()) {
+    return 0;
+  }
+  return query_.empty() ? recordCount() : static_cast<int>(rows_.size());
 }
 
 QVariant CommandHistoryListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
     return {};
   }
-  const CommandHistoryRecord& record = records_[index.row()];
+  const CommandHistoryRecord& record = at(index.row());
   switch (role) {
     case CommandRole:
       return record.command;
     case DetailsRole:
       return details(record);
+    case OutputRole:
+      return output(record);
     case TimeTextRole:
       return timeText(record);
     case ExecutedRole:
@@ -86,27 +118,80 @@ QVariant CommandHistoryListModel::data(const QModelIndex& index, int role) const
 }
 
 QHash<int, QByteArray> CommandHistoryListModel::roleNames() const {
-  return {{CommandRole, "command"},         {DetailsRole, "details"},
-          {TimeTextRole, "timeText"},       {ExecutedRole, "executed"},
-          {CancelledRole, "cancelled"},     {FailedRole, "failed"},
-          {OutcomeTextRole, "outcomeText"}, {AccessibleLabelRole, "accessibleLabel"}};
+  return {{CommandRole, "command"},
+          {DetailsRole, "details"},
+          {OutputRole, "output"},
+          {TimeTextRole, "timeText"},
+          {ExecutedRole, "executed"},
+          {CancelledRole, "cancelled"},
+          {FailedRole, "failed"},
+          {OutcomeTextRole, "outcomeText"},
+          {AccessibleLabelRole, "accessibleLabel"}};
 }
 
-/// A new record goes in front of the rest: the rows that are there stay where the user sees them.
+void CommandHistoryListModel::search(QStringView query) {
+  std::string folded = searchableForm(query);
+  if (folded == query_) {
+    return;
+  }
+  beginResetModel();
+  query_ = std::move(folded);
+  findRows();
+  endResetModel();
+  Q_EMIT changed();
+}
+
 void CommandHistoryListModel::follow() {
   const CommandHistory& now = store_.commandHistory();
   const bool oneInFront = now.size() == records_.size() + 1 &&
                           (records_.isEmpty() || (now[1].id == records_.first().id &&
                                                   now.last().id == records_.last().id));
   if (oneInFront) {
-    beginInsertRows({}, 0, 0);
+    insertInFront(now);
+  } else {
+    beginResetModel();
     records_ = now;
+    folded_.clear();
+    findRows();
+    endResetModel();
+  }
+  Q_EMIT changed();
+}
+
+/// The rows that are there stay where the user sees them.
+void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
+  if (std::ssize(folded_) == records_.size()) {
+    folded_.insert(folded_.begin(), foldedSearchText(now.first()));
+  }
+  const bool isShown = query_.empty() || containsSearchable(folded_.front(), query_);
+  if (isShown) {
+    beginInsertRows({}, 0, 0);
+  }
+  records_ = now;
+  findRows();
+  if (isShown) {
     endInsertRows();
+  }
+}
+
+void CommandHistoryListModel::findRows() {
+  rows_.clear();
+  if (query_.empty()) {
     return;
   }
-  beginResetModel();
-  records_ = now;
-  endResetModel();
+  if (std::ssize(folded_) != records_.size()) {
+    folded_.resize(static_cast<std::size_t>(records_.size()));
+    std::ranges::transform(records_, folded_.begin(), &foldedSearchText);
+  }
+  for (int row = 0; row < recordCount(); ++row) {
+    if (containsSearchable(folded_[static_cast<std::size_t>(row)], query_)) {
+      rows_.push_back(row);
+    }
+  }
+}
+
+const CommandHistoryRecord& CommandHistoryListModel::at(int row) const {
+  return records_[query_.empty() ? row : rows_[static_cast<std::size_t>(row)]];
 }
 
 }  // namespace quillmere

@@ -3,13 +3,16 @@
 #include <QtCore/QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
+#include <string>
+#include <vector>
+
 #include "persistence/CommandHistory.h"
 
 namespace quillmere {
 
 class LocalPersistenceStore;
 
-/// The rows of the history, in the store's order. Follows the store; owned by
+/// The rows of the history that match the search, in the store's order. Follows the store; owned by
 /// `CommandHistoryViewModel`; UI thread only.
 class CommandHistoryListModel : public QAbstractListModel {
   Q_OBJECT
@@ -19,6 +22,7 @@ class CommandHistoryListModel : public QAbstractListModel {
   enum Role {
     CommandRole = Qt::UserRole,
     DetailsRole,
+    OutputRole,
     TimeTextRole,
     ExecutedRole,
     CancelledRole,
@@ -33,15 +37,38 @@ class CommandHistoryListModel : public QAbstractListModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
+  /// How many records there are, shown or not.
+  [[nodiscard]] int recordCount() const { return static_cast<int>(records_.size()); }
+
+  /// Shows the records whose search text contains `query`; all of them for an empty one.
+  void search(QStringView query);
+
+ Q_SIGNALS:
+  /// Other records, or others of them shown.
+  void changed();
+
  private:
   void follow();
+  void insertInFront(const CommandHistory& now);
+  void findRows();
+  [[nodiscard]] const CommandHistoryRecord& at(int row) const;
 
   const LocalPersistenceStore& store_;
   /// The history as the view knows it. Shares the store's list until the next change.
   CommandHistory records_;
+  /// The records' search texts in searchable form, made at the first search: folding takes much
+  /// longer than searching.
+  std::vector<std::string> folded_;
+  /// In searchable form.
+  std::string query_;
+  /// Which records the rows are while there is a query.
+  std::vector<int> rows_;
 };
 
 /// What a screen reader says of a record.
 [[nodiscard]] QString accessibleLabel(const CommandHistoryRecord& record);
+
+/// What a record is found by.
+[[nodiscard]] QString searchText(const CommandHistoryRecord& record);
 
 }  // namespace quillmere

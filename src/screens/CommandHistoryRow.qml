@@ -9,6 +9,7 @@ Item {
     required property int index
     required property string command
     required property string details
+    required property string output
     required property string timeText
     required property string outcomeText
     required property string accessibleLabel
@@ -72,6 +73,17 @@ Item {
                 Layout.fillWidth: true
                 elide: Text.ElideRight
                 text: root.details
+                wrapMode: Text.NoWrap
+
+                Accessible.ignored: true
+            }
+
+            CaptionText {
+                Layout.fillWidth: true
+                elide: Text.ElideRight
+                font.family: Theme.monospacedFamily
+                text: root.output
+                visible: text.length > 0
                 wrapMode: Text.NoWrap
 
                 Accessible.ignored: true

@@ -1,28 +1,29 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
-import QtQuick.Controls.Basic
 import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
-// The commands that were copied or run, newest first.
+// The commands that were copied or run, newest first, and a search in them.
 FocusScope {
     id: root
 
     required property CommandHistoryViewModel viewModel
 
+    readonly property bool empty: viewModel.state === CommandHistoryViewModel.Empty
     readonly property bool listed: viewModel.state === CommandHistoryViewModel.Listed
+
+    // Who comes back wants to see the history, not what was searched then.
+    Component.onCompleted: viewModel.clearSearch()
 
     ColumnLayout {
         anchors.fill: parent
         anchors.margins: Theme.large
         spacing: Theme.normal
-        visible: root.listed
+        visible: !root.empty
 
         ScreenHeader {
-            Layout.fillWidth: true
             Layout.alignment: Qt.AlignHCenter
+            Layout.fillWidth: true
             Layout.maximumWidth: Theme.textWidth
             symbolName: "clock.arrow.circlepath"
             title: "History"
@@ -35,40 +36,43 @@ FocusScope {
             }
         }
 
-        Card {
+        CommandHistorySearch {
+            id: search
+
+            Layout.alignment: Qt.AlignHCenter
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.textWidth
+            viewModel: root.viewModel
+
+            onLeft: list.forceActiveFocus()
+        }
+
+        CommandHistoryList {
+            id: list
+
             Layout.alignment: Qt.AlignHCenter
             Layout.fillHeight: true
             Layout.fillWidth: true
-            Layout.maximumHeight: list.contentHeight + 2 * padding
             Layout.maximumWidth: Theme.textWidth
-            padding: Theme.tiny
+            records: root.viewModel.records
+            visible: root.listed
+        }
 
-            ListView {
-                id: list
+        StateMessage {
+            Layout.alignment: Qt.AlignCenter
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.sheetWidth
+            symbolName: "magnifyingglass"
+            text: "Try a different command, package, operation, or source screen search."
+            title: "No History Matches"
+            visible: !root.empty && !root.listed
 
-                Layout.fillHeight: true
-                Layout.fillWidth: true
-                activeFocusOnTab: true
-                boundsBehavior: Flickable.StopAtBounds
-                clip: true
-                focus: true
-                interactive: wheel.touched
-                model: root.viewModel.records
+            PlainButton {
+                text: "Clear Search"
 
-                Accessible.role: Accessible.List
-                Accessible.name: "Command history"
-
-                delegate: CommandHistoryRow {
-                    width: ListView.view.width
-                }
-
-                ScrollBar.vertical: SlimScrollBar {
-                }
-
-                ScrollWheel {
-                    id: wheel
-
-                    flickable: list
+                onClicked: {
+                    root.viewModel.clearSearch();
+                    search.begin();
                 }
             }
         }
@@ -84,7 +88,18 @@ FocusScope {
         symbolName: "clock.arrow.circlepath"
         text: "Commands you copy or run will appear here. History is stored locally and can be cleared anytime."
         title: "No Command History"
-        visible: !root.listed
+        visible: root.empty
+    }
+
+    Shortcut {
+        enabled: !root.empty
+        sequences: [StandardKey.Find]
+
+        onActivated: search.begin()
+    }
+
+    Announcement {
+        id: announcement
     }
 
     Alert {
@@ -95,6 +110,9 @@ FocusScope {
         title: "Clear Command History?"
 
         onCancelled: root.viewModel.cancelClear()
-        onConfirmed: root.viewModel.confirmClear()
+        onConfirmed: {
+            root.viewModel.confirmClear();
+            announcement.say("Command history cleared");
+        }
     }
 }

@@ -6,9 +6,38 @@ namespace quillmere {
 
 CommandHistoryViewModel::CommandHistoryViewModel(LocalPersistenceStore& store, QObject* parent)
     : QObject(parent), store_(store), records_(store) {
-  connect(&records_, &QAbstractItemModel::rowsInserted, this,
+  connect(&records_, &CommandHistoryListModel::changed, this,
           &CommandHistoryViewModel::stateChanged);
-  connect(&records_, &QAbstractItemModel::modelReset, this, &CommandHistoryViewModel::stateChanged);
+}
+
+CommandHistoryViewModel::State CommandHistoryViewModel::state() const {
+  if (records_.recordCount() == 0) {
+    return Empty;
+  }
+  return records_.rowCount() == 0 ? NoMatches : Listed;
+}
+
+void CommandHistoryViewModel::setSearchText(const QString& text) {
+  if (searchText_ == text) {
+    return;
+  }
+  searchText_ = text;
+  records_.search(QStringView(searchText_).trimmed());
+  Q_EMIT searchTextChanged();
+  Q_EMIT stateChanged();
+}
+
+QString CommandHistoryViewModel::matchesText() const {
+  if (QStringView(searchText_).trimmed().isEmpty()) {
+    return {};
+  }
+  const int found = records_.rowCount();
+  return found == 0 ? QStringLiteral("No History Matches")
+                    : QStringLiteral("%1 of %2 commands").arg(found).arg(records_.recordCount());
+}
+
+void CommandHistoryViewModel::clearSearch() {
+  setSearchText(QString());
 }
 
 void CommandHistoryViewModel::askClear() {

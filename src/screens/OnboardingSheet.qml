@@ -1,11 +1,20 @@
-import QtQuick
+import QtQuick.Templates as T
 import Quillmere.Components
 import Quillmere.Screens
 
-// The first thing that a new user sees.
+// The first thing that a new user sees. It goes only when one of its two ways in was taken.
 Sheet {
     id: root
 
     signal finished
     signal selectPrefixWanted
+
+    closePolicy: T.Popup.NoAutoClose
+    sheetWidth: Theme.wideSheetWidth
+    title: "Welcome to Quillmere"
+
+    contentItem: OnboardingPage {
+        onFinished: root.finished()
+        onSelectPrefixWanted: root.selectPrefixWanted()
+    }
 }

@@ -16,6 +16,9 @@ ScreenPage {
     implicitWidth: usesFixedFrame ? fixedFrame.width : 0
     implicitHeight: usesFixedFrame ? fixedFrame.height : 0
 
+    // The cache may have been changed without this program.
+    Component.onCompleted: viewModel.recheckCache()
+
     ScreenHeader {
         Layout.fillWidth: true
         symbolName: "gearshape"
@@ -49,6 +52,23 @@ ScreenPage {
         }
     }
 
+    SettingsDataSections {
+        Layout.fillWidth: true
+        viewModel: root.viewModel
+    }
+
+    SettingsInformation {
+        Layout.fillWidth: true
+    }
+
+    Connections {
+        function onDone(text: string): void {
+            root.announce(text);
+        }
+
+        target: root.viewModel
+    }
+
     Connections {
         function onReportChanged(): void {
             const selection = root.viewModel.prefixSelection;
@@ -58,14 +78,8 @@ ScreenPage {
         target: root.viewModel.prefixSelection
     }
 
-    Alert {
-        confirmTitle: root.viewModel.confirmTitle
-        message: root.viewModel.confirmationMessage
+    SettingsConfirmationAlert {
         parent: root
-        shown: root.viewModel.confirmationPending
-        title: root.viewModel.confirmationTitle
-
-        onCancelled: root.viewModel.cancel()
-        onConfirmed: root.viewModel.confirm()
+        viewModel: root.viewModel
     }
 }

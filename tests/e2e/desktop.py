@@ -215,7 +215,8 @@ def remember_prefix(home, prefix):
     """The prefix as an earlier start of the program would have remembered it."""
     os.makedirs(f"{home}/.config/Quillmere")
     with open(f"{home}/.config/Quillmere/Quillmere.conf", "w", encoding="utf-8") as settings:
-        settings.write(f"[General]\nselectedHomebrewPrefixPath={prefix}\n")
+        settings.write("[General]\nhasCompletedOnboarding=true\n"
+                       f"selectedHomebrewPrefixPath={prefix}\n")
 
 
 def temporary_home():

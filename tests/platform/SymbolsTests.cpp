@@ -57,6 +57,7 @@ const QStringList symbolNames{u"arrow.triangle.2.circlepath"_s,
                               u"trash"_s,
                               u"wifi.exclamationmark"_s,
                               u"wrench.adjustable"_s,
+                              u"xmark.circle.fill"_s,
                               u"xmark.octagon"_s};
 
 /// The font file, as far as a test needs to read it.

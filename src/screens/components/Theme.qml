@@ -69,6 +69,7 @@ QtObject {
     readonly property int sidebarWidth: 220
     readonly property int textWidth: 980
     readonly property int sheetWidth: 640
+    readonly property int wideSheetWidth: 760
     readonly property int sessionHeight: 440
     readonly property int outputHeight: 800
     readonly property int alertWidth: 400
@@ -76,6 +77,8 @@ QtObject {
     readonly property int motion: 120
     // How long a word such as "Copied" stands.
     readonly property int noticeTime: 2500
+    // After so long without a letter, somebody who types has typed.
+    readonly property int typingRest: 600
     // One turn of a symbol that shows that something goes on.
     readonly property int turnTime: 2400
     readonly property real disabledOpacity: 0.45

@@ -1,0 +1,46 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Quillmere.Components
+import Quillmere.Screens
+
+// The records that match the search, as far as they fit.
+Card {
+    id: root
+
+    required property CommandHistoryListModel records
+
+    Layout.maximumHeight: list.contentHeight + 2 * padding
+    padding: Theme.tiny
+
+    ListView {
+        id: list
+
+        Layout.fillHeight: true
+        Layout.fillWidth: true
+        activeFocusOnTab: true
+        boundsBehavior: Flickable.StopAtBounds
+        clip: true
+        focus: true
+        interactive: wheel.touched
+        model: root.records
+
+        Accessible.role: Accessible.List
+        Accessible.name: "Command history"
+
+        delegate: CommandHistoryRow {
+            width: ListView.view.width
+        }
+
+        ScrollBar.vertical: SlimScrollBar {
+        }
+
+        ScrollWheel {
+            id: wheel
+
+            flickable: list
+        }
+    }
+}
