@@ -36,7 +36,9 @@ FocusScope {
         viewModel: root.viewModel
     }
 
+    // What it says stands in the middle of the window.
     PrefixSelectionHost {
+        anchors.fill: parent
         workflow: root.viewModel.prefixSelection
     }
 

@@ -10,7 +10,7 @@ import Quillmere.Screens
 Card {
     id: root
 
-    required property CommandHistoryListModel records
+    required property CommandHistoryViewModel viewModel
 
     Layout.maximumHeight: list.contentHeight + 2 * padding
     padding: Theme.tiny
@@ -25,7 +25,7 @@ Card {
         clip: true
         focus: true
         interactive: wheel.touched
-        model: root.records
+        model: root.viewModel.records
 
         Accessible.role: Accessible.List
         Accessible.name: "Command history"

@@ -10,7 +10,7 @@ RowLayout {
 
     required property CommandHistoryViewModel viewModel
 
-    signal left
+    signal finished
 
     spacing: Theme.medium
 
@@ -27,14 +27,14 @@ RowLayout {
         prompt: "Search command history"
         text: root.viewModel.searchText
 
-        onLeft: root.left()
+        onFinished: root.finished()
         onSearched: text => root.viewModel.searchText = text
     }
 
     CaptionText {
         Layout.fillWidth: true
         text: root.viewModel.matchesText
-        visible: root.viewModel.state === CommandHistoryViewModel.Listed
+        visible: text.length > 0 && root.viewModel.state === CommandHistoryViewModel.Listed
     }
 
     Connections {

@@ -44,7 +44,7 @@ FocusScope {
             Layout.maximumWidth: Theme.textWidth
             viewModel: root.viewModel
 
-            onLeft: list.forceActiveFocus()
+            onFinished: list.forceActiveFocus()
         }
 
         CommandHistoryList {
@@ -54,31 +54,31 @@ FocusScope {
             Layout.fillHeight: true
             Layout.fillWidth: true
             Layout.maximumWidth: Theme.textWidth
-            records: root.viewModel.records
+            viewModel: root.viewModel
             visible: root.listed
-        }
-
-        StateMessage {
-            Layout.alignment: Qt.AlignCenter
-            Layout.fillWidth: true
-            Layout.maximumWidth: Theme.sheetWidth
-            symbolName: "magnifyingglass"
-            text: "Try a different command, package, operation, or source screen search."
-            title: "No History Matches"
-            visible: !root.empty && !root.listed
-
-            PlainButton {
-                text: "Clear Search"
-
-                onClicked: {
-                    root.viewModel.clearSearch();
-                    search.begin();
-                }
-            }
         }
 
         Item {
             Layout.fillHeight: true
+            Layout.fillWidth: true
+
+            StateMessage {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.sheetWidth)
+                symbolName: "magnifyingglass"
+                text: "Try a different command, package, operation, or source screen search."
+                title: "No History Matches"
+                visible: !root.empty && !root.listed
+
+                PlainButton {
+                    text: "Clear Search"
+
+                    onClicked: {
+                        root.viewModel.clearSearch();
+                        search.begin();
+                    }
+                }
+            }
         }
     }
 

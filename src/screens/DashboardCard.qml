@@ -42,19 +42,23 @@ Card {
             Accessible.role: Accessible.Heading
         }
 
+    }
+
+    RowLayout {
+        spacing: Theme.medium
+
+        TitleText {
+            color: root.tint === "neutral" ? Theme.text : Theme.tint(root.tint)
+            text: root.value
+
+            Accessible.role: Accessible.StaticText
+        }
+
         FreshnessGauge {
             parts: root.parts
             partsLeft: root.partsLeft
             visible: root.parts > 0
         }
-    }
-
-    TitleText {
-        Layout.fillWidth: true
-        color: root.tint === "neutral" ? Theme.text : Theme.tint(root.tint)
-        text: root.value
-
-        Accessible.role: Accessible.StaticText
     }
 
     BodyText {

@@ -49,6 +49,10 @@ void fillHistory(LocalPersistenceStore& store) {
     record.executionEndedAt = record.copiedAt;
     record.executionExitCode = exitCode;
     record.executionCancelled = cancelled;
+    if (exitCode == 1) {
+      record.executionOutputSummary =
+          QStringLiteral("Error: openssl@3 3.3.2 is already installed\nTo upgrade, run again.");
+    }
     store.appendHistory(record);
   };
   run(builder
@@ -104,7 +108,10 @@ class Stage {
   }
 
   void drawAll() {
-    draw(QStringLiteral("dashboard"));
+    drawFirstSteps();
+    drawDashboards();
+    content_.select(AppSection::aboutLegal);
+    draw(QStringLiteral("about"));
     content_.select(AppSection::history);
     draw(QStringLiteral("history-empty"));
     content_.select(AppSection::settings);
@@ -117,6 +124,7 @@ class Stage {
     draw(QStringLiteral("settings-confirmation"));
     content_.settings()->cancel();
     drawSettingsWindow();
+    drawSettingsSections();
     content_.select(AppSection::services);
     draw(QStringLiteral("services"));
     fillHistory(store_);
@@ -125,11 +133,67 @@ class Stage {
     content_.history()->askClear();
     draw(QStringLiteral("history-confirmation"));
     content_.history()->cancelClear();
+    content_.history()->setSearchText(QStringLiteral("not executed"));
+    draw(QStringLiteral("history-found"));
+    content_.history()->setSearchText(QStringLiteral("nothing like it"));
+    draw(QStringLiteral("history-no-match"));
+    content_.history()->clearSearch();
     content_.select(AppSection::services);
     drawPreviews();
   }
 
  private:
+  void drawFirstSteps() {
+    store_.resetOnboarding();
+    draw(QStringLiteral("onboarding"));
+    content_.prefixSelection()->choose(QUrl::fromLocalFile(QDir::rootPath()));
+    waitFor([this] { return content_.prefixSelection()->isRefused(); });
+    draw(QStringLiteral("onboarding-refused"));
+    content_.prefixSelection()->acknowledge();
+    content_.finishOnboarding();
+  }
+
+  void drawDashboards() {
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    draw(QStringLiteral("dashboard-new"));
+    store_.selectPrefix(prefix_.url());
+    draw(QStringLiteral("dashboard-prefix"));
+    store_.setCatalogLastRefreshDate(now.addDays(-3));
+    store_.setLocalInventoryLastScanDate(now.addSecs(-7200));
+    draw(QStringLiteral("dashboard-fresh"));
+    store_.setCatalogLastRefreshDate(now.addDays(-30));
+    store_.setLocalInventoryLastScanDate(now.addDays(-2));
+    draw(QStringLiteral("dashboard-stale"));
+    store_.clearCacheMarkers();
+    store_.resetPrefix();
+  }
+
+  /// The sections below the first, which scrolls away.
+  void drawSettingsSections() {
+    store_.setCatalogLastRefreshDate(QDateTime::currentDateTimeUtc());
+    for (const QString& what :
+         {QStringLiteral("Clear Metadata Cache"), QStringLiteral("Reset Onboarding"),
+          QStringLiteral("Quillmere Support")}) {
+      focusOn(what, window()->contentItem());
+      draw(QStringLiteral("settings-") + what.section(u' ', -1).toLower());
+    }
+    content_.settings()->askClearCacheMarkers();
+    draw(QStringLiteral("settings-clear-question"));
+    content_.settings()->cancel();
+  }
+
+  /// Gives the keyboard to the button with this text, which brings it into view.
+  static void focusOn(const QString& text, QQuickItem* from) {
+    if (from->isVisible() && from->inherits("QQuickAbstractButton") &&
+        from->property("text").toString() == text) {
+      from->forceActiveFocus(Qt::TabFocusReason);
+      return;
+    }
+    for (QQuickItem* const child : from->childItems()) {
+      focusOn(text, child);
+    }
+  }
+
   [[nodiscard]] QQuickWindow* window() const {
     return qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
   }

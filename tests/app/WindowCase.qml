@@ -17,6 +17,10 @@ TestCase {
 
     function init() {
         stage.makeWorld();
+        openWindow();
+    }
+
+    function openWindow() {
         window = maker.createObject(null, {content: stage.content, memory: stage.memory});
         verify(waitForRendering(window.contentItem));
         window.requestActivate();

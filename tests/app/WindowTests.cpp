@@ -3,6 +3,7 @@
 #include <QtCore/QDirIterator>
 #include <QtCore/QStringList>
 #include <QtGui/QClipboard>
+#include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
 #include <QtQml/QQmlApplicationEngine>
 #include <QtQml/QQmlContext>
@@ -107,6 +108,37 @@ class Stage : public QObject {
                                            QDateTime::currentDateTimeUtc()));
   }
 
+  Q_INVOKABLE void addManyToHistory(int count) {
+    CommandHistory history;
+    for (int number = 0; number < count; ++number) {
+      history += copyRecord(BrewCommandBuilder().update(), QStringLiteral("Updates"),
+                            QDateTime::currentDateTimeUtc());
+    }
+    world_->store.setCommandHistory(history);
+  }
+
+  Q_INVOKABLE void resetOnboarding() { world_->store.resetOnboarding(); }
+
+  Q_INVOKABLE bool hasCompletedOnboarding() const { return world_->store.hasCompletedOnboarding(); }
+
+  /// The catalog was refreshed, and the prefix scanned, so many hours ago.
+  Q_INVOKABLE void setAges(int catalogHours, int scanHours) {
+    constexpr qint64 secondsPerHour = 3600;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    world_->store.setCatalogLastRefreshDate(now.addSecs(-secondsPerHour * catalogHours));
+    world_->store.setLocalInventoryLastScanDate(now.addSecs(-secondsPerHour * scanHours));
+  }
+
+  /// The addresses that would have gone to the browser since they are caught.
+  Q_INVOKABLE QStringList openedPages() const { return openedPages_; }
+
+  Q_INVOKABLE void catchPages() {
+    openedPages_.clear();
+    QDesktopServices::setUrlHandler(QStringLiteral("https"), this, "openPage");
+  }
+
+  Q_INVOKABLE void openPage(const QUrl& page) { openedPages_ += page.toString(); }
+
   Q_INVOKABLE void previewUninstall() {
     const BrewCommandTarget wget{BrewCommandTargetKind::formula, QStringLiteral("wget")};
     world_->content.openPreview(BrewCommandBuilder().uninstall(wget).value(),
@@ -151,6 +183,7 @@ class Stage : public QObject {
   void worldChanged();
 
  private:
+  QStringList openedPages_;
   std::unique_ptr<World> world_;
 };
 

@@ -24,7 +24,7 @@ WindowCase {
     }
 
     function test_theScreensReadNothingTwice_data() {
-        return [0, 5, 6, 7].map(index => ({tag: "section " + index, index: index}));
+        return [0, 5, 6, 7, 8].map(index => ({tag: "section " + index, index: index}));
     }
 
     function test_theScreensReadNothingTwice(data) {
@@ -101,7 +101,10 @@ WindowCase {
         stage.content.selectIndex(7);
         shows("Looks like a Homebrew prefix");
         const stops = tabStops();
-        compare(stops.slice(-4), ["Change Prefix", "Recheck", "Reset", "Reset Selected Prefix"]);
+        const panel = stops.indexOf("Change Prefix");
+        compare(stops.slice(panel), ["Change Prefix", "Recheck", "Reset", "Reset Selected Prefix",
+                                     "Clear Command History", "Reset Onboarding",
+                                     "Privacy Policy", "Quillmere Support"]);
     }
 
     function test_theKeyboardReturnsFromAnAlert() {

@@ -8,7 +8,7 @@ T.TextField {
     property string prompt: ""
 
     signal searched(text: string)
-    signal left
+    signal finished
 
     implicitWidth: Theme.alertWidth
     implicitHeight: Math.max(Theme.controlHeight, contentHeight + 2 * Theme.small)
@@ -25,10 +25,10 @@ T.TextField {
     Accessible.name: prompt
     Accessible.searchEdit: true
 
-    Keys.onEscapePressed: text.length > 0 ? empty() : left()
-    Keys.onDownPressed: left()
-    Keys.onReturnPressed: left()
-    Keys.onEnterPressed: left()
+    Keys.onEscapePressed: text.length > 0 ? empty() : finished()
+    Keys.onDownPressed: finished()
+    Keys.onReturnPressed: finished()
+    Keys.onEnterPressed: finished()
 
     onTextEdited: searched(text)
 

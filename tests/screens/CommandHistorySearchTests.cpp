@@ -1,0 +1,186 @@
+#include <QtCore/QElapsedTimer>
+#include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QSignalSpy>
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+#include "persistence/LocalPersistenceStore.h"
+#include "screens/CommandHistoryViewModel.h"
+#include "support/Printers.h"
+#include "support/TemporarySettings.h"
+
+namespace quillmere {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+CommandHistoryRecord copiedUpdate() {
+  return {.id = QUuid::createUuid(),
+          .command = u"brew update"_s,
+          .copiedAt = QDateTime::fromSecsSinceEpoch(1'000'000'000, Qt::UTC),
+          .operationType = u"update"_s,
+          .sourceScreen = u"Updates"_s};
+}
+
+CommandHistoryRecord executedUpgrade(std::int32_t exitCode = 0) {
+  CommandHistoryRecord record = copiedUpdate();
+  record.command = u"brew upgrade wget"_s;
+  record.operationType = u"upgrade"_s;
+  record.packageTarget = u"wget"_s;
+  record.copied = false;
+  record.executed = true;
+  record.executionExitCode = exitCode;
+  record.executionCancelled = false;
+  return record;
+}
+
+CommandHistoryRecord cancelledInstall() {
+  CommandHistoryRecord record = executedUpgrade(143);
+  record.command = u"brew install --cask firefox"_s;
+  record.operationType = u"install"_s;
+  record.packageTarget = u"firefox"_s;
+  record.sourceScreen = u"Browse"_s;
+  record.executionCancelled = true;
+  record.executionOutputSummary = u"Cr\u00e8me br\u00fbl\u00e9e"_s;
+  return record;
+}
+
+TEST(SearchTextOfARecord, JoinsNineTextsInOrder) {
+  EXPECT_EQ(searchText(cancelledInstall()),
+            u"brew install --cask firefox install firefox Browse not copied executed 143 "
+            u"cancelled Cr\u00e8me br\u00fbl\u00e9e"_s);
+}
+
+TEST(SearchTextOfARecord, KeepsThePlaceOfWhatIsAbsent) {
+  CommandHistoryRecord record = copiedUpdate();
+  record.sourceScreen.reset();
+  EXPECT_EQ(searchText(record), u"brew update update   copied not executed   "_s);
+}
+
+class CommandHistorySearch : public testing::Test {
+ protected:
+  CommandHistorySearch() {
+    store.appendHistory(cancelledInstall());
+    store.appendHistory(executedUpgrade());
+    store.appendHistory(copiedUpdate());
+  }
+
+  /// The commands of the records that are found, in the order of the rows.
+  [[nodiscard]] QStringList found(const QString& query) {
+    history.setSearchText(query);
+    QStringList commands;
+    for (int row = 0; row < history.records()->rowCount(); ++row) {
+      commands +=
+          history.records()->index(row).data(CommandHistoryListModel::CommandRole).toString();
+    }
+    return commands;
+  }
+
+  const QString update = u"brew update"_s;
+  const QString upgrade = u"brew upgrade wget"_s;
+  const QString install = u"brew install --cask firefox"_s;
+  test::TemporarySettings settings;
+  LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
+  CommandHistoryViewModel history{store};
+  QAbstractItemModelTester tester{history.records(),
+                                  QAbstractItemModelTester::FailureReportingMode::Fatal};
+};
+
+TEST_F(CommandHistorySearch, ShowsEverythingForAnEmptyQuery) {
+  EXPECT_EQ(found(u" \n\t "_s), (QStringList{update, upgrade, install}));
+  EXPECT_EQ(history.matchesText(), QString());
+}
+
+TEST_F(CommandHistorySearch, FindsExactlyTheCopiesByNotExecuted) {
+  EXPECT_EQ(found(u"not executed"_s), QStringList{update});
+}
+
+TEST_F(CommandHistorySearch, FindsExactlyTheCancelledRuns) {
+  EXPECT_EQ(found(u"cancelled"_s), QStringList{install});
+}
+
+TEST_F(CommandHistorySearch, FindsAnExitCodeAndEveryOtherFieldWithItsDigit) {
+  store.appendHistory(executedUpgrade(1));
+  CommandHistoryRecord python = copiedUpdate();
+  python.command = u"brew info python@3.11"_s;
+  store.appendHistory(python);
+  EXPECT_EQ(found(u"1"_s), (QStringList{python.command, upgrade, install}));
+}
+
+TEST_F(CommandHistorySearch, IgnoresCaseAndDiacriticsAndWhiteSpaceAround) {
+  EXPECT_EQ(found(u"  CREME Brulee\n"_s), QStringList{install});
+  EXPECT_EQ(found(u"BR\u00dbL\u00c9E"_s), QStringList{install});
+}
+
+TEST_F(CommandHistorySearch, FindsAcrossTheBorderOfTwoTexts) {
+  EXPECT_EQ(found(u"wget upgrade wget updates"_s), QStringList{upgrade});
+}
+
+TEST_F(CommandHistorySearch, KeepsTheOrderOfTheRecords) {
+  EXPECT_EQ(found(u"executed"_s), (QStringList{update, upgrade, install}));
+  EXPECT_EQ(found(u"updates"_s), (QStringList{update, upgrade}));
+}
+
+TEST_F(CommandHistorySearch, SaysHowMuchItFound) {
+  history.setSearchText(u"updates"_s);
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::Listed);
+  EXPECT_EQ(history.matchesText(), u"2 of 3 commands"_s);
+}
+
+TEST_F(CommandHistorySearch, SaysWhenNothingMatches) {
+  history.setSearchText(u"nothing like it"_s);
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::NoMatches);
+  EXPECT_EQ(history.matchesText(), u"No History Matches"_s);
+  history.clearSearch();
+  EXPECT_EQ(history.searchText(), QString());
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::Listed);
+}
+
+TEST_F(CommandHistorySearch, ShowsANewRecordThatMatchesWithoutMovingTheOthers) {
+  history.setSearchText(u"wget"_s);
+  const QSignalSpy inserted(history.records(), &QAbstractItemModel::rowsInserted);
+  const QSignalSpy resets(history.records(), &QAbstractItemModel::modelReset);
+  store.appendHistory(executedUpgrade());
+  EXPECT_EQ(inserted.size(), 1);
+  store.appendHistory(copiedUpdate());
+  EXPECT_EQ(inserted.size(), 1);
+  EXPECT_TRUE(resets.isEmpty());
+  EXPECT_EQ(history.matchesText(), u"2 of 5 commands"_s);
+  EXPECT_EQ(found(u"wget"_s), (QStringList{upgrade, upgrade}));
+}
+
+TEST_F(CommandHistorySearch, IsEmptyAtOnceWhenTheHistoryIsCleared) {
+  history.setSearchText(u"wget"_s);
+  store.clearHistory();
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::Empty);
+  store.appendHistory(copiedUpdate());
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::NoMatches);
+  EXPECT_EQ(found(u"update"_s), QStringList{update});
+}
+
+TEST_F(CommandHistorySearch, FindsEveryLetterOfAQueryInTimeInALargeHistory) {
+  constexpr int records = 10'000;
+  CommandHistory many(records);
+  std::ranges::generate(many, [number = 0]() mutable {
+    CommandHistoryRecord record = cancelledInstall();
+    record.command += QString::number(number++);
+    record.executionOutputSummary = u"==> Downloading caf\u00e9 "_s.repeated(23);
+    return record;
+  });
+  store.setCommandHistory(many);
+  history.setSearchText(u"f"_s);
+  const QString query = u"firefox9999"_s;
+  QElapsedTimer timer;
+  timer.start();
+  for (qsizetype letters = 1; letters <= query.size(); ++letters) {
+    history.setSearchText(query.first(letters));
+  }
+  RecordProperty("milliseconds_per_letter", static_cast<int>(timer.elapsed() / query.size()));
+  EXPECT_EQ(history.matchesText(), u"1 of 10000 commands"_s);
+  // A frame of the screen and a wide margin for a busy machine with sanitizers.
+  EXPECT_LT(timer.elapsed() / query.size(), 200);
+}
+
+}  // namespace
+}  // namespace quillmere
