@@ -15,6 +15,10 @@ Card {
     Layout.maximumHeight: list.contentHeight + 2 * padding
     padding: Theme.tiny
 
+    function takeKeyboard(): void {
+        list.forceActiveFocus();
+    }
+
     ListView {
         id: list
 

@@ -44,7 +44,7 @@ FocusScope {
             Layout.maximumWidth: Theme.textWidth
             viewModel: root.viewModel
 
-            onFinished: list.forceActiveFocus()
+            onFinished: list.takeKeyboard()
         }
 
         CommandHistoryList {

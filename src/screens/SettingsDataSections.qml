@@ -11,6 +11,16 @@ ColumnLayout {
 
     spacing: Theme.normal
 
+    // The button that was pressed may have nothing left to do: the keyboard goes on to the next.
+    Connections {
+        function onDone(): void {
+            if (clearCache.focus && !clearCache.enabled)
+                clearHistory.forceActiveFocus(Qt.TabFocusReason);
+        }
+
+        target: root.viewModel
+    }
+
     SectionBlock {
         symbolName: "externaldrive"
         title: "Local Inventory Refresh"
@@ -37,6 +47,8 @@ ColumnLayout {
         }
 
         DestructiveButton {
+            id: clearCache
+
             enabled: root.viewModel.canClearMetadataCache
             text: "Clear Metadata Cache"
 
@@ -60,6 +72,8 @@ ColumnLayout {
         }
 
         DestructiveButton {
+            id: clearHistory
+
             text: "Clear Command History"
 
             onClicked: root.viewModel.askClearHistory()

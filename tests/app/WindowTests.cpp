@@ -76,6 +76,7 @@ class Stage : public QObject {
 
   /// Whoever looks at the world looks away before it goes.
   Q_INVOKABLE void endWorld() {
+    QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
     const std::unique_ptr<World> ended = std::move(world_);
     Q_EMIT worldChanged();
   }
