@@ -12,7 +12,8 @@ Card {
 
     required property CommandHistoryViewModel viewModel
 
-    Layout.maximumHeight: list.contentHeight + 2 * padding
+    readonly property real fullHeight: list.contentHeight + 2 * padding
+
     padding: Theme.tiny
 
     function takeKeyboard(): void {

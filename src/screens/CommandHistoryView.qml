@@ -47,20 +47,20 @@ FocusScope {
             onFinished: list.takeKeyboard()
         }
 
-        CommandHistoryList {
-            id: list
-
+        Item {
             Layout.alignment: Qt.AlignHCenter
             Layout.fillHeight: true
             Layout.fillWidth: true
             Layout.maximumWidth: Theme.textWidth
-            viewModel: root.viewModel
-            visible: root.listed
-        }
 
-        Item {
-            Layout.fillHeight: true
-            Layout.fillWidth: true
+            CommandHistoryList {
+                id: list
+
+                width: parent.width
+                height: Math.min(parent.height, fullHeight)
+                viewModel: root.viewModel
+                visible: root.listed
+            }
 
             StateMessage {
                 anchors.centerIn: parent
@@ -93,7 +93,7 @@ FocusScope {
 
     Shortcut {
         enabled: !root.empty
-        sequences: [StandardKey.Find]
+        sequence: "Ctrl+F"
 
         onActivated: search.begin()
     }

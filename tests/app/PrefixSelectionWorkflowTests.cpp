@@ -40,6 +40,16 @@ TEST_F(PrefixSelectionWorkflowTest, SelectsAPrefix) {
   EXPECT_FALSE(workflow_.isRefused());
 }
 
+TEST_F(PrefixSelectionWorkflowTest, TellsOfEveryPrefixAndOfNoOtherFolder) {
+  prefix_.withFile(u"bin/brew"_s);
+  const QSignalSpy selected(&workflow_, &PrefixSelectionWorkflow::prefixSelected);
+  choose(emptyFolder_.url());
+  EXPECT_TRUE(selected.isEmpty());
+  choose(prefix_.url());
+  choose(prefix_.url());
+  EXPECT_EQ(selected.size(), 2);
+}
+
 TEST_F(PrefixSelectionWorkflowTest, RefusesAFolderThatIsNoPrefixAndKeepsTheSelection) {
   store_.selectPrefix(prefix_.url());
   choose(emptyFolder_.url());

@@ -47,6 +47,14 @@ WindowCase {
         compare(pages[2], "https://brew.sh");
     }
 
+    function test_withoutABrowserTheAddressIsShown() {
+        open();
+        named("Homebrew Website").forceActiveFocus();
+        keyClick(Qt.Key_Return);
+        shows("No browser opened. The page is at");
+        shows("https://brew.sh");
+    }
+
     function test_nothingIsOpenedByLooking() {
         stage.catchPages();
         open();

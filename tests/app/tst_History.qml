@@ -100,6 +100,14 @@ WindowCase {
         compare(stage.historyCount(), 0);
     }
 
+    function test_aLongHistoryTakesAllTheRoomAndAShortOneNoMore() {
+        stage.addManyToHistory(2);
+        open();
+        tryCompare(list(), "height", list().contentHeight);
+        stage.addManyToHistory(100);
+        tryVerify(() => list().mapToItem(null, 0, list().height).y > window.height - 40);
+    }
+
     function test_aLargeHistoryIsSearchedAsOneTypes() {
         stage.addManyToHistory(10000);
         stage.addToHistory();

@@ -72,50 +72,6 @@ WindowCase {
         compare(stops, ["Continue Catalog-Only", "Select Homebrew Prefix", "Continue Catalog-Only"]);
     }
 
-    function test_theSecondWayInAsksForTheFolder() {
-        raise();
-        let asked = 0;
-        const count = () => ++asked;
-        stage.content.prefixSelection.chooserWanted.connect(count);
-        press("Select Homebrew Prefix");
-        stage.content.prefixSelection.chooserWanted.disconnect(count);
-        compare(asked, 1);
-        verify(named(title));
-        verify(!stage.hasCompletedOnboarding());
-    }
-
-    function test_aPrefixOpensTheProgram() {
-        raise();
-        stage.content.prefixSelection.choose(stage.prefix);
-        hides(title);
-        verify(stage.hasCompletedOnboarding());
-        verify(stage.hasPrefix());
-    }
-
-    function test_thePrefixOfBeforeOpensTheProgramAsWell() {
-        stage.selectPrefix();
-        raise();
-        stage.content.prefixSelection.choose(stage.prefix);
-        hides(title);
-        verify(stage.hasCompletedOnboarding());
-    }
-
-    function test_anotherFolderIsRefusedAboveTheSheetAndLeavesItAsItIs() {
-        raise();
-        stage.content.prefixSelection.choose(stage.emptyFolder);
-        shows("Select a Homebrew Prefix");
-        tryVerify(() => button("Cancel").activeFocus);
-        const alert = named("Select a Homebrew Prefix");
-        verify(alert.width > 200);
-        keyClick(Qt.Key_Escape);
-        hides("Select a Homebrew Prefix");
-        verify(named(title));
-        verify(!stage.hasCompletedOnboarding());
-        verify(!stage.hasPrefix());
-        tryVerify(() => button("Continue Catalog-Only").activeFocus
-                        || button("Select Homebrew Prefix").activeFocus);
-    }
-
     function test_theSettingsRaiseItAtOnce_data() {
         return [{tag: "section"}, {tag: "window"}];
     }

@@ -39,6 +39,11 @@ TEST(FreshnessIndicator, OfTheInventoryIsStaleAfterOneDay) {
   EXPECT_EQ(inventoryFreshness(monday, monday.addDays(1)), stale);
 }
 
+TEST(FreshnessIndicator, TurnsStaleAtItsStalePoint) {
+  EXPECT_EQ(catalogStalePoint(monday), monday.addDays(7));
+  EXPECT_EQ(inventoryStalePoint(monday), monday.addDays(1));
+}
+
 TEST(FreshnessIndicator, OfADateToComeIsFresh) {
   EXPECT_EQ(inventoryFreshness(monday, monday.addYears(-1)), FreshnessIndicator{Fresh{monday}});
 }

@@ -154,6 +154,16 @@ TEST_F(CatalogCache, RemovesOldKeysEvenWhereTheirDocumentsCannotBeWritten) {
   }
 }
 
+TEST_F(CatalogCache, KnowsWhetherADocumentCanBeRead) {
+  const auto store = start();
+  EXPECT_FALSE(store->hasReadableCatalogCache());
+  store->writeCacheFile("[]", store->caskCacheURL());
+  EXPECT_TRUE(store->hasReadableCatalogCache());
+  store->clearCacheMarkers();
+  ASSERT_TRUE(QDir().mkpath(store->formulaCacheURL().toLocalFile()));
+  EXPECT_FALSE(store->hasReadableCatalogCache());
+}
+
 TEST_F(CatalogCache, DoesNotWaitForAPipeThatIsNamedLikeACacheFile) {
   given(u"cachedFormulaCatalogData"_s, QByteArray("old"));
   ASSERT_TRUE(QDir().mkpath(settings_.cacheDirectoryURL().toLocalFile()));
