@@ -1,9 +1,15 @@
 #include "screens/CommandHistoryListModel.h"
 
+#include <QCoroFuture>
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QPointer>
+
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "persistence/LocalPersistenceStore.h"
+#include "platform/BackgroundThreads.h"
 #include "platform/DateTexts.h"
 #include "platform/TextMatching.h"
 
@@ -11,6 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace quillmere {
 namespace {
+
+/// As many records as are folded before anybody notices.
+constexpr qsizetype foldedAtOnce = 200;
 
 /// When what the record tells of happened: the end of a run, or the copy.
 QString timeText(const CommandHistoryRecord& record) {
@@ -51,6 +60,12 @@ std::string foldedSearchText(const CommandHistoryRecord& record) {
   return searchableForm(searchText(record));
 }
 
+std::vector<std::string> foldedSearchTexts(const CommandHistory& records) {
+  std::vector<std::string> folded(static_cast<std::size_t>(records.size()));
+  std::ranges::transform(records, folded.begin(), &foldedSearchText);
+  return folded;
+}
+
 }  // namespace
 
 QString searchText(const CommandHistoryRecord& record) {
@@ -85,7 +100,7 @@ int CommandHistoryListModel::rowCount(const QModelIndex& parent) const {
   if (parent.isValid()) {
     return 0;
   }
-  return query_.empty() ? recordCount() : static_cast<int>(rows_.size());
+  return isNarrowed_ ? static_cast<int>(rows_.size()) : recordCount();
 }
 
 QVariant CommandHistoryListModel::data(const QModelIndex& index, int role) const {
@@ -134,11 +149,8 @@ void CommandHistoryListModel::search(QStringView query) {
   if (folded == query_) {
     return;
   }
-  beginResetModel();
   query_ = std::move(folded);
-  findRows();
-  endResetModel();
-  Q_EMIT changed();
+  update();
 }
 
 void CommandHistoryListModel::follow() {
@@ -148,22 +160,24 @@ void CommandHistoryListModel::follow() {
                                                   now.last().id == records_.last().id));
   if (oneInFront) {
     insertInFront(now);
-  } else {
-    beginResetModel();
-    records_ = now;
-    folded_.clear();
-    findRows();
-    endResetModel();
+    Q_EMIT changed();
+    return;
   }
-  Q_EMIT changed();
+  ++history_;
+  beginResetModel();
+  records_ = now;
+  folded_.clear();
+  isNarrowed_ = false;
+  endResetModel();
+  update();
 }
 
 /// The rows that are there stay where the user sees them.
 void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
-  if (std::ssize(folded_) == records_.size()) {
+  if (isFolded()) {
     folded_.insert(folded_.begin(), foldedSearchText(now.first()));
   }
-  const bool isShown = query_.empty() || containsSearchable(folded_.front(), query_);
+  const bool isShown = !isNarrowed_ || containsSearchable(folded_.front(), query_);
   if (isShown) {
     beginInsertRows({}, 0, 0);
   }
@@ -174,14 +188,27 @@ void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
   }
 }
 
-void CommandHistoryListModel::findRows() {
-  rows_.clear();
-  if (query_.empty()) {
+/// Shows what the query finds, or goes on showing what it showed until it can.
+void CommandHistoryListModel::update() {
+  const bool narrows = !query_.empty();
+  if (narrows && !isFolded() && records_.size() > foldedAtOnce) {
+    fold();
     return;
   }
-  if (std::ssize(folded_) != records_.size()) {
-    folded_.resize(static_cast<std::size_t>(records_.size()));
-    std::ranges::transform(records_, folded_.begin(), &foldedSearchText);
+  if (narrows && !isFolded()) {
+    folded_ = foldedSearchTexts(records_);
+  }
+  beginResetModel();
+  isNarrowed_ = narrows;
+  findRows();
+  endResetModel();
+  Q_EMIT changed();
+}
+
+void CommandHistoryListModel::findRows() {
+  rows_.clear();
+  if (!isNarrowed_) {
+    return;
   }
   for (int row = 0; row < recordCount(); ++row) {
     if (containsSearchable(folded_[static_cast<std::size_t>(row)], query_)) {
@@ -190,8 +217,36 @@ void CommandHistoryListModel::findRows() {
   }
 }
 
+QCoro::Task<> CommandHistoryListModel::fold() {
+  if (std::exchange(isFolding_, true)) {
+    co_return;
+  }
+  const QPointer<CommandHistoryListModel> self(this);
+  const int history = history_;
+  const QFuture<std::vector<std::string>> folding =
+      QtConcurrent::run(backgroundThreads(), &foldedSearchTexts, records_);
+  std::vector<std::string> folded = co_await folding;
+  if (!self) {
+    co_return;
+  }
+  isFolding_ = false;
+  if (history == history_) {
+    // Records that came meanwhile stand in front.
+    const CommandHistory added = records_.first(records_.size() - std::ssize(folded));
+    std::vector<std::string> inFront = foldedSearchTexts(added);
+    inFront.insert(inFront.end(), std::make_move_iterator(folded.begin()),
+                   std::make_move_iterator(folded.end()));
+    folded_ = std::move(inFront);
+  }
+  update();
+}
+
+bool CommandHistoryListModel::isFolded() const {
+  return std::ssize(folded_) == records_.size();
+}
+
 const CommandHistoryRecord& CommandHistoryListModel::at(int row) const {
-  return records_[query_.empty() ? row : rows_[static_cast<std::size_t>(row)]];
+  return records_[isNarrowed_ ? rows_[static_cast<std::size_t>(row)] : row];
 }
 
 }  // namespace quillmere

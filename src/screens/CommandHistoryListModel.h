@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoroTask>
 #include <QtCore/QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
@@ -13,7 +14,8 @@ namespace quillmere {
 class LocalPersistenceStore;
 
 /// The rows of the history that match the search, in the store's order. Follows the store; owned by
-/// `CommandHistoryViewModel`; UI thread only.
+/// `CommandHistoryViewModel`. Lives on the UI thread; a large history is made ready for its first
+/// search on another one.
 class CommandHistoryListModel : public QAbstractListModel {
   Q_OBJECT
   QML_ANONYMOUS
@@ -40,6 +42,9 @@ class CommandHistoryListModel : public QAbstractListModel {
   /// How many records there are, shown or not.
   [[nodiscard]] int recordCount() const { return static_cast<int>(records_.size()); }
 
+  /// Whether the rows are those that a search found. Not yet while a large history is made ready.
+  [[nodiscard]] bool isNarrowed() const { return isNarrowed_; }
+
   /// Shows the records whose search text contains `query`; all of them for an empty one.
   void search(QStringView query);
 
@@ -50,7 +55,10 @@ class CommandHistoryListModel : public QAbstractListModel {
  private:
   void follow();
   void insertInFront(const CommandHistory& now);
+  void update();
   void findRows();
+  QCoro::Task<> fold();
+  [[nodiscard]] bool isFolded() const;
   [[nodiscard]] const CommandHistoryRecord& at(int row) const;
 
   const LocalPersistenceStore& store_;
@@ -59,9 +67,14 @@ class CommandHistoryListModel : public QAbstractListModel {
   /// The records' search texts in searchable form, made at the first search: folding takes much
   /// longer than searching.
   std::vector<std::string> folded_;
+  bool isFolding_ = false;
+  /// Counts the histories that took the place of another: what was folded of one is of no use for
+  /// the next.
+  int history_ = 0;
   /// In searchable form.
   std::string query_;
-  /// Which records the rows are while there is a query.
+  bool isNarrowed_ = false;
+  /// Which records the rows are while they are narrowed.
   std::vector<int> rows_;
 };
 

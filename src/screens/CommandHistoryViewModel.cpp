@@ -28,7 +28,7 @@ void CommandHistoryViewModel::setSearchText(const QString& text) {
 }
 
 QString CommandHistoryViewModel::matchesText() const {
-  if (QStringView(searchText_).trimmed().isEmpty()) {
+  if (!records_.isNarrowed()) {
     return {};
   }
   const int found = records_.rowCount();

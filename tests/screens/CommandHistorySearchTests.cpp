@@ -1,6 +1,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -14,6 +15,8 @@ namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+constexpr int patience = 20'000;
 
 CommandHistoryRecord copiedUpdate() {
   return {.id = QUuid::createUuid(),
@@ -159,17 +162,60 @@ TEST_F(CommandHistorySearch, IsEmptyAtOnceWhenTheHistoryIsCleared) {
   EXPECT_EQ(found(u"update"_s), QStringList{update});
 }
 
-TEST_F(CommandHistorySearch, FindsEveryLetterOfAQueryInTimeInALargeHistory) {
-  constexpr int records = 10'000;
-  CommandHistory many(records);
+CommandHistory manyInstalls(int count) {
+  CommandHistory many(count);
   std::ranges::generate(many, [number = 0]() mutable {
     CommandHistoryRecord record = cancelledInstall();
     record.command += QString::number(number++);
     record.executionOutputSummary = u"==> Downloading caf\u00e9 "_s.repeated(23);
     return record;
   });
-  store.setCommandHistory(many);
+  return many;
+}
+
+TEST_F(CommandHistorySearch, FindsWhatCameWhileALargeHistoryWasMadeReady) {
+  store.setCommandHistory(manyInstalls(1000));
+  history.setSearchText(u"wget"_s);
+  store.appendHistory(executedUpgrade());
+  store.appendHistory(copiedUpdate());
+  EXPECT_EQ(history.records()->rowCount(), 1002);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
+  EXPECT_EQ(history.matchesText(), u"1 of 1002 commands"_s);
+  EXPECT_EQ(found(u"wget"_s), QStringList{upgrade});
+}
+
+TEST_F(CommandHistorySearch, SearchesTheHistoryThatTookThePlaceOfALargeOne) {
+  store.setCommandHistory(manyInstalls(1000));
+  history.setSearchText(u"firefox1999"_s);
+  store.setCommandHistory(manyInstalls(2000));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
+  EXPECT_EQ(history.matchesText(), u"1 of 2000 commands"_s);
+  history.setSearchText(u"firefox1"_s);
+  store.clearHistory();
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::Empty);
+}
+
+TEST_F(CommandHistorySearch, ForgetsAQuestionThatWasTakenBackBeforeItWasAnswered) {
+  store.setCommandHistory(manyInstalls(1000));
+  history.setSearchText(u"wget"_s);
+  history.clearSearch();
+  const QSignalSpy changed(history.records(), &CommandHistoryListModel::changed);
+  EXPECT_TRUE(QTest::qWaitFor([&changed] { return !changed.isEmpty(); }, patience));
+  EXPECT_EQ(history.records()->rowCount(), 1000);
+  EXPECT_EQ(history.matchesText(), QString());
+}
+
+TEST_F(CommandHistorySearch, FindsEveryLetterOfAQueryInTimeInALargeHistory) {
+  store.setCommandHistory(manyInstalls(10'000));
+  QElapsedTimer first;
+  first.start();
   history.setSearchText(u"f"_s);
+  EXPECT_LT(first.elapsed(), 200);
+  RecordProperty("milliseconds_of_the_first_letter", static_cast<int>(first.elapsed()));
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::Listed);
+  EXPECT_EQ(history.matchesText(), QString());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
+  RecordProperty("milliseconds_until_it_is_ready", static_cast<int>(first.elapsed()));
   const QString query = u"firefox9999"_s;
   QElapsedTimer timer;
   timer.start();
