@@ -1,17 +1,220 @@
 #include "screens/CleanupGuidanceViewModel.h"
 
+#include <QCoroFuture>
+#include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QPointer>
+
+#include <array>
 #include <utility>
 
+#include "commands/BrewCommandBuilder.h"
+#include "guidance/FreshnessIndicator.h"
+#include "platform/BackgroundThreads.h"
+#include "platform/ByteTexts.h"
+#include "screens/ScanTexts.h"
+
+using namespace Qt::StringLiterals;
+
 namespace quillmere {
+namespace {
+
+using CacheState = CleanupGuidanceSummary::CacheState;
+
+QString idleText(const std::optional<QString>& prefix) {
+  return prefix ? "Selected prefix: "_L1 + *prefix +
+                      ". Scan local formula and cask directories in read-only mode to estimate old "
+                      "versions and cache availability. "_L1
+                : u"Select a Homebrew prefix before deriving cleanup guidance."_s;
+}
+
+/// The path of a state that has one.
+struct PathOf {
+  QString operator()(const CacheState::Unknown& /*state*/) const { return {}; }
+
+  template <typename State>
+  QString operator()(const State& state) const {
+    return state.path;
+  }
+};
+
+struct ExplanationOf {
+  QString operator()(const CacheState::Readable& /*state*/) const { return {}; }
+
+  QString operator()(const CacheState::Missing& /*state*/) const {
+    return u"The standard Homebrew cache location was not found. There may be nothing to estimate, "
+           "or this prefix may use another cache path."_s;
+  }
+
+  QString operator()(const CacheState::NotReadable& /*state*/) const {
+    return u"The cache location exists but is not readable from the sandbox, so Quillmere cannot "
+           "estimate its size."_s;
+  }
+
+  QString operator()(const CacheState::Unknown& /*state*/) const {
+    return u"Cache location is unavailable until a readable Homebrew prefix is selected."_s;
+  }
+};
+
+}  // namespace
 
 CleanupGuidanceViewModel::CleanupGuidanceViewModel(PreviewRequest previewRequest, Clock clock,
-                                                   QObject* parent)
-    : QObject(parent), previewRequest_(std::move(previewRequest)), clock_(std::move(clock)) {
+                                                   CacheMeasure measure, QObject* parent)
+    : QObject(parent),
+      previewRequest_(std::move(previewRequest)),
+      clock_(std::move(clock)),
+      measure_(std::move(measure)) {
 }
 
 void CleanupGuidanceViewModel::setInputs(const LocalInventoryInputs& inputs) {
+  const State before = state();
+  const bool otherPackages = !(inputs.state == inputs_.state);
+  const bool otherPrefix = inputs.selectedPrefixURL != inputs_.selectedPrefixURL;
   inputs_ = inputs;
+  if (otherPackages) {
+    const auto* const packages = inputs_.state.packages();
+    oldVersions_.show(packages != nullptr
+                          ? oldVersionPackages(*packages)
+                          : std::vector<CleanupGuidanceSummary::OldVersionPackage>());
+  }
+  if (otherPackages || otherPrefix) {
+    ++request_;
+    isMeasuring_ = false;
+  }
+  if (otherPrefix) {
+    setCacheState(std::nullopt);
+  }
   Q_EMIT inputsChanged();
+  if (isShown_ && state() == Loaded && (otherPackages || otherPrefix)) {
+    measureCache(inputs_.selectedPrefixURL);
+  }
+  if (before == Loading && state() == Loaded) {
+    Q_EMIT scanEnded("Scan finished. "_L1 + oldVersionsText());
+  } else if (before == Loading && state() == Failed) {
+    Q_EMIT scanEnded(stateTitle() + ". "_L1 + stateText());
+  }
+}
+
+CleanupGuidanceViewModel::State CleanupGuidanceViewModel::state() const {
+  // In the order of the alternatives.
+  constexpr std::array states{Idle, AccessNeeded, Loading, Loaded, Failed};
+  static_assert(states.size() == std::variant_size_v<decltype(inputs_.state.value)>);
+  return states[inputs_.state.value.index()];
+}
+
+QString CleanupGuidanceViewModel::stateTitle() const {
+  switch (state()) {
+    case Idle:
+      return u"Scan For Cleanup Guidance"_s;
+    case AccessNeeded:
+      return u"Local Access Needed"_s;
+    case Loading:
+      return u"Scanning installed packages before deriving cleanup guidance..."_s;
+    case Failed:
+      return u"Could Not Derive Cleanup Guidance"_s;
+    case Loaded:
+      break;
+  }
+  return {};
+}
+
+QString CleanupGuidanceViewModel::stateText() const {
+  switch (state()) {
+    case Idle:
+      return idleText(inputs_.selectedPrefixPath);
+    case AccessNeeded:
+      return u"Cleanup guidance needs read-only local inventory. Quillmere Direct can run cleanup "
+             "only after showing the command and asking for stronger confirmation."_s;
+    case Loading:
+      return scanProgressText(inputs_);
+    case Failed:
+      return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+    case Loaded:
+      break;
+  }
+  return {};
+}
+
+QString CleanupGuidanceViewModel::stateSymbolName() const {
+  return state() == Failed ? u"externaldrive.badge.exclamationmark"_s : u"sparkles"_s;
+}
+
+QString CleanupGuidanceViewModel::inventoryFreshnessText() const {
+  return inventoryFreshness(inputs_.lastScanDate, clock_()).longText(u"Local inventory"_s);
+}
+
+QString CleanupGuidanceViewModel::oldVersionsText() const {
+  const auto& packages = oldVersions_.packages();
+  if (packages.empty()) {
+    return u"No old formula or cask versions were detected in the latest read-only scan."_s;
+  }
+  return "Detected "_L1 +
+         counted(quillmere::oldVersionCount(packages), u"older installed version"_s) +
+         " across "_L1 + counted(static_cast<qsizetype>(packages.size()), u"package"_s) + u'.';
+}
+
+QString CleanupGuidanceViewModel::currentVersionsText() const {
+  return counted(currentVersionCount(), u"newest version"_s);
+}
+
+int CleanupGuidanceViewModel::oldVersionCount() const {
+  return static_cast<int>(quillmere::oldVersionCount(oldVersions_.packages()));
+}
+
+int CleanupGuidanceViewModel::currentVersionCount() const {
+  const auto* const packages = inputs_.state.packages();
+  return packages != nullptr ? static_cast<int>(packages->size()) : 0;
+}
+
+QString CleanupGuidanceViewModel::cachePath() const {
+  return cacheState_ ? std::visit(PathOf(), cacheState_->value) : QString();
+}
+
+QString CleanupGuidanceViewModel::cacheSizeText() const {
+  const auto* const readable =
+      cacheState_ ? std::get_if<CacheState::Readable>(&cacheState_->value) : nullptr;
+  if (readable == nullptr) {
+    return {};
+  }
+  return readable->estimatedBytes ? byteCountText(*readable->estimatedBytes) : u"Unknown"_s;
+}
+
+QString CleanupGuidanceViewModel::cacheText() const {
+  return cacheState_ ? std::visit(ExplanationOf(), cacheState_->value)
+                     : u"Estimating the size of the cache..."_s;
+}
+
+void CleanupGuidanceViewModel::appear() {
+  isShown_ = true;
+  if (state() == Loaded && !isMeasuring_) {
+    measureCache(inputs_.selectedPrefixURL);
+  }
+}
+
+void CleanupGuidanceViewModel::disappear() {
+  isShown_ = false;
+}
+
+void CleanupGuidanceViewModel::previewCleanup() {
+  previewRequest_(BrewCommandBuilder().cleanup(), u"Cleanup"_s);
+}
+
+QCoro::Task<> CleanupGuidanceViewModel::measureCache(std::optional<QUrl> prefixURL) {
+  const int request = ++request_;
+  isMeasuring_ = true;
+  const QPointer<CleanupGuidanceViewModel> self(this);
+  const QFuture<CacheState> measuring = QtConcurrent::run(backgroundThreads(), measure_, prefixURL);
+  const CacheState measured = co_await measuring;
+  if (self && request == request_) {
+    isMeasuring_ = false;
+    setCacheState(measured);
+  }
+}
+
+void CleanupGuidanceViewModel::setCacheState(std::optional<CacheState> state) {
+  if (cacheState_ != state) {
+    cacheState_ = std::move(state);
+    Q_EMIT cacheChanged();
+  }
 }
 
 }  // namespace quillmere

@@ -3,14 +3,96 @@ import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
+// One package: what is known of it, what is installed, and the commands for it.
 ScreenPage {
     id: root
 
     required property PackageDetailViewModel viewModel
 
-    ScreenHeader {
+    PackageHeader {
         Layout.fillWidth: true
+        viewModel: root.viewModel
+    }
+
+    PackageMetadata {
+        viewModel: root.viewModel
+    }
+
+    SectionBlock {
         symbolName: "shippingbox"
-        title: "Package"
+        title: "Local State"
+
+        ValueRow {
+            copyable: root.viewModel.isInstalled
+            label: "Installed version"
+            value: root.viewModel.installedVersionText
+        }
+
+        ValueRow {
+            copyable: root.viewModel.isInstalled
+            label: "Local source"
+            value: root.viewModel.localSourceText
+        }
+    }
+
+    PackageTags {
+        leads: root.viewModel.isFormula
+        names: root.viewModel.detailItems
+        symbolName: root.viewModel.detailSymbolName
+        text: root.viewModel.detailText
+        title: root.viewModel.detailTitle
+
+        onChosen: name => root.viewModel.formulaWanted(name)
+    }
+
+    PackageTags {
+        leads: true
+        names: root.viewModel.reverseDependencyNames
+        symbolName: "arrow.triangle.branch"
+        text: root.viewModel.reverseDependencyText
+        title: "Reverse Dependencies"
+
+        onChosen: name => root.viewModel.formulaWanted(name)
+    }
+
+    SectionBlock {
+        symbolName: "clock"
+        title: "Freshness"
+
+        BodyText {
+            Layout.fillWidth: true
+            text: root.viewModel.catalogFreshnessText
+        }
+
+        BodyText {
+            Layout.fillWidth: true
+            text: root.viewModel.inventoryFreshnessText
+        }
+    }
+
+    PackageCommands {
+        viewModel: root.viewModel
+    }
+
+    Shortcut {
+        sequences: ["Escape", "Alt+Left", "Back"]
+
+        onActivated: root.viewModel.backWanted()
+    }
+
+    // The button of a mouse that means the same.
+    TapHandler {
+        parent: root
+        acceptedButtons: Qt.BackButton
+
+        onTapped: root.viewModel.backWanted()
+    }
+
+    Connections {
+        function onHomepageProblemChanged(): void {
+            root.announce(root.viewModel.homepageProblem);
+        }
+
+        target: root.viewModel
     }
 }

@@ -2,14 +2,180 @@
 
 #include <utility>
 
+#include "guidance/FreshnessIndicator.h"
+#include "screens/PackageTarget.h"
+
+using namespace Qt::StringLiterals;
+
 namespace quillmere {
+namespace {
+
+QString listed(const std::optional<SharedText>& value) {
+  return value && !value->isEmpty() ? value->toString() : PackageDetailViewModel::notListedText();
+}
+
+QStringList strings(const std::vector<SharedText>& texts) {
+  QStringList result;
+  result.reserve(static_cast<qsizetype>(texts.size()));
+  for (const SharedText& text : texts) {
+    result += text.toString();
+  }
+  return result;
+}
+
+bool isForBrowser(const QUrl& url) {
+  return (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty();
+}
+
+}  // namespace
 
 PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewRequest previewRequest,
-                                               Clock clock, QObject* parent)
+                                               Clock clock, UrlOpener openUrl, QObject* parent)
     : QObject(parent),
       inputs_(std::move(inputs)),
       previewRequest_(std::move(previewRequest)),
-      clock_(std::move(clock)) {
+      clock_(std::move(clock)),
+      openUrl_(std::move(openUrl)),
+      commands_(packageTarget(inputs_.package.kind, inputs_.package.id)) {
+}
+
+QString PackageDetailViewModel::name() const {
+  return inputs_.package.name.toString();
+}
+
+QString PackageDetailViewModel::kindText() const {
+  return displayLabel(inputs_.package.kind);
+}
+
+QString PackageDetailViewModel::versionText() const {
+  return inputs_.package.version.value_or(SharedText()).toString();
+}
+
+QString PackageDetailViewModel::descriptionText() const {
+  const auto& description = inputs_.package.description;
+  return description && !description->isEmpty()
+             ? description->toString()
+             : u"No description is available for this package."_s;
+}
+
+QString PackageDetailViewModel::notListedText() {
+  return u"Not listed"_s;
+}
+
+QString PackageDetailViewModel::latestKnownText() const {
+  return listed(inputs_.package.version);
+}
+
+QString PackageDetailViewModel::headVersionText() const {
+  return listed(inputs_.package.alternateVersion);
+}
+
+QString PackageDetailViewModel::homepageText() const {
+  const auto& homepage = inputs_.package.homepage;
+  return homepage ? homepage->text().toString() : notListedText();
+}
+
+QString PackageDetailViewModel::licenseText() const {
+  return listed(inputs_.package.license);
+}
+
+QString PackageDetailViewModel::tapText() const {
+  return listed(inputs_.package.tap);
+}
+
+bool PackageDetailViewModel::canOpenHomepage() const {
+  return inputs_.package.homepage && isForBrowser(inputs_.package.homepage->url());
+}
+
+QString PackageDetailViewModel::installedVersionText() const {
+  if (!inputs_.installedPackage) {
+    return u"Not installed or unknown"_s;
+  }
+  const auto& versions = inputs_.installedPackage->installedVersions;
+  if (!versions.empty()) {
+    return strings(versions).join(", "_L1);
+  }
+  const auto& version = inputs_.installedPackage->installedVersion;
+  return version ? version->toString() : u"Unknown"_s;
+}
+
+QString PackageDetailViewModel::localSourceText() const {
+  if (inputs_.installedPackage) {
+    return inputs_.installedPackage->detail.toString();
+  }
+  return inputs_.localInventoryLastScanDate ? u"Not found in local scan"_s
+                                            : u"No local package record"_s;
+}
+
+bool PackageDetailViewModel::isFormula() const {
+  return inputs_.package.kind == HomebrewPackageSummary::Kind::formula;
+}
+
+QString PackageDetailViewModel::detailTitle() const {
+  return isFormula() ? u"Dependencies"_s : u"Artifacts"_s;
+}
+
+QString PackageDetailViewModel::detailSymbolName() const {
+  return isFormula() ? u"doc.text.magnifyingglass"_s : u"point.3.connected.trianglepath.dotted"_s;
+}
+
+QString PackageDetailViewModel::detailText() const {
+  if (!inputs_.package.detailItems.empty()) {
+    return {};
+  }
+  return isFormula() ? u"No dependencies are listed in the available metadata."_s
+                     : u"No cask artifacts are listed in the available metadata."_s;
+}
+
+QStringList PackageDetailViewModel::detailItems() const {
+  return strings(inputs_.package.detailItems);
+}
+
+QString PackageDetailViewModel::reverseDependencyText() const {
+  if (!inputs_.reverseDependencyNames) {
+    return inputs_.reverseDependencyUnavailableText;
+  }
+  return inputs_.reverseDependencyNames->empty()
+             ? u"No formulae in the loaded catalog list this package as a dependency."_s
+             : u"Formulae in the loaded catalog that list this package as a dependency:"_s;
+}
+
+QStringList PackageDetailViewModel::reverseDependencyNames() const {
+  return inputs_.reverseDependencyNames ? strings(*inputs_.reverseDependencyNames) : QStringList();
+}
+
+QString PackageDetailViewModel::catalogFreshnessText() const {
+  return catalogFreshness(inputs_.catalogLastRefreshDate, clock_()).longText(u"Catalog metadata"_s);
+}
+
+QString PackageDetailViewModel::inventoryFreshnessText() const {
+  return inventoryFreshness(inputs_.localInventoryLastScanDate, clock_())
+      .longText(u"Local inventory"_s);
+}
+
+QString PackageDetailViewModel::commandText() const {
+  return commands_.rowCount() == 0
+             ? u"Command previews are unavailable because this package identifier is not "
+               "recognized."_s
+             : u"Preview exact Homebrew commands before copying or running approved actions from "
+               "the selected prefix. Mutating actions require confirmation; uninstall remains "
+               "preview-only."_s;
+}
+
+void PackageDetailViewModel::openHomepage() {
+  if (!canOpenHomepage()) {
+    return;
+  }
+  const bool opened = openUrl_(inputs_.package.homepage->url());
+  homepageProblem_ =
+      opened ? QString() : u"No browser could be opened. Copy the address instead."_s;
+  Q_EMIT homepageProblemChanged();
+}
+
+void PackageDetailViewModel::preview(int row) {
+  if (const BrewCommand* const command = commands_.command(row)) {
+    previewRequest_(*command, inputs_.sourceScreen);
+  }
 }
 
 }  // namespace quillmere

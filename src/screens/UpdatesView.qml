@@ -1,16 +1,43 @@
 import QtQuick
-import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
-ScreenPage {
+// Which installed packages look outdated.
+FocusScope {
     id: root
 
     required property UpdatesViewModel viewModel
 
-    ScreenHeader {
-        Layout.fillWidth: true
-        symbolName: "arrow.triangle.2.circlepath"
-        title: "Updates"
+    readonly property bool loaded: viewModel.state === UpdatesViewModel.Loaded
+
+    Announcement {
+        id: announcement
+    }
+
+    FocusScope {
+        anchors.fill: parent
+        focus: !root.loaded
+        visible: !root.loaded
+
+        UpdatesState {
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 2 * Theme.large, Theme.sheetWidth)
+            viewModel: root.viewModel
+        }
+    }
+
+    UpdatesList {
+        anchors.fill: parent
+        focus: root.loaded
+        viewModel: root.viewModel
+        visible: root.loaded
+    }
+
+    Connections {
+        function onScanEnded(outcome: string): void {
+            announcement.say(outcome);
+        }
+
+        target: root.viewModel
     }
 }

@@ -1,16 +1,167 @@
 #include "screens/UpdatesViewModel.h"
 
+#include <array>
 #include <utility>
 
+#include "commands/BrewCommandBuilder.h"
+#include "guidance/FreshnessIndicator.h"
+#include "screens/PackageTarget.h"
+#include "screens/ScanTexts.h"
+
+using namespace Qt::StringLiterals;
+
 namespace quillmere {
+namespace {
+
+constexpr auto sourceScreen = "Updates"_L1;
+
+QString idleText(const std::optional<QString>& prefix) {
+  return prefix ? "Selected prefix: "_L1 + *prefix +
+                      ". Scan local packages in read-only mode to compare installed versions with "
+                      "latest-known metadata."_L1
+                : u"Select a Homebrew prefix before deriving update guidance."_s;
+}
+
+QString noUpdatesText(int reviewCount) {
+  return reviewCount > 0
+             ? "No comparable outdated packages were found. "_L1 +
+                   counted(reviewCount, u"package"_s) +
+                   " have missing, newer, or non-comparable version data."_L1
+             : u"All comparable installed packages match the latest-known catalog versions. This "
+               "is based on cached/public metadata, not live brew output."_s;
+}
+
+}  // namespace
 
 UpdatesViewModel::UpdatesViewModel(PreviewRequest previewRequest, Clock clock, QObject* parent)
     : QObject(parent), previewRequest_(std::move(previewRequest)), clock_(std::move(clock)) {
 }
 
 void UpdatesViewModel::setInputs(const LocalInventoryInputs& inputs) {
+  const State before = state();
+  // A scan reports its progress many times a second: only another list is worth comparing again.
+  const bool otherPackages = !(inputs.state == inputs_.state);
   inputs_ = inputs;
+  if (otherPackages) {
+    const auto* const packages = inputs_.state.packages();
+    packages_.show(packages != nullptr ? packageUpdateSummaries(*packages)
+                                       : std::vector<PackageUpdateSummary>());
+  }
   Q_EMIT inputsChanged();
+  if (before == Loading && state() == Loaded) {
+    Q_EMIT scanEnded("Scan finished. "_L1 + updatesText() + ", "_L1 + reviewText());
+  } else if (before == Loading && state() == Failed) {
+    Q_EMIT scanEnded(stateTitle() + ". "_L1 + stateText());
+  }
+}
+
+UpdatesViewModel::State UpdatesViewModel::state() const {
+  // In the order of the alternatives.
+  constexpr std::array states{Idle, AccessNeeded, Loading, Loaded, Failed};
+  static_assert(states.size() == std::variant_size_v<decltype(inputs_.state.value)>);
+  return states[inputs_.state.value.index()];
+}
+
+QString UpdatesViewModel::stateTitle() const {
+  switch (state()) {
+    case Idle:
+      return u"Scan For Updates"_s;
+    case AccessNeeded:
+      return u"Local Access Needed"_s;
+    case Loading:
+      return u"Scanning installed packages before deriving update guidance..."_s;
+    case Failed:
+      return u"Could Not Derive Updates"_s;
+    case Loaded:
+      break;
+  }
+  return reviewCount() > 0 ? u"No Comparable Updates Found"_s : u"No Updates Found"_s;
+}
+
+QString UpdatesViewModel::stateText() const {
+  switch (state()) {
+    case Idle:
+      return idleText(inputs_.selectedPrefixPath);
+    case AccessNeeded:
+      return u"Update guidance needs read-only local inventory plus latest-known public catalog "
+             "metadata. Quillmere Direct can run approved update and upgrade commands after prefix "
+             "selection and required confirmation."_s;
+    case Loading:
+      return scanProgressText(inputs_);
+    case Failed:
+      return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+    case Loaded:
+      break;
+  }
+  return noUpdatesText(reviewCount());
+}
+
+QString UpdatesViewModel::stateSymbolName() const {
+  switch (state()) {
+    case Failed:
+      return u"externaldrive.badge.exclamationmark"_s;
+    case Loaded:
+      return u"checkmark.circle"_s;
+    case Idle:
+    case AccessNeeded:
+    case Loading:
+      break;
+  }
+  return u"arrow.triangle.2.circlepath"_s;
+}
+
+QString UpdatesViewModel::scanTitle() const {
+  switch (state()) {
+    case Idle:
+      return u"Scan Read-Only Inventory"_s;
+    case Failed:
+      return u"Scan"_s;
+    case AccessNeeded:
+    case Loading:
+    case Loaded:
+      break;
+  }
+  return u"Scan Again"_s;
+}
+
+QString UpdatesViewModel::catalogFreshnessText() const {
+  return catalogFreshness(inputs_.catalogLastRefreshDate, clock_())
+      .longText(u"Latest-known catalog metadata"_s);
+}
+
+QString UpdatesViewModel::sourcesText() const {
+  const QDateTime now = clock_();
+  return inventoryFreshness(inputs_.lastScanDate, now).shortText(u"Local inventory"_s) +
+         u"  \u00b7  "_s +
+         catalogFreshness(inputs_.catalogLastRefreshDate, now)
+             .shortText(u"Latest-known catalog metadata"_s);
+}
+
+QString UpdatesViewModel::updatesText() const {
+  return counted(updateCount(), u"update"_s);
+}
+
+QString UpdatesViewModel::reviewText() const {
+  return QString::number(reviewCount()) + " need review"_L1;
+}
+
+QString UpdatesViewModel::upToDateText() const {
+  return QString::number(upToDateCount()) + " up to date"_L1;
+}
+
+void UpdatesViewModel::previewUpgrade(int row) {
+  const InstalledPackageSummary* const package = packages_.package(row);
+  if (package == nullptr) {
+    return;
+  }
+  if (const auto command =
+          BrewCommandBuilder().upgrade(packageTarget(package->kind, package->id))) {
+    previewRequest_(*command, sourceScreen);
+  }
+}
+
+void UpdatesViewModel::previewUpdate() {
+  previewRequest_(BrewCommandBuilder().update(), sourceScreen);
 }
 
 }  // namespace quillmere

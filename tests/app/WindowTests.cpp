@@ -15,6 +15,7 @@
 #include <optional>
 #include <utility>
 
+#include "DemoPackages.h"
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
 #include "app/WindowMemory.h"
@@ -59,6 +60,8 @@ class Stage : public QObject {
   Q_PROPERTY(quillmere::WindowMemory* memory READ memory NOTIFY worldChanged)
   Q_PROPERTY(QUrl prefix READ prefix NOTIFY worldChanged)
   Q_PROPERTY(QUrl emptyFolder READ emptyFolder NOTIFY worldChanged)
+  Q_PROPERTY(QUrl openedUrl READ openedUrl)
+  Q_PROPERTY(QString wantedFormula READ wantedFormula)
 
  public:
   [[nodiscard]] ContentViewModel* content() { return world_ ? &world_->content : nullptr; }
@@ -71,6 +74,9 @@ class Stage : public QObject {
 
   Q_INVOKABLE void makeWorld() {
     world_ = std::make_unique<World>();
+    openedUrl_.clear();
+    wantedFormula_.clear();
+    browserAnswers_ = true;
     Q_EMIT worldChanged();
   }
 
@@ -140,6 +146,43 @@ class Stage : public QObject {
 
   Q_INVOKABLE void openPage(const QUrl& page) { openedPages_ += page.toString(); }
 
+  /// The screens of the inventory show this scene of `DemoPackages.h`.
+  Q_INVOKABLE void showInventory(const QString& scene) {
+    const LocalInventoryInputs inputs = test::demoInventory(scene, prefix());
+    world_->content.updates()->setInputs(inputs);
+    world_->content.cleanup()->setInputs(inputs);
+  }
+
+  /// Opens the package of this scene of `DemoPackages.h`. Its homepage is opened by no browser.
+  Q_INVOKABLE void openPackage(const QString& scene) {
+    ContentViewModel& content = world_->content;
+    auto detail = std::make_unique<PackageDetailViewModel>(
+        test::demoPackage(scene),
+        [&content](const BrewCommand& command, const QString& sourceScreen) {
+          content.openPreview(command, sourceScreen);
+        },
+        &QDateTime::currentDateTimeUtc,
+        [this](const QUrl& url) {
+          openedUrl_ = url;
+          return browserAnswers_;
+        });
+    connect(detail.get(), &PackageDetailViewModel::formulaWanted, this,
+            [this](const QString& name) { wantedFormula_ = name; });
+    content.details()->push(std::move(detail));
+  }
+
+  /// From now on, no browser can be started.
+  Q_INVOKABLE void breakBrowser() { browserAnswers_ = false; }
+
+  [[nodiscard]] QUrl openedUrl() const { return openedUrl_; }
+
+  [[nodiscard]] QString wantedFormula() const { return wantedFormula_; }
+
+  /// Puts a file of this size into the download cache.
+  Q_INVOKABLE void fillCache(int bytes) {
+    world_->prefix.withFile(QStringLiteral("var/homebrew/cache/file"), QByteArray(bytes, 'x'));
+  }
+
   Q_INVOKABLE void previewUninstall() {
     const BrewCommandTarget wget{BrewCommandTargetKind::formula, QStringLiteral("wget")};
     world_->content.openPreview(BrewCommandBuilder().uninstall(wget).value(),
@@ -186,6 +229,9 @@ class Stage : public QObject {
  private:
   QStringList openedPages_;
   std::unique_ptr<World> world_;
+  QUrl openedUrl_;
+  QString wantedFormula_;
+  bool browserAnswers_ = true;
 };
 
 /// Prepares the test program as `main` prepares the real one.

@@ -9,6 +9,7 @@ ColumnLayout {
     required property string title
     required property string text
 
+    property string note: ""
     default property alias actions: actionRow.data
 
     spacing: Theme.small
@@ -34,6 +35,15 @@ ColumnLayout {
         color: Theme.secondaryText
         horizontalAlignment: Text.AlignHCenter
         text: root.text
+    }
+
+    CaptionText {
+        Layout.alignment: Qt.AlignHCenter
+        Layout.fillWidth: true
+        Layout.maximumWidth: Theme.alertWidth
+        horizontalAlignment: Text.AlignHCenter
+        text: root.note
+        visible: text.length > 0
     }
 
     RowLayout {

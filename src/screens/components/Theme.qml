@@ -68,6 +68,9 @@ QtObject {
     readonly property int rowHeight: 48
     readonly property int sidebarWidth: 220
     readonly property int textWidth: 980
+    readonly property int tagWidth: 120
+    readonly property int labelWidth: 140
+    readonly property int barWidth: 200
     readonly property int sheetWidth: 640
     readonly property int wideSheetWidth: 760
     readonly property int sessionHeight: 440

@@ -1,0 +1,32 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Components
+
+// A topic of a package that is a list of names, or a sentence that says why there are none.
+SectionBlock {
+    id: root
+
+    required property string text
+    required property list<string> names
+
+    property bool leads: false
+
+    signal chosen(string name)
+
+    BodyText {
+        Layout.fillWidth: true
+        color: Theme.secondaryText
+        text: root.text
+        visible: text.length > 0
+    }
+
+    TagFlow {
+        Layout.fillWidth: true
+        accessibleName: root.title
+        items: root.names
+        leads: root.leads
+        visible: items.length > 0
+
+        onChosen: name => root.chosen(name)
+    }
+}

@@ -1,0 +1,97 @@
+#include "screens/PackageUpdateListModel.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quillmere {
+namespace {
+
+using Status = PackageVersionState::Status;
+
+bool isOutdated(const PackageUpdateSummary& summary) {
+  return summary.versionState.status == Status::outdated;
+}
+
+QString tint(Status status) {
+  switch (status) {
+    case Status::upToDate:
+      return u"green"_s;
+    case Status::outdated:
+      return u"blue"_s;
+    case Status::newerThanCatalog:
+    case Status::unknown:
+    case Status::notComparable:
+      return u"orange"_s;
+  }
+  Q_UNREACHABLE();
+}
+
+QString versionText(const std::optional<SharedText>& version) {
+  return version ? version->toString() : u"Unknown"_s;
+}
+
+}  // namespace
+
+void PackageUpdateListModel::show(std::vector<PackageUpdateSummary> summaries) {
+  beginResetModel();
+  upToDateCount_ = static_cast<int>(std::erase_if(summaries, [](const auto& summary) {
+    return summary.versionState.status == Status::upToDate;
+  }));
+  const auto review = std::ranges::stable_partition(summaries, isOutdated);
+  updateCount_ = static_cast<int>(review.begin() - summaries.begin());
+  rows_ = std::move(summaries);
+  endResetModel();
+}
+
+const InstalledPackageSummary* PackageUpdateListModel::package(int row) const {
+  return row >= 0 && row < rowCount() ? &rows_[static_cast<std::size_t>(row)].package : nullptr;
+}
+
+int PackageUpdateListModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(rows_.size());
+}
+
+QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const {
+  if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
+    return {};
+  }
+  const PackageUpdateSummary& row = rows_[static_cast<std::size_t>(index.row())];
+  switch (role) {
+    case NameRole:
+      return row.package.name.toString();
+    case KindTextRole:
+      return displayLabel(row.package.kind);
+    case StatusTextRole:
+      return rawValue(row.versionState.status);
+    case TintRole:
+      return tint(row.versionState.status);
+    case InstalledTextRole:
+      return versionText(row.versionState.currentVersion);
+    case LatestKnownTextRole:
+      return versionText(row.versionState.latestKnownVersion);
+    case AccessibleLabelRole:
+      return spokenLabel(row);
+    case UpgradeLabelRole:
+      return QString("Preview upgrade command for "_L1 + row.package.name.toString());
+    case SectionRole:
+      return isOutdated(row) ? u"Outdated"_s : u"Needs Review"_s;
+    default:
+      return {};
+  }
+}
+
+QHash<int, QByteArray> PackageUpdateListModel::roleNames() const {
+  return {{NameRole, "name"},
+          {KindTextRole, "kindText"},
+          {StatusTextRole, "statusText"},
+          {TintRole, "tint"},
+          {InstalledTextRole, "installedText"},
+          {LatestKnownTextRole, "latestKnownText"},
+          {AccessibleLabelRole, "accessibleLabel"},
+          {UpgradeLabelRole, "upgradeLabel"},
+          {SectionRole, "section"}};
+}
+
+}  // namespace quillmere

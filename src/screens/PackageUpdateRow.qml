@@ -1,0 +1,112 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Components
+
+// One package with its two versions, how they stand to each other, and its upgrade.
+FocusScope {
+    id: root
+
+    required property int index
+    required property string name
+    required property string kindText
+    required property string statusText
+    required property string tint
+    required property string installedText
+    required property string latestKnownText
+    required property string accessibleLabel
+    required property string upgradeLabel
+
+    signal upgradeWanted
+
+    implicitHeight: Math.max(Theme.rowHeight + Theme.small, texts.implicitHeight + 2 * Theme.small)
+
+    Item {
+        anchors.fill: parent
+
+        Accessible.role: Accessible.ListItem
+        Accessible.name: root.accessibleLabel
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: hover.hovered ? Theme.hover : "transparent"
+        radius: Theme.smallRadius
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.medium
+        anchors.rightMargin: Theme.normal
+        spacing: Theme.medium
+
+        ColumnLayout {
+            id: texts
+
+            spacing: Theme.tiny
+
+            RowLayout {
+                spacing: Theme.small
+
+                PlainText {
+                    Layout.fillWidth: true
+                    Layout.maximumWidth: Math.ceil(implicitWidth)
+                    elide: Text.ElideRight
+                    font.weight: Font.Medium
+                    text: root.name
+                    wrapMode: Text.NoWrap
+
+                    Accessible.ignored: true
+                }
+
+                Pill {
+                    spoken: false
+                    text: root.kindText
+                }
+
+                Pill {
+                    spoken: false
+                    text: root.statusText
+                    tint: root.tint
+                }
+
+                Item {
+                    Layout.fillWidth: true
+                }
+            }
+
+            RowLayout {
+                spacing: Theme.normal
+
+                VersionText {
+                    label: "Installed"
+                    value: root.installedText
+                }
+
+                VersionText {
+                    label: "Latest known"
+                    value: root.latestKnownText
+                }
+
+                Item {
+                    Layout.fillWidth: true
+                }
+            }
+        }
+
+        PlainButton {
+            accessibleName: root.upgradeLabel
+            focus: true
+            // The arrow keys lead to it: a stop for each of many rows would be too many.
+            focusPolicy: Qt.ClickFocus
+            help: "Opens a command preview where Quillmere Direct can run the upgrade after confirmation."
+            symbolName: "arrow.up.circle"
+            text: "Preview Upgrade"
+
+            onClicked: root.upgradeWanted()
+        }
+    }
+}

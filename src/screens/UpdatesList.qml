@@ -1,0 +1,115 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls.Basic
+import QtQuick.Layouts
+import Quillmere.Components
+import Quillmere.Screens
+
+// The packages that look outdated and those that want a look.
+FocusScope {
+    id: root
+
+    required property UpdatesViewModel viewModel
+
+    ColumnLayout {
+        x: (parent.width - width) / 2
+        y: Theme.large
+        width: Math.min(parent.width - 2 * Theme.large, Theme.textWidth)
+        height: parent.height - 2 * Theme.large
+        spacing: Theme.normal
+
+        ScreenHeader {
+            Layout.fillWidth: true
+            symbolName: "arrow.triangle.2.circlepath"
+            title: "Updates"
+
+            PlainButton {
+                focus: list.count === 0
+                text: "Scan Again"
+
+                onClicked: root.viewModel.scanWanted()
+            }
+
+            PlainButton {
+                text: "Run brew update"
+
+                onClicked: root.viewModel.previewUpdate()
+            }
+
+            PlainButton {
+                text: "Browse Catalog"
+
+                onClicked: root.viewModel.browseCatalogWanted()
+            }
+        }
+
+        UpdatesSummary {
+            Layout.fillWidth: true
+            viewModel: root.viewModel
+        }
+
+        UpdatesState {
+            Layout.fillWidth: true
+            Layout.topMargin: list.count > 0 ? 0 : Theme.huge
+            viewModel: root.viewModel
+            visible: root.viewModel.updateCount === 0
+        }
+
+        Card {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            Layout.maximumHeight: list.contentHeight + 2 * padding
+            padding: Theme.tiny
+            visible: list.count > 0
+
+            ListView {
+                id: list
+
+                Layout.fillHeight: true
+                Layout.fillWidth: true
+                activeFocusOnTab: true
+                boundsBehavior: Flickable.StopAtBounds
+                clip: true
+                focus: count > 0
+                highlightMoveDuration: 0
+                interactive: wheel.touched
+                keyNavigationEnabled: true
+                model: root.viewModel.packages
+
+                Accessible.role: Accessible.List
+                Accessible.name: "Packages"
+
+                section.property: "section"
+                section.delegate: TitleText {
+                    required property string section
+
+                    width: ListView.view.width
+                    bottomPadding: Theme.small
+                    leftPadding: Theme.medium
+                    text: section
+                    topPadding: Theme.medium
+                }
+
+                delegate: PackageUpdateRow {
+                    width: ListView.view.width
+
+                    onUpgradeWanted: root.viewModel.previewUpgrade(index)
+                }
+
+                ScrollBar.vertical: SlimScrollBar {
+                }
+
+                ScrollWheel {
+                    id: wheel
+
+                    flickable: list
+                }
+            }
+        }
+
+        Item {
+            Layout.fillHeight: true
+        }
+    }
+}

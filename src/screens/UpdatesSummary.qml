@@ -1,0 +1,45 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Components
+import Quillmere.Screens
+
+// How many updates there are, and how that stands to the rest.
+ColumnLayout {
+    id: root
+
+    required property UpdatesViewModel viewModel
+
+    spacing: Theme.small
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: Theme.small
+
+        TitleText {
+            text: root.viewModel.updatesText
+        }
+
+        PlainText {
+            Layout.fillWidth: true
+            color: Theme.secondaryText
+            font.pixelSize: Theme.titleSize
+            text: root.viewModel.reviewText
+        }
+
+        CaptionText {
+            text: root.viewModel.upToDateText
+        }
+    }
+
+    ShareBar {
+        Layout.fillWidth: true
+        counts: [root.viewModel.updateCount, root.viewModel.reviewCount,
+                 root.viewModel.upToDateCount]
+        tints: ["blue", "orange", "green"]
+    }
+
+    CaptionText {
+        Layout.fillWidth: true
+        text: root.viewModel.sourcesText
+    }
+}

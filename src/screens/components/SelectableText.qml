@@ -1,0 +1,33 @@
+import QtQuick
+import Quillmere.Components
+
+// Text that is shown as it is and can be selected and copied, by mouse and by keyboard.
+TextEdit {
+    id: root
+
+    property string spokenText: text
+
+    activeFocusOnTab: true
+    color: Theme.text
+    font.pixelSize: Theme.bodySize
+    readOnly: true
+    selectByMouse: true
+    selectedTextColor: Theme.selectionText
+    selectionColor: Theme.selection
+    textFormat: TextEdit.PlainText
+    wrapMode: TextEdit.Wrap
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: spokenText
+
+    onActiveFocusChanged: if (!activeFocus) deselect()
+
+
+    FocusRing {
+        shown: root.activeFocus
+    }
+
+    HoverHandler {
+        cursorShape: Qt.IBeamCursor
+    }
+}

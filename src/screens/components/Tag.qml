@@ -1,0 +1,74 @@
+import QtQuick
+
+// A short name on a quiet ground. One that leads somewhere is a button.
+Rectangle {
+    id: root
+
+    required property string text
+
+    property bool leads: false
+
+    signal clicked
+
+    implicitHeight: label.implicitHeight + 2 * Theme.tiny
+    color: Theme.neutralFill
+    radius: Theme.smallRadius
+
+    Accessible.role: leads ? Accessible.Button : Accessible.StaticText
+    Accessible.name: text
+    Accessible.onPressAction: root.choose(false)
+
+    // A key that is held down presses once.
+    Keys.onReturnPressed: event => choose(event.isAutoRepeat)
+    Keys.onEnterPressed: event => choose(event.isAutoRepeat)
+    Keys.onSpacePressed: event => choose(event.isAutoRepeat)
+
+    function choose(repeated: bool): void {
+        if (leads && !repeated)
+            clicked();
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: tap.pressed ? Theme.pressed : hover.hovered ? Theme.hover : "transparent"
+        radius: parent.radius
+        visible: root.leads
+    }
+
+    CaptionText {
+        id: label
+
+        anchors.fill: parent
+        anchors.bottomMargin: Theme.tiny
+        anchors.leftMargin: Theme.small
+        anchors.rightMargin: Theme.small
+        anchors.topMargin: Theme.tiny
+        color: root.leads ? Theme.text : Theme.secondaryText
+        text: root.text
+        verticalAlignment: Text.AlignVCenter
+
+        Accessible.ignored: true
+    }
+
+    HoverHandler {
+        id: hover
+
+        cursorShape: root.leads ? Qt.PointingHandCursor : Qt.ArrowCursor
+        enabled: root.leads
+    }
+
+    TapHandler {
+        id: tap
+
+        enabled: root.leads
+
+        onTapped: {
+            root.forceActiveFocus(Qt.MouseFocusReason);
+            root.clicked();
+        }
+    }
+
+    FocusRing {
+        shown: root.activeFocus
+    }
+}
