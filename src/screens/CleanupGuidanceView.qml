@@ -29,7 +29,7 @@ FocusScope {
         }
     }
 
-    CleanupList {
+    CleanupPage {
         anchors.fill: parent
         focus: root.loaded
         viewModel: root.viewModel

@@ -11,29 +11,21 @@ Item {
     required property string versionsText
     required property string accessibleLabel
 
-    property real margin: 0
+    implicitHeight: Theme.twoLineRowHeight
 
-    implicitHeight: texts.implicitHeight + 2 * Theme.small
+    Accessible.role: Accessible.ListItem
+    Accessible.name: accessibleLabel
 
     Hairline {
         anchors.left: parent.left
-        anchors.leftMargin: root.margin
         anchors.right: parent.right
-        anchors.rightMargin: root.margin
     }
 
     ColumnLayout {
-        id: texts
-
-        anchors.fill: parent
-        anchors.bottomMargin: Theme.small
-        anchors.leftMargin: root.margin
-        anchors.rightMargin: root.margin
-        anchors.topMargin: Theme.small
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
         spacing: Theme.tiny
-
-        Accessible.role: Accessible.ListItem
-        Accessible.name: root.accessibleLabel
 
         RowLayout {
             spacing: Theme.small
@@ -61,7 +53,9 @@ Item {
 
         CaptionText {
             Layout.fillWidth: true
+            elide: Text.ElideRight
             text: root.versionsText
+            wrapMode: Text.NoWrap
 
             Accessible.ignored: true
         }

@@ -9,6 +9,9 @@ ScreenPage {
 
     required property PackageDetailViewModel viewModel
 
+    // Whatever had the keyboard in the section has it until it learns that it is covered.
+    Component.onCompleted: focus = true
+
     PackageHeader {
         Layout.fillWidth: true
         viewModel: root.viewModel
@@ -75,7 +78,13 @@ ScreenPage {
     }
 
     Shortcut {
-        sequences: ["Escape", "Alt+Left", "Back"]
+        sequence: "Escape"
+
+        onActivated: root.viewModel.backWanted()
+    }
+
+    Shortcut {
+        sequence: "Alt+Left"
 
         onActivated: root.viewModel.backWanted()
     }

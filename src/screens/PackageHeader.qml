@@ -48,6 +48,7 @@ ColumnLayout {
             }
 
             Pill {
+                width: Math.min(implicitWidth, root.width - kind.width - parent.spacing)
                 text: root.viewModel.versionText
                 tint: "blue"
                 visible: text.length > 0

@@ -53,6 +53,14 @@ int PackageUpdateListModel::rowCount(const QModelIndex& parent) const {
   return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
+/// Above the first row of each section.
+QString PackageUpdateListModel::heading(int row) const {
+  if (row == updateCount_) {
+    return u"Needs Review"_s;
+  }
+  return row == 0 ? u"Outdated"_s : QString();
+}
+
 QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const {
   if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
     return {};
@@ -75,8 +83,8 @@ QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const 
       return spokenLabel(row);
     case UpgradeLabelRole:
       return QString("Preview upgrade command for "_L1 + row.package.name.toString());
-    case SectionRole:
-      return isOutdated(row) ? u"Outdated"_s : u"Needs Review"_s;
+    case HeadingRole:
+      return heading(index.row());
     default:
       return {};
   }
@@ -91,7 +99,7 @@ QHash<int, QByteArray> PackageUpdateListModel::roleNames() const {
           {LatestKnownTextRole, "latestKnownText"},
           {AccessibleLabelRole, "accessibleLabel"},
           {UpgradeLabelRole, "upgradeLabel"},
-          {SectionRole, "section"}};
+          {HeadingRole, "heading"}};
 }
 
 }  // namespace quillmere

@@ -26,7 +26,7 @@ class PackageUpdateListModel : public QAbstractListModel {
     LatestKnownTextRole,
     AccessibleLabelRole,
     UpgradeLabelRole,
-    SectionRole,
+    HeadingRole,
   };
 
   using QAbstractListModel::QAbstractListModel;
@@ -48,6 +48,8 @@ class PackageUpdateListModel : public QAbstractListModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
  private:
+  [[nodiscard]] QString heading(int row) const;
+
   std::vector<PackageUpdateSummary> rows_;
   int updateCount_ = 0;
   int upToDateCount_ = 0;

@@ -7,6 +7,7 @@ FocusScope {
     id: root
 
     required property int index
+    required property string heading
     required property string name
     required property string kindText
     required property string statusText
@@ -16,29 +17,45 @@ FocusScope {
     required property string accessibleLabel
     required property string upgradeLabel
 
+    readonly property real titleHeight: heading.length > 0 ? title.implicitHeight : 0
+
     signal upgradeWanted
 
-    implicitHeight: Math.max(Theme.rowHeight + Theme.small, texts.implicitHeight + 2 * Theme.small)
+    implicitHeight: titleHeight + Math.max(Theme.rowHeight + Theme.small,
+                                           texts.implicitHeight + 2 * Theme.small)
 
-    Item {
-        anchors.fill: parent
+    TitleText {
+        id: title
 
-        Accessible.role: Accessible.ListItem
-        Accessible.name: root.accessibleLabel
+        width: parent.width
+        bottomPadding: Theme.small
+        leftPadding: Theme.medium
+        text: root.heading
+        topPadding: Theme.medium
+        visible: root.heading.length > 0
     }
 
     Rectangle {
-        anchors.fill: parent
+        id: ground
+
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.right: parent.right
+        anchors.top: parent.top
+        anchors.topMargin: root.titleHeight
         color: hover.hovered ? Theme.hover : "transparent"
         radius: Theme.smallRadius
-    }
 
-    HoverHandler {
-        id: hover
+        Accessible.role: Accessible.ListItem
+        Accessible.name: root.accessibleLabel
+
+        HoverHandler {
+            id: hover
+        }
     }
 
     RowLayout {
-        anchors.fill: parent
+        anchors.fill: ground
         anchors.leftMargin: Theme.medium
         anchors.rightMargin: Theme.normal
         spacing: Theme.medium
@@ -82,6 +99,8 @@ FocusScope {
                 spacing: Theme.normal
 
                 VersionText {
+                    Layout.maximumWidth: Layout.preferredWidth
+                    Layout.preferredWidth: Theme.labelWidth + Theme.huge
                     label: "Installed"
                     value: root.installedText
                 }

@@ -59,7 +59,9 @@ FocusScope {
         Card {
             Layout.fillHeight: true
             Layout.fillWidth: true
-            Layout.maximumHeight: list.contentHeight + 2 * padding
+            Layout.minimumHeight: 0
+            Layout.preferredHeight: list.contentHeight + 2 * padding
+            Layout.maximumHeight: Layout.preferredHeight
             padding: Theme.tiny
             visible: list.count > 0
 
@@ -80,17 +82,6 @@ FocusScope {
                 Accessible.role: Accessible.List
                 Accessible.name: "Packages"
 
-                section.property: "section"
-                section.delegate: TitleText {
-                    required property string section
-
-                    width: ListView.view.width
-                    bottomPadding: Theme.small
-                    leftPadding: Theme.medium
-                    text: section
-                    topPadding: Theme.medium
-                }
-
                 delegate: PackageUpdateRow {
                     width: ListView.view.width
 
@@ -110,6 +101,7 @@ FocusScope {
 
         Item {
             Layout.fillHeight: true
+            Layout.preferredHeight: 0
         }
     }
 }

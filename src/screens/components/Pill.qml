@@ -11,7 +11,9 @@ Rectangle {
     // Off where what holds the pill says its word.
     property bool spoken: true
 
-    implicitWidth: row.implicitWidth + 2 * Theme.small
+    readonly property real symbolWidth: symbolName.length > 0 ? symbol.width + row.spacing : 0
+
+    implicitWidth: Math.ceil(symbolWidth + label.implicitWidth) + 2 * Theme.small
     implicitHeight: row.implicitHeight + Theme.tiny
     color: Theme.tintFill(tint)
     radius: height / 2
@@ -23,6 +25,8 @@ Rectangle {
         spacing: Theme.tiny
 
         Symbol {
+            id: symbol
+
             name: root.symbolName
             anchors.verticalCenter: parent.verticalCenter
             color: Theme.tint(root.tint)
@@ -31,8 +35,12 @@ Rectangle {
         }
 
         CaptionText {
+            id: label
+
+            width: Math.min(implicitWidth, root.width - root.symbolWidth - 2 * Theme.small)
             anchors.verticalCenter: parent.verticalCenter
             color: Theme.tint(root.tint)
+            elide: Text.ElideRight
             font.weight: Font.Medium
             text: root.text
             wrapMode: Text.NoWrap

@@ -9,6 +9,8 @@ FocusScope {
 
     default property alias content: column.data
     property int margin: Theme.large
+    // The upper edge of what is in view, in the coordinates of the content.
+    readonly property real viewTop: flickable.contentY - margin
     readonly property bool overflows: flickable.contentHeight > flickable.height
 
     implicitHeight: flickable.contentHeight

@@ -66,6 +66,7 @@ QtObject {
     readonly property int symbolSize: Math.round(bodySize * 1.4)
     readonly property int controlHeight: bodySize * 2 + small
     readonly property int rowHeight: 48
+    readonly property int twoLineRowHeight: bodySize * 2 + captionSize + large
     readonly property int sidebarWidth: 220
     readonly property int textWidth: 980
     readonly property int tagWidth: 120

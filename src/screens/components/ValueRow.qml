@@ -37,7 +37,10 @@ RowLayout {
     RowLayout {
         id: actionRow
 
+        // Buttons stand higher than a line of text: they reach into the gaps to the next rows.
         Layout.alignment: Qt.AlignTop
+        Layout.bottomMargin: -Theme.small
+        Layout.topMargin: -Theme.small
         visible: children.length > 0
     }
 }

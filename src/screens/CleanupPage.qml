@@ -3,15 +3,11 @@ import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
-// What a cleanup does, and the head of the list of old versions.
-ColumnLayout {
+// The guidance of a loaded inventory.
+ScreenPage {
     id: root
 
     required property CleanupGuidanceViewModel viewModel
-
-    readonly property Item listHead: head
-
-    spacing: Theme.normal
 
     ScreenHeader {
         Layout.fillWidth: true
@@ -21,6 +17,7 @@ ColumnLayout {
         title: "Cleanup Guidance"
 
         PlainButton {
+            focus: true
             text: "Scan Again"
 
             onClicked: root.viewModel.scanWanted()
@@ -43,24 +40,32 @@ ColumnLayout {
         }
     }
 
-    SectionBlock {
-        id: head
+    OldVersions {
+        viewHeight: root.height
+        viewModel: root.viewModel
+        viewTop: root.viewTop - y
+    }
 
-        border.color: "transparent"
-        color: "transparent"
-        symbolName: "shippingbox"
-        title: "Old Versions"
+    CleanupCache {
+        viewModel: root.viewModel
+    }
+
+    SectionBlock {
+        symbolName: "terminal"
+        title: "Command Preview"
 
         BodyText {
             Layout.fillWidth: true
-            text: root.viewModel.oldVersionsText
+            text: "Preview the exact cleanup command before copying or running it. Quillmere Direct records completed executions in local History."
         }
 
-        ShareBar {
-            Layout.fillWidth: true
-            counts: [root.viewModel.oldVersionCount, root.viewModel.currentVersionCount]
-            tints: ["orange", "neutral"]
-            visible: root.viewModel.oldVersionCount > 0
+        PrimaryButton {
+            accessibleName: "Preview cleanup command"
+            help: "Opens a command preview where Quillmere Direct can run cleanup after stronger confirmation."
+            symbolName: "sparkles"
+            text: "Preview Cleanup"
+
+            onClicked: root.viewModel.previewCleanup()
         }
     }
 }
