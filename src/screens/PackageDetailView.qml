@@ -12,6 +12,13 @@ ScreenPage {
     // Whatever had the keyboard in the section has it until it learns that it is covered.
     Component.onCompleted: focus = true
 
+    Keys.onPressed: event => {
+        event.accepted = event.key === Qt.Key_Escape || event.key === Qt.Key_Back
+                         || (event.key === Qt.Key_Left && event.modifiers === Qt.AltModifier);
+        if (event.accepted)
+            viewModel.backWanted();
+    }
+
     PackageHeader {
         Layout.fillWidth: true
         viewModel: root.viewModel
@@ -75,18 +82,6 @@ ScreenPage {
 
     PackageCommands {
         viewModel: root.viewModel
-    }
-
-    Shortcut {
-        sequence: "Escape"
-
-        onActivated: root.viewModel.backWanted()
-    }
-
-    Shortcut {
-        sequence: "Alt+Left"
-
-        onActivated: root.viewModel.backWanted()
     }
 
     // The button of a mouse that means the same.

@@ -21,6 +21,7 @@ FocusScope {
 
     signal upgradeWanted
 
+    focus: ListView.isCurrentItem
     implicitHeight: titleHeight + Math.max(Theme.rowHeight + Theme.small,
                                            texts.implicitHeight + 2 * Theme.small)
 

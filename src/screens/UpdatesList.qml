@@ -82,6 +82,9 @@ FocusScope {
                 Accessible.role: Accessible.List
                 Accessible.name: "Packages"
 
+                // Where the keyboard comes in.
+                onCountChanged: if (currentIndex < 0) currentIndex = 0
+
                 delegate: PackageUpdateRow {
                     width: ListView.view.width
 

@@ -77,13 +77,19 @@ WindowCase {
     }
 
     function test_theWayBack_data() {
-        return [{tag: "Escape", key: Qt.Key_Escape, modifiers: Qt.NoModifier},
-                {tag: "Alt+Left", key: Qt.Key_Left, modifiers: Qt.AltModifier}];
+        return [{tag: "Escape", from: "Back", key: Qt.Key_Escape, modifiers: Qt.NoModifier},
+                {tag: "Alt+Left", from: "Back", key: Qt.Key_Left, modifiers: Qt.AltModifier},
+                {tag: "Escape from a text", from: "Latest known: 1.25.0", key: Qt.Key_Escape,
+                 modifiers: Qt.NoModifier},
+                {tag: "Alt+Left from a text", from: "Latest known: 1.25.0", key: Qt.Key_Left,
+                 modifiers: Qt.AltModifier},
+                {tag: "Alt+Left from a name", from: "libidn2", key: Qt.Key_Left,
+                 modifiers: Qt.AltModifier}];
     }
 
     function test_theWayBack(data) {
         open("installed");
-        named("Latest known: 1.25.0").forceActiveFocus();
+        named(data.from).forceActiveFocus();
         keyClick(data.key, data.modifiers);
         tryCompare(stage.content.details, "current", null);
     }

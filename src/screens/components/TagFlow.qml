@@ -26,7 +26,8 @@ FocusScope {
     Accessible.name: accessibleName
 
     Keys.onPressed: event => {
-        event.accepted = leads && go(current + step(event.key));
+        event.accepted = leads && event.modifiers === Qt.NoModifier
+                         && go(current + step(event.key));
     }
 
     // How far a key leads; nothing for a key that does not.
