@@ -83,6 +83,8 @@ QtObject {
     readonly property int noticeTime: 2500
     // After so long without a letter, somebody who types has typed.
     readonly property int typingRest: 600
+    // How long a wait may last before it is worth a word.
+    readonly property int patience: 150
     // One turn of a symbol that shows that something goes on.
     readonly property int turnTime: 2400
     readonly property real disabledOpacity: 0.45
