@@ -25,6 +25,7 @@ constexpr auto symbols = std::to_array<Symbol>({
     {QLatin1StringView("checkmark.seal"), u'\uef76'},
     {QLatin1StringView("checkmark.shield"), u'\ue8e8'},
     {QLatin1StringView("chevron.backward"), u'\ue5c4'},
+    {QLatin1StringView("chevron.down"), u'\ue5cf'},
     {QLatin1StringView("circle"), u'\ue836'},
     {QLatin1StringView("circle.dotted"), u'\uef64'},
     {QLatin1StringView("circle.fill"), u'\uef4a'},

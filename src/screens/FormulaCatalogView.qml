@@ -1,16 +1,127 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
-ScreenPage {
+// The catalog: where it comes from, a search in it, and what the search found.
+FocusScope {
     id: root
 
     required property FormulaCatalogViewModel viewModel
 
-    ScreenHeader {
-        Layout.fillWidth: true
-        symbolName: "magnifyingglass"
-        title: "Browse Catalog"
+    readonly property int phase: viewModel.state
+    readonly property bool listed: phase === FormulaCatalogViewModel.Listed
+    readonly property bool loading: phase === FormulaCatalogViewModel.Loading
+    readonly property bool filtering: phase === FormulaCatalogViewModel.Filtering
+    readonly property bool matchless: phase === FormulaCatalogViewModel.NoMatch
+    readonly property bool compact: column.width < actions.implicitWidth
+
+    ColumnLayout {
+        id: column
+
+        x: (root.width - width) / 2
+        y: Theme.large
+        width: Math.min(root.width - 2 * Theme.large, Theme.textWidth)
+        height: root.height - 2 * Theme.large
+        spacing: Theme.normal
+
+        ScreenHeader {
+            Layout.fillWidth: true
+            freshness: root.viewModel.freshnessText
+            symbolName: "magnifyingglass"
+            title: "Browse Catalog"
+
+            CatalogMenu {
+                viewModel: root.viewModel
+                visible: root.compact
+            }
+        }
+
+        CatalogActions {
+            id: actions
+
+            viewModel: root.viewModel
+            visible: !root.compact
+        }
+
+        PackageSearchBar {
+            id: searchBar
+
+            Layout.fillWidth: true
+            enabled: root.listed || root.filtering || root.matchless
+            filterIndex: root.viewModel.filterIndex
+            filterTitles: root.viewModel.filterTitles
+            placeholder: "Search formulae and casks"
+            searchText: root.viewModel.searchText
+
+            onFilterWanted: index => root.viewModel.filterIndex = index
+            onSearchWanted: text => root.viewModel.searchText = text
+        }
+
+        PackageListArea {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            accessibleSummary: root.viewModel.accessibleSummary
+            focus: true
+            listed: root.listed
+            model: root.viewModel.packages
+            summary: root.compact ? root.viewModel.shortSummary : root.viewModel.longSummary
+
+            onOpened: row => root.viewModel.open(row)
+
+            delegate: CatalogPackageRow {
+                width: ListView.view.width
+            }
+
+            StateMessage {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.sheetWidth)
+                symbolName: root.viewModel.symbolName
+                text: root.viewModel.text
+                title: root.viewModel.title
+                visible: !root.listed && !root.loading && !root.filtering
+
+                PlainButton {
+                    enabled: root.viewModel.searchText.length > 0
+                    text: "Clear Search"
+                    visible: root.matchless
+
+                    onClicked: {
+                        root.viewModel.clearSearch();
+                        searchBar.edit();
+                    }
+                }
+            }
+
+            Progress {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.alertWidth)
+                details: root.viewModel.progressText
+                fraction: root.viewModel.progressFraction
+                title: root.viewModel.title
+                visible: root.loading || root.filtering
+
+                PlainButton {
+                    text: "Cancel"
+                    visible: root.loading
+
+                    onClicked: root.viewModel.cancelFetch()
+                }
+            }
+        }
+    }
+
+    Announcement {
+        id: announcement
+    }
+
+    Connections {
+        function onAnnounced(text: string): void {
+            announcement.say(text);
+        }
+
+        target: root.viewModel
     }
 }

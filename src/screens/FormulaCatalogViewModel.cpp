@@ -4,11 +4,127 @@
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QPointer>
 
+#include <algorithm>
 #include <utility>
 
+#include "guidance/FreshnessIndicator.h"
 #include "platform/BackgroundThreads.h"
+#include "platform/ByteTexts.h"
 
 namespace quillmere {
+namespace {
+
+QString freshnessLabel() {
+  return QStringLiteral("Catalog");
+}
+
+}  // namespace
+
+FormulaCatalogViewModel::FormulaCatalogViewModel(Clock clock, QObject* parent)
+    : QObject(parent), clock_(std::move(clock)) {
+}
+
+auto FormulaCatalogViewModel::state() const -> State {
+  if (std::holds_alternative<PackageCatalogState::Loading>(inputs_.state.value)) {
+    return Loading;
+  }
+  if (std::holds_alternative<PackageCatalogState::Failed>(inputs_.state.value)) {
+    return Failed;
+  }
+  if (!catalog_ || catalog_->packages().empty()) {
+    return NotLoaded;
+  }
+  if (isFiltering_) {
+    return Filtering;
+  }
+  return packages_.rowCount() == 0 ? NoMatch : Listed;
+}
+
+QString FormulaCatalogViewModel::symbolName() const {
+  return state() == Failed ? QStringLiteral("wifi.exclamationmark")
+                           : QStringLiteral("magnifyingglass");
+}
+
+QString FormulaCatalogViewModel::title() const {
+  switch (state()) {
+    case NotLoaded:
+    case NoMatch:
+      return QStringLiteral("No Packages Found");
+    case Loading:
+      return std::get<PackageCatalogState::Loading>(inputs_.state.value).message;
+    case Failed:
+      return QStringLiteral("Could Not Load Catalog");
+    case Filtering:
+      return QStringLiteral("Searching packages...");
+    case Listed:
+      return {};
+  }
+  Q_UNREACHABLE();
+}
+
+QString FormulaCatalogViewModel::text() const {
+  switch (state()) {
+    case NotLoaded:
+      return QStringLiteral("Fetch formulae or casks to populate Browse.");
+    case Failed:
+      return std::get<PackageCatalogState::Failed>(inputs_.state.value).message;
+    case NoMatch:
+      return QStringLiteral("Try a different search term or package type filter.");
+    case Loading:
+    case Filtering:
+    case Listed:
+      return {};
+  }
+  Q_UNREACHABLE();
+}
+
+QString FormulaCatalogViewModel::progressText() const {
+  if (state() != Loading || inputs_.receivedBytes == 0) {
+    return {};
+  }
+  const QString received = byteCountText(inputs_.receivedBytes);
+  if (progressFraction() < 0) {
+    return received;
+  }
+  // Rounded down: what is not there whole is not at 100%.
+  return QStringLiteral("%1 of %2 (%3%)")
+      .arg(received, byteCountText(inputs_.expectedBytes.value_or(0)),
+           QString::number(static_cast<int>(progressFraction() * 100)));
+}
+
+double FormulaCatalogViewModel::progressFraction() const {
+  const qint64 expected = inputs_.expectedBytes.value_or(0);
+  if (state() != Loading || expected <= 0) {
+    return -1;
+  }
+  return std::min(1.0, static_cast<double>(inputs_.receivedBytes) / static_cast<double>(expected));
+}
+
+QString FormulaCatalogViewModel::longSummary() const {
+  return filteredResults_ ? filteredResults_->longSummary() : QString();
+}
+
+QString FormulaCatalogViewModel::shortSummary() const {
+  return filteredResults_ ? filteredResults_->shortSummary() : QString();
+}
+
+QString FormulaCatalogViewModel::accessibleSummary() const {
+  return longSummary() + QStringLiteral(" - ") +
+         catalogFreshness(inputs_.lastRefreshDate, clock_()).shortText(freshnessLabel());
+}
+
+QString FormulaCatalogViewModel::freshnessText() const {
+  return catalogFreshness(inputs_.lastRefreshDate, clock_()).longText(freshnessLabel()) +
+         QStringLiteral(" Browse does not require a selected Homebrew prefix.");
+}
+
+void FormulaCatalogViewModel::open(int row) {
+  if (row >= 0 && row < packages_.rowCount()) {
+    // A copy: whoever opens it may have the list changed.
+    const HomebrewPackageSummary package = packages_.package(row);
+    Q_EMIT packageChosen(package);
+  }
+}
 
 void FormulaCatalogViewModel::setSearchText(const QString& text) {
   if (searchText_ == text) {
@@ -32,6 +148,8 @@ void FormulaCatalogViewModel::setInputs(const CatalogInputs& inputs) {
   inputs_ = inputs;
   setCatalog(inputs_.state.catalog());
   Q_EMIT inputsChanged();
+  Q_EMIT stateChanged();
+  announce();
 }
 
 void FormulaCatalogViewModel::setCatalog(PackageCatalogSnapshot catalog) {
@@ -75,7 +193,35 @@ void FormulaCatalogViewModel::show(std::optional<FilteredPackageResults> results
                                    bool isFiltering) {
   filteredResults_ = std::move(results);
   isFiltering_ = isFiltering;
+  packages_.show(catalog_,
+                 filteredResults_ ? filteredResults_->visiblePackages : std::vector<std::size_t>());
   Q_EMIT resultsChanged();
+  Q_EMIT stateChanged();
+  announce();
+}
+
+QString FormulaCatalogViewModel::spokenState() const {
+  switch (state()) {
+    case Loading:
+    case NoMatch:
+      return title();
+    case Failed:
+      return title() + QStringLiteral(". ") + text();
+    case Listed:
+      return longSummary();
+    case NotLoaded:
+    case Filtering:
+      return {};
+  }
+  Q_UNREACHABLE();
+}
+
+/// Says each thing once, however often its details change.
+void FormulaCatalogViewModel::announce() {
+  const QString text = spokenState();
+  if (std::exchange(announced_, text) != text && !text.isEmpty()) {
+    Q_EMIT announced(text);
+  }
 }
 
 }  // namespace quillmere

@@ -5,11 +5,14 @@
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <functional>
 #include <optional>
 
 #include "catalog/CatalogScope.h"
 #include "catalog/PackageCatalogFilter.h"
 #include "screens/CatalogInputs.h"
+#include "screens/PackageFilterChoice.h"
+#include "screens/PackageListModel.h"
 
 namespace quillmere {
 
@@ -20,11 +23,66 @@ class FormulaCatalogViewModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")
+  Q_PROPERTY(State state READ state NOTIFY stateChanged)
+  Q_PROPERTY(QString symbolName READ symbolName NOTIFY stateChanged)
+  Q_PROPERTY(QString title READ title NOTIFY stateChanged)
+  Q_PROPERTY(QString text READ text NOTIFY stateChanged)
+  Q_PROPERTY(QString progressText READ progressText NOTIFY stateChanged)
+  Q_PROPERTY(double progressFraction READ progressFraction NOTIFY stateChanged)
+  Q_PROPERTY(QString longSummary READ longSummary NOTIFY stateChanged)
+  Q_PROPERTY(QString shortSummary READ shortSummary NOTIFY stateChanged)
+  Q_PROPERTY(QString accessibleSummary READ accessibleSummary NOTIFY stateChanged)
+  Q_PROPERTY(QString freshnessText READ freshnessText NOTIFY stateChanged)
+  Q_PROPERTY(bool hasCachedCatalog READ hasCachedCatalog NOTIFY stateChanged)
+  Q_PROPERTY(bool hasCachedFormulae READ hasCachedFormulae NOTIFY stateChanged)
+  Q_PROPERTY(bool hasCachedCasks READ hasCachedCasks NOTIFY stateChanged)
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-  Q_PROPERTY(bool isFiltering READ isFiltering NOTIFY resultsChanged)
+  Q_PROPERTY(QStringList filterTitles READ filterTitles CONSTANT)
+  Q_PROPERTY(int filterIndex READ filterIndex WRITE setFilterIndex NOTIFY packageFilterChanged)
+  Q_PROPERTY(quillmere::PackageListModel* packages READ packages CONSTANT)
 
  public:
-  explicit FormulaCatalogViewModel(QObject* parent = nullptr) : QObject(parent) {}
+  enum State {
+    /// There is no catalog, or an empty one.
+    NotLoaded,
+    Loading,
+    Failed,
+    /// A search is under way.
+    Filtering,
+    NoMatch,
+    Listed,
+  };
+  Q_ENUM(State)
+
+  using Clock = std::function<QDateTime()>;
+
+  explicit FormulaCatalogViewModel(Clock clock = &QDateTime::currentDateTimeUtc,
+                                   QObject* parent = nullptr);
+
+  [[nodiscard]] State state() const;
+
+  // What the state says: nothing where the list is shown.
+  [[nodiscard]] QString symbolName() const;
+  [[nodiscard]] QString title() const;
+  [[nodiscard]] QString text() const;
+
+  /// How far a fetch has come: "12 MB of 30 MB (40%)"; empty before the first byte.
+  [[nodiscard]] QString progressText() const;
+  /// The same from 0 to 1; negative where all is not known.
+  [[nodiscard]] double progressFraction() const;
+
+  // How many of how many packages are shown.
+  [[nodiscard]] QString longSummary() const;
+  [[nodiscard]] QString shortSummary() const;
+  /// The same and how fresh they are, for assistive technology.
+  [[nodiscard]] QString accessibleSummary() const;
+  [[nodiscard]] QString freshnessText() const;
+
+  [[nodiscard]] bool hasCachedCatalog() const { return inputs_.hasCachedCatalog(); }
+
+  [[nodiscard]] bool hasCachedFormulae() const { return inputs_.hasCachedFormulae; }
+
+  [[nodiscard]] bool hasCachedCasks() const { return inputs_.hasCachedCasks; }
 
   [[nodiscard]] const QString& searchText() const { return searchText_; }
 
@@ -34,6 +92,12 @@ class FormulaCatalogViewModel : public QObject {
   [[nodiscard]] PackageCatalogFilter packageFilter() const { return packageFilter_; }
 
   void setPackageFilter(PackageCatalogFilter filter);
+
+  [[nodiscard]] QStringList filterTitles() const { return packageFilterTitles(); }
+
+  [[nodiscard]] int filterIndex() const { return packageFilterIndex(packageFilter_); }
+
+  void setFilterIndex(int index) { setPackageFilter(packageFilterAt(index)); }
 
   [[nodiscard]] const CatalogInputs& inputs() const { return inputs_; }
 
@@ -49,6 +113,28 @@ class FormulaCatalogViewModel : public QObject {
 
   [[nodiscard]] bool isFiltering() const { return isFiltering_; }
 
+  [[nodiscard]] PackageListModel* packages() { return &packages_; }
+
+  // What the buttons do.
+  Q_INVOKABLE void fetchAll() { Q_EMIT fetchWanted(CatalogScope::all); }
+
+  Q_INVOKABLE void fetchFormulae() { Q_EMIT fetchWanted(CatalogScope::formulae); }
+
+  Q_INVOKABLE void fetchCasks() { Q_EMIT fetchWanted(CatalogScope::casks); }
+
+  Q_INVOKABLE void loadCachedAll() { Q_EMIT loadCachedWanted(CatalogScope::all); }
+
+  Q_INVOKABLE void loadCachedFormulae() { Q_EMIT loadCachedWanted(CatalogScope::formulae); }
+
+  Q_INVOKABLE void loadCachedCasks() { Q_EMIT loadCachedWanted(CatalogScope::casks); }
+
+  Q_INVOKABLE void cancelFetch() { Q_EMIT cancelFetchWanted(); }
+
+  Q_INVOKABLE void clearSearch() { setSearchText(QString()); }
+
+  /// Opens the package in this row of the list; does nothing for a row that is none.
+  Q_INVOKABLE void open(int row);
+
  Q_SIGNALS:
   void inputsChanged();
   // What the user wants of the main window.
@@ -57,21 +143,30 @@ class FormulaCatalogViewModel : public QObject {
   void cancelFetchWanted();
   void packageChosen(const quillmere::HomebrewPackageSummary& package);
 
+  /// What `state` and all that goes with it say has changed.
+  void stateChanged();
   void searchTextChanged();
   void packageFilterChanged();
   void catalogChanged();
   void resultsChanged();
+  /// Something came about that a user who does not see the screen wants to know.
+  void announced(const QString& text);
 
  private:
   void setCatalog(PackageCatalogSnapshot catalog);
   QCoro::Task<> filter();
   void show(std::optional<FilteredPackageResults> results, bool isFiltering);
+  void announce();
+  [[nodiscard]] QString spokenState() const;
 
+  Clock clock_;
   CatalogInputs inputs_;
   QString searchText_;
   PackageCatalogFilter packageFilter_ = PackageCatalogFilter::all;
   PackageCatalogSnapshot catalog_;
   std::optional<FilteredPackageResults> filteredResults_;
+  PackageListModel packages_;
+  QString announced_;
   bool isFiltering_ = false;
   /// Counts the questions, so that only the answer to the last one is shown.
   int question_ = 0;

@@ -1,16 +1,106 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
-ScreenPage {
+// What is installed in the selected prefix, as far as a scan found.
+FocusScope {
     id: root
 
     required property InstalledPackagesViewModel viewModel
 
-    ScreenHeader {
-        Layout.fillWidth: true
-        symbolName: "shippingbox"
-        title: "Installed"
+    readonly property int phase: viewModel.state
+    readonly property bool listed: phase === InstalledPackagesViewModel.Listed
+    readonly property bool scanning: phase === InstalledPackagesViewModel.Scanning
+    readonly property bool found: listed || phase === InstalledPackagesViewModel.NoMatch
+
+    ColumnLayout {
+        x: (root.width - width) / 2
+        y: Theme.large
+        width: Math.min(root.width - 2 * Theme.large, Theme.textWidth)
+        height: root.height - 2 * Theme.large
+        spacing: Theme.normal
+
+        ScreenHeader {
+            Layout.fillWidth: true
+            freshness: root.viewModel.freshnessText
+            symbolName: "shippingbox"
+            title: "Local inventory"
+            visible: root.found
+
+            PlainButton {
+                text: "Scan Again"
+
+                onClicked: root.viewModel.scan()
+            }
+        }
+
+        PackageSearchBar {
+            id: searchBar
+
+            Layout.fillWidth: true
+            filterIndex: root.viewModel.filterIndex
+            filterTitles: root.viewModel.filterTitles
+            placeholder: "Search installed packages"
+            searchText: root.viewModel.searchText
+            visible: root.found
+
+            onFilterWanted: index => root.viewModel.filterIndex = index
+            onSearchWanted: text => root.viewModel.searchText = text
+        }
+
+        PackageListArea {
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            accessibleSummary: root.viewModel.accessibleSummary
+            focus: true
+            listed: root.listed
+            model: root.viewModel.packages
+            summary: root.viewModel.summary
+
+            onOpened: row => root.viewModel.open(row)
+
+            delegate: InstalledPackageRow {
+                width: ListView.view.width
+            }
+
+            InstalledStateMessage {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.sheetWidth)
+                viewModel: root.viewModel
+                visible: !root.listed && !root.scanning
+
+                onSearchCleared: searchBar.edit()
+            }
+
+            Progress {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.alertWidth)
+                details: root.viewModel.progressText
+                fraction: root.viewModel.progressFraction
+                title: root.viewModel.title
+                visible: root.scanning
+
+                PlainButton {
+                    text: "Cancel"
+
+                    onClicked: root.viewModel.cancelScan()
+                }
+            }
+        }
+    }
+
+    Announcement {
+        id: announcement
+    }
+
+    Connections {
+        function onAnnounced(text: string): void {
+            announcement.say(text);
+        }
+
+        target: root.viewModel
     }
 }

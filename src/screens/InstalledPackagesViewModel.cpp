@@ -2,15 +2,254 @@
 
 #include <utility>
 
+#include "guidance/FreshnessIndicator.h"
+#include "platform/TextMatching.h"
+
+using namespace Qt::StringLiterals;
+
 namespace quillmere {
+namespace {
+
+using Kind = HomebrewPackageSummary::Kind;
+
+QString freshnessLabel() {
+  return u"Inventory"_s;
+}
+
+bool passes(PackageCatalogFilter filter, Kind kind) {
+  return filter == PackageCatalogFilter::all ||
+         (filter == PackageCatalogFilter::formulae) == (kind == Kind::formula);
+}
+
+/// All that is known of a package, as one text. Addresses and other packages' names are left out:
+/// they would make every other package match.
+QString searchText(const InstalledPackageSummary& package) {
+  QString text = package.name.toString() + u' ' + displayLabel(package.kind);
+  for (const auto* const field :
+       {&package.description, &package.installedVersion, &package.latestKnownVersion,
+        &package.alternateVersion, &package.license, &package.tap}) {
+    if (*field) {
+      text += u' ' + (*field)->toString();
+    }
+  }
+  return text + u' ' + package.detail.toString();
+}
+
+std::string searchableForm(const QString& text, const QLocale& locale) {
+  return quillmere::searchableForm(QStringView(locale.toLower(text)));
+}
+
+}  // namespace
+
+std::vector<std::size_t> matchingPackages(const std::vector<InstalledPackageSummary>& packages,
+                                          const QString& query, PackageCatalogFilter filter,
+                                          const QLocale& locale) {
+  const std::string sought = searchableForm(query, locale);
+  std::vector<std::size_t> places;
+  for (std::size_t place = 0; place < packages.size(); ++place) {
+    const InstalledPackageSummary& package = packages[place];
+    if (passes(filter, package.kind) &&
+        (sought.empty() ||
+         containsSearchable(searchableForm(searchText(package), locale), sought))) {
+      places.push_back(place);
+    }
+  }
+  return places;
+}
+
+QString scanInvitation(const std::optional<QString>& selectedPrefixPath) {
+  return selectedPrefixPath ? "Selected prefix: "_L1 + *selectedPrefixPath +
+                                  ". Scan local formula and cask directories in read-only mode."_L1
+                            : u"Select a Homebrew prefix before scanning installed packages."_s;
+}
 
 InstalledPackagesViewModel::InstalledPackagesViewModel(Clock clock, QObject* parent)
     : QObject(parent), clock_(std::move(clock)) {
 }
 
+auto InstalledPackagesViewModel::state() const -> State {
+  const auto& value = inputs_.state.value;
+  if (!inputs_.selectedPrefixPath ||
+      std::holds_alternative<InstalledPackagesState::AccessNeeded>(value)) {
+    return AccessNeeded;
+  }
+  if (std::holds_alternative<InstalledPackagesState::Idle>(value)) {
+    return NotScanned;
+  }
+  if (std::holds_alternative<InstalledPackagesState::Loading>(value)) {
+    return Scanning;
+  }
+  if (std::holds_alternative<InstalledPackagesState::Failed>(value)) {
+    return Failed;
+  }
+  if (inventory()->empty()) {
+    return NothingFound;
+  }
+  return packages_.rowCount() == 0 ? NoMatch : Listed;
+}
+
+QString InstalledPackagesViewModel::symbolName() const {
+  switch (state()) {
+    case Failed:
+      return u"externaldrive.badge.exclamationmark"_s;
+    case NoMatch:
+      return u"magnifyingglass"_s;
+    case AccessNeeded:
+    case NotScanned:
+    case Scanning:
+    case NothingFound:
+    case Listed:
+      break;
+  }
+  return u"shippingbox"_s;
+}
+
+QString InstalledPackagesViewModel::title() const {
+  switch (state()) {
+    case AccessNeeded:
+      return u"Local Access Needed"_s;
+    case NotScanned:
+      return u"Scan Installed Packages"_s;
+    case Scanning:
+      return u"Scanning selected Homebrew prefix..."_s;
+    case Failed:
+      return u"Could Not Scan Installed Packages"_s;
+    case NothingFound:
+      return u"No Installed Packages Found"_s;
+    case NoMatch:
+      return u"No Installed Packages Match"_s;
+    case Listed:
+      return {};
+  }
+  Q_UNREACHABLE();
+}
+
+QString InstalledPackagesViewModel::text() const {
+  switch (state()) {
+    case AccessNeeded:
+      return u"Installed packages require access to your selected Homebrew prefix. Quillmere scans "
+             "local package metadata without writing to Homebrew files."_s;
+    case NotScanned:
+      return scanInvitation(inputs_.selectedPrefixPath);
+    case Failed:
+      return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+    case NothingFound:
+      return u"Quillmere did not find readable formulae or casks in the selected prefix. Catalog "
+             "browsing is still available."_s;
+    case NoMatch:
+      return u"Try a different search term or package type filter."_s;
+    case Scanning:
+    case Listed:
+      return {};
+  }
+  Q_UNREACHABLE();
+}
+
+QString InstalledPackagesViewModel::progressText() const {
+  if (state() != Scanning || inputs_.knownPackages == 0) {
+    return {};
+  }
+  return u"%1 of %2 packages scanned"_s.arg(QString::number(inputs_.scannedPackages),
+                                            QString::number(inputs_.knownPackages));
+}
+
+double InstalledPackagesViewModel::progressFraction() const {
+  return state() == Scanning && inputs_.knownPackages > 0
+             ? static_cast<double>(inputs_.scannedPackages) / inputs_.knownPackages
+             : -1;
+}
+
+QString InstalledPackagesViewModel::summary() const {
+  const auto packages = inventory();
+  return packages ? u"Showing %1 of %2 packages"_s.arg(QString::number(packages_.rowCount()),
+                                                       QString::number(packages->size()))
+                  : QString();
+}
+
+QString InstalledPackagesViewModel::accessibleSummary() const {
+  return summary() + " - "_L1 +
+         inventoryFreshness(inputs_.lastScanDate, clock_()).shortText(freshnessLabel());
+}
+
+QString InstalledPackagesViewModel::freshnessText() const {
+  return inventoryFreshness(inputs_.lastScanDate, clock_()).longText(freshnessLabel());
+}
+
+void InstalledPackagesViewModel::setSearchText(const QString& text) {
+  if (searchText_ == text) {
+    return;
+  }
+  searchText_ = text;
+  Q_EMIT searchTextChanged();
+  filter();
+}
+
+void InstalledPackagesViewModel::setPackageFilter(PackageCatalogFilter filter) {
+  if (packageFilter_ == filter) {
+    return;
+  }
+  packageFilter_ = filter;
+  Q_EMIT packageFilterChanged();
+  this->filter();
+}
+
 void InstalledPackagesViewModel::setInputs(const LocalInventoryInputs& inputs) {
+  const InstalledPackagesSnapshot before = inventory();
   inputs_ = inputs;
+  if (inventory() != before) {
+    filter();
+  }
   Q_EMIT inputsChanged();
+  Q_EMIT stateChanged();
+  announce();
+}
+
+void InstalledPackagesViewModel::open(int row) {
+  if (row >= 0 && row < packages_.rowCount()) {
+    // A copy: whoever opens it may have the list changed.
+    const InstalledPackageSummary package = packages_.package(row);
+    Q_EMIT packageChosen(package);
+  }
+}
+
+/// What was found, wherever else the screen is; null before.
+InstalledPackagesSnapshot InstalledPackagesViewModel::inventory() const {
+  const auto* const loaded = std::get_if<InstalledPackagesState::Loaded>(&inputs_.state.value);
+  return loaded != nullptr ? loaded->packages : nullptr;
+}
+
+void InstalledPackagesViewModel::filter() {
+  const InstalledPackagesSnapshot packages = inventory();
+  packages_.show(packages, packages
+                               ? matchingPackages(*packages, searchText_.trimmed(), packageFilter_)
+                               : std::vector<std::size_t>());
+  Q_EMIT stateChanged();
+  announce();
+}
+
+QString InstalledPackagesViewModel::spokenState() const {
+  switch (state()) {
+    case Scanning:
+    case NothingFound:
+    case NoMatch:
+      return title();
+    case Failed:
+      return title() + ". "_L1 + text();
+    case Listed:
+      return summary();
+    case AccessNeeded:
+    case NotScanned:
+      return {};
+  }
+  Q_UNREACHABLE();
+}
+
+/// Says each thing once, however often its details change.
+void InstalledPackagesViewModel::announce() {
+  const QString text = spokenState();
+  if (std::exchange(announced_, text) != text && !text.isEmpty()) {
+    Q_EMIT announced(text);
+  }
 }
 
 }  // namespace quillmere

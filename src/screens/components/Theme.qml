@@ -72,6 +72,7 @@ QtObject {
     readonly property int tagWidth: 120
     readonly property int labelWidth: 140
     readonly property int barWidth: 200
+    readonly property int versionWidth: 110
     readonly property int sheetWidth: 640
     readonly property int wideSheetWidth: 760
     readonly property int sessionHeight: 440

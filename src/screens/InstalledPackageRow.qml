@@ -1,0 +1,22 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Components
+import Quillmere.Screens
+
+// A package that is installed.
+PackageRow {
+    id: root
+
+    required property string installedVersion
+    required property string latestKnownVersion
+
+    LabelledVersion {
+        label: "Installed"
+        version: root.installedVersion
+    }
+
+    LabelledVersion {
+        label: "Latest known"
+        version: root.latestKnownVersion
+    }
+}

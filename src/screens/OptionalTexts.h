@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include <optional>
+
+#include "platform/SharedText.h"
+
+namespace quillmere {
+
+/// A text that may be missing, as a row shows it.
+[[nodiscard]] inline QString textOrNothing(const std::optional<SharedText>& text) {
+  return text ? text->toString() : QString();
+}
+
+}  // namespace quillmere
