@@ -11,11 +11,15 @@ FocusScope {
 
     required property FormulaCatalogViewModel viewModel
 
+    // What follows asks this alone, so that nothing loses the keyboard between one state and the
+    // next.
     readonly property int phase: viewModel.state
     readonly property bool listed: phase === FormulaCatalogViewModel.Listed
     readonly property bool loading: phase === FormulaCatalogViewModel.Loading
-    readonly property bool filtering: phase === FormulaCatalogViewModel.Filtering
     readonly property bool matchless: phase === FormulaCatalogViewModel.NoMatch
+    readonly property bool searchable: phase >= FormulaCatalogViewModel.Filtering
+    readonly property bool waiting: phase === FormulaCatalogViewModel.Loading
+                                    || phase === FormulaCatalogViewModel.Filtering
     readonly property bool compact: column.width < actions.implicitWidth
 
     ColumnLayout {
@@ -50,7 +54,7 @@ FocusScope {
             id: searchBar
 
             Layout.fillWidth: true
-            enabled: root.listed || root.filtering || root.matchless
+            enabled: root.searchable
             filterIndex: root.viewModel.filterIndex
             filterTitles: root.viewModel.filterTitles
             placeholder: "Search formulae and casks"
@@ -81,7 +85,7 @@ FocusScope {
                 symbolName: root.viewModel.symbolName
                 text: root.viewModel.text
                 title: root.viewModel.title
-                visible: !root.listed && !root.loading && !root.filtering
+                visible: !root.listed && !root.waiting
 
                 PlainButton {
                     enabled: root.viewModel.searchText.length > 0
@@ -101,7 +105,7 @@ FocusScope {
                 details: root.viewModel.progressText
                 fraction: root.viewModel.progressFraction
                 title: root.viewModel.title
-                visible: root.loading || root.filtering
+                visible: root.waiting
 
                 PlainButton {
                     text: "Cancel"

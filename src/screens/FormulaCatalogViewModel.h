@@ -37,11 +37,12 @@ class FormulaCatalogViewModel : public QObject {
   Q_PROPERTY(bool hasCachedFormulae READ hasCachedFormulae NOTIFY stateChanged)
   Q_PROPERTY(bool hasCachedCasks READ hasCachedCasks NOTIFY stateChanged)
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-  Q_PROPERTY(QStringList filterTitles READ filterTitles CONSTANT)
+  Q_PROPERTY(QList<QString> filterTitles READ filterTitles CONSTANT)
   Q_PROPERTY(int filterIndex READ filterIndex WRITE setFilterIndex NOTIFY packageFilterChanged)
   Q_PROPERTY(quillmere::PackageListModel* packages READ packages CONSTANT)
 
  public:
+  /// From `Filtering` on there is a catalog to search.
   enum State {
     /// There is no catalog, or an empty one.
     NotLoaded,

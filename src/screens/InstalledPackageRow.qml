@@ -1,6 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
-import Quillmere.Components
 import Quillmere.Screens
 
 // A package that is installed.

@@ -11,10 +11,14 @@ FocusScope {
 
     required property InstalledPackagesViewModel viewModel
 
+    // What follows asks this alone, so that nothing loses the keyboard between one state and the
+    // next.
     readonly property int phase: viewModel.state
     readonly property bool listed: phase === InstalledPackagesViewModel.Listed
     readonly property bool scanning: phase === InstalledPackagesViewModel.Scanning
-    readonly property bool found: listed || phase === InstalledPackagesViewModel.NoMatch
+    readonly property bool found: phase >= InstalledPackagesViewModel.NoMatch
+    readonly property bool headed: phase === InstalledPackagesViewModel.Scanning
+                                   || phase >= InstalledPackagesViewModel.NoMatch
 
     ColumnLayout {
         x: (root.width - width) / 2
@@ -28,7 +32,7 @@ FocusScope {
             freshness: root.viewModel.freshnessText
             symbolName: "shippingbox"
             title: "Local inventory"
-            visible: root.found
+            visible: root.headed
 
             PlainButton {
                 text: "Scan Again"
@@ -41,11 +45,12 @@ FocusScope {
             id: searchBar
 
             Layout.fillWidth: true
+            enabled: root.found
             filterIndex: root.viewModel.filterIndex
             filterTitles: root.viewModel.filterTitles
             placeholder: "Search installed packages"
             searchText: root.viewModel.searchText
-            visible: root.found
+            visible: root.headed
 
             onFilterWanted: index => root.viewModel.filterIndex = index
             onSearchWanted: text => root.viewModel.searchText = text

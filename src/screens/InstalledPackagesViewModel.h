@@ -29,12 +29,12 @@ class InstalledPackagesViewModel : public QObject {
   Q_PROPERTY(QString accessibleSummary READ accessibleSummary NOTIFY stateChanged)
   Q_PROPERTY(QString freshnessText READ freshnessText NOTIFY stateChanged)
   Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-  Q_PROPERTY(QStringList filterTitles READ filterTitles CONSTANT)
+  Q_PROPERTY(QList<QString> filterTitles READ filterTitles CONSTANT)
   Q_PROPERTY(int filterIndex READ filterIndex WRITE setFilterIndex NOTIFY packageFilterChanged)
   Q_PROPERTY(quillmere::InstalledPackageListModel* packages READ packages CONSTANT)
 
  public:
-  /// In the order in which they are told apart.
+  /// In the order in which they are told apart; from `NoMatch` on there are packages to search.
   enum State { AccessNeeded, NotScanned, Scanning, Failed, NothingFound, NoMatch, Listed };
   Q_ENUM(State)
 

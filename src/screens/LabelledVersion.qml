@@ -9,8 +9,9 @@ ColumnLayout {
     required property string label
     required property string version
 
+    Layout.fillWidth: false
     Layout.maximumWidth: Theme.versionWidth
-    Layout.preferredWidth: Theme.versionWidth
+    Layout.minimumWidth: Theme.versionWidth
     spacing: Theme.tiny / 2
 
     CaptionText {

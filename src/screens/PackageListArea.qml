@@ -19,13 +19,13 @@ FocusScope {
 
     signal opened(int row)
 
-    ColumnLayout {
+    Item {
         anchors.fill: parent
-        spacing: Theme.small
         visible: root.listed
 
         CaptionText {
-            Layout.fillWidth: true
+            id: count
+
             text: root.summary
 
             // The list says it.
@@ -33,9 +33,10 @@ FocusScope {
         }
 
         Card {
-            Layout.fillHeight: true
-            Layout.fillWidth: true
-            Layout.maximumHeight: list.contentHeight + 2 * padding
+            anchors.left: parent.left
+            anchors.right: parent.right
+            y: count.height + Theme.small
+            height: Math.min(parent.height - y, list.contentHeight + 2 * padding)
             padding: Theme.tiny
 
             PackageList {
@@ -50,10 +51,6 @@ FocusScope {
 
                 onOpened: row => root.opened(row)
             }
-        }
-
-        Item {
-            Layout.fillHeight: true
         }
     }
 

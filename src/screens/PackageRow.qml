@@ -1,6 +1,7 @@
 import QtQuick
 import QtQuick.Layouts
 import Quillmere.Components
+import Quillmere.Screens
 
 // What the rows of all package lists have in common: the name, the kind, a line about it, and room
 // for versions at the end.
@@ -15,12 +16,12 @@ ListRow {
 
     default property alias versions: versionRow.data
 
-    implicitHeight: Math.max(Theme.rowHeight + Theme.tiny, implicitContentHeight + 2 * Theme.small)
+    implicitHeight: Math.max(Theme.rowHeight + Theme.tiny, row.implicitHeight + 2 * Theme.small)
     accessibleName: accessibleLabel
     focusPolicy: Qt.NoFocus
     highlighted: activeFocus
-    horizontalPadding: Theme.medium
-    verticalPadding: Theme.small
+
+    onClicked: (ListView.view as PackageList).choose(index)
 
     Hairline {
         anchors.left: parent.left
@@ -30,7 +31,12 @@ ListRow {
         visible: root.index > 0
     }
 
-    contentItem: RowLayout {
+    RowLayout {
+        id: row
+
+        anchors.fill: parent
+        anchors.leftMargin: Theme.medium
+        anchors.rightMargin: Theme.normal
         spacing: Theme.medium
 
         ColumnLayout {

@@ -22,7 +22,7 @@ RowLayout {
 
     Shortcut {
         enabled: root.visible && root.enabled
-        sequences: [StandardKey.Find]
+        sequence: "Ctrl+F"
 
         onActivated: root.edit()
     }

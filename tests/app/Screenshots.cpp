@@ -1,6 +1,9 @@
 // Draws the real window in light and dark, at the smallest and at a large size, into a folder, so
 // that the look can be looked at and the pictures of the documentation can be made again.
 //   screenshots FOLDER        every state, in both themes and sizes
+//   screenshots packages FOLDER [DATA]
+//                             the lists of packages alone; DATA holds the real formula.json and
+//                             cask.json, without it the catalog is a generated one
 //   screenshots preview FILE  the picture of the README
 
 #include <QtCore/QDir>
@@ -16,6 +19,7 @@
 #include <cstdlib>
 
 #include "DemoPackages.h"
+#include "PackageScreenshots.h"
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
 #include "app/WindowMemory.h"
@@ -144,6 +148,13 @@ class Stage {
     drawDetails();
     content_.select(AppSection::services);
     drawPreviews();
+    drawPackages(QString());
+  }
+
+  void drawPackages(const QString& data) {
+    activate();
+    test::drawPackageScreens(*window(), content_, data,
+                             [this](const QString& what) { draw(what); });
   }
 
  private:
@@ -400,16 +411,25 @@ int main(int argc, char** argv) {
     Stage(QDir(), QString(), QSize(1200, 800)).drawPreview(arguments.at(2));
     return EXIT_SUCCESS;
   }
-  if (arguments.size() != 2) {
-    qWarning("usage: screenshots FOLDER | screenshots preview FILE");
+  const bool packages = arguments.size() >= 3 && arguments.at(1) == QStringLiteral("packages");
+  if (arguments.size() != 2 && !packages) {
+    qWarning("usage: screenshots FOLDER | packages FOLDER [DATA] | preview FILE");
     return 2;
   }
-  const QDir folder(arguments.at(1));
+  const QDir folder(arguments.at(packages ? 2 : 1));
+  const auto drawAt = [&](const QString& name, QSize size) {
+    Stage stage(folder, name, size);
+    if (packages) {
+      stage.drawPackages(arguments.value(3));
+    } else {
+      stage.drawAll();
+    }
+  };
   for (const bool dark : {false, true}) {
     QGuiApplication::setPalette(palette(dark));
     const QString theme = dark ? QStringLiteral("dark") : QStringLiteral("light");
-    Stage(folder, theme + QStringLiteral("-small"), QSize(900, 600)).drawAll();
-    Stage(folder, theme + QStringLiteral("-large"), QSize(1600, 1000)).drawAll();
+    drawAt(theme + QStringLiteral("-small"), QSize(900, 600));
+    drawAt(theme + QStringLiteral("-large"), QSize(1600, 1000));
   }
   return EXIT_SUCCESS;
 }

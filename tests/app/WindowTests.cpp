@@ -5,6 +5,7 @@
 #include <QtGui/QClipboard>
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
+#include <QtNetwork/QNetworkAccessManager>
 #include <QtQml/QQmlApplicationEngine>
 #include <QtQml/QQmlContext>
 #include <QtQuick/QQuickWindow>
@@ -15,6 +16,7 @@
 #include <optional>
 #include <utility>
 
+#include "DemoCatalog.h"
 #include "DemoPackages.h"
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
@@ -22,14 +24,20 @@
 #include "commands/BrewCommandBuilder.h"
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
+#include "support/CatalogServer.h"
 #include "support/DemoPrefix.h"
 #include "support/FakeBrew.h"
+#include "support/GeneratedCatalog.h"
 #include "support/HeldFileSystem.h"
+#include "support/HeldThreads.h"
 #include "support/TemporarySettings.h"
 
 namespace {
 
 using namespace quillmere;
+
+const QByteArray formulaPath = QByteArrayLiteral("/formula.json");
+const QByteArray caskPath = QByteArrayLiteral("/cask.json");
 
 /// A world of a test's own: settings, a demo prefix, and the window's view models over them.
 struct World {
@@ -48,8 +56,15 @@ struct World {
   std::shared_ptr<test::HeldFileSystem> disk = std::make_shared<test::HeldFileSystem>();
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
   WindowMemory memory{settings.open()};
+  /// Answers that nothing is there, until it is told otherwise.
+  test::CatalogServer server;
+  QNetworkAccessManager session;
+  std::optional<test::HeldThreads> heldThreads;
   ContentViewModel content{store, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
-                           CatalogWorkflows::Clients(), BrewExecutableResolver(disk)};
+                           CatalogWorkflows::Clients{
+                               .formulae = {.apiURL = server.url(formulaPath), .session = &session},
+                               .casks = {.apiURL = server.url(caskPath), .session = &session}},
+                           BrewExecutableResolver(disk)};
 };
 
 /// What the test may ask of the world; reaches QML as `stage`. Between two tests there is no world,
@@ -88,6 +103,62 @@ class Stage : public QObject {
   }
 
   Q_INVOKABLE void selectPrefix() { world_->store.selectPrefix(prefix()); }
+
+  Q_INVOKABLE void selectEmptyFolder() { world_->store.selectPrefix(emptyFolder()); }
+
+  /// From now on, the server has a small catalog.
+  Q_INVOKABLE void serveCatalog() {
+    world_->server.answer(formulaPath, {.body = test::demoFormulaDocument()});
+    world_->server.answer(caskPath, {.body = test::demoCaskDocument()});
+  }
+
+  /// From now on, the server begins with an answer and does not go on.
+  Q_INVOKABLE void stallCatalog() {
+    world_->server.answer(
+        formulaPath,
+        {.body = QByteArray(2000, ' '), .bodyBytes = 500, .ending = test::Answer::Ending::silence});
+  }
+
+  /// Fills the cache, in a moment.
+  Q_INVOKABLE void cacheFormulae() {
+    world_->store.saveFormulaCatalog(test::demoFormulaDocument(), QDateTime::currentDateTimeUtc());
+  }
+
+  Q_INVOKABLE void cacheCasks() {
+    world_->store.saveCaskCatalog(test::demoCaskDocument(), QDateTime::currentDateTimeUtc());
+  }
+
+  /// Shows a catalog of so many formulae and no cask, as if it had been loaded.
+  Q_INVOKABLE void showCatalogOf(int formulae) {
+    world_->content.browse()->setInputs(
+        test::loadedCatalog({.formulae = generatedFormulaDocument(formulae), .casks = "[]"}));
+  }
+
+  /// Shows an inventory of the demo packages, as if it had been scanned.
+  Q_INVOKABLE void showInventory() {
+    world_->content.installed()->setInputs(test::scannedInventory());
+  }
+
+  Q_INVOKABLE void failScan() {
+    LocalInventoryInputs inputs = world_->content.installed()->inputs();
+    inputs.state.value =
+        InstalledPackagesState::Failed{QStringLiteral("Local inventory could not be scanned: No.")};
+    world_->content.installed()->setInputs(inputs);
+  }
+
+  /// So many packages of so many have been scanned, as if a scan were under way.
+  Q_INVOKABLE void showScan(int scanned, int known) {
+    LocalInventoryInputs inputs = world_->content.installed()->inputs();
+    inputs.state.value = InstalledPackagesState::Loading{};
+    inputs.scannedPackages = scanned;
+    inputs.knownPackages = known;
+    world_->content.installed()->setInputs(inputs);
+  }
+
+  /// Nothing in the background is answered until it is let go.
+  Q_INVOKABLE void holdThreads() { world_->heldThreads.emplace(); }
+
+  Q_INVOKABLE void releaseThreads() { world_->heldThreads.reset(); }
 
   /// From now on, brew does not end when it is asked to, but only when it is released.
   Q_INVOKABLE void ignoreRequestsToEnd() {

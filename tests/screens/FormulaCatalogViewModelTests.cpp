@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "screens/FormulaCatalogViewModel.h"
+#include "support/HeldThreads.h"
 #include "support/Printers.h"
 
 using namespace Qt::StringLiterals;
@@ -63,10 +64,14 @@ TEST_F(FormulaCatalogViewModelTest, ShowsAnUnfilteredCatalogAtOnce) {
 
 TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
   setCatalog(catalogOf(someFormulae, someCasks));
-  model_.setSearchText(u" wget "_s);
-  EXPECT_TRUE(model_.isFiltering());
-  EXPECT_EQ(model_.filteredResults(), FilteredPackageResults::provisional(FilterRequest::make(
-                                          u"wget", PackageCatalogFilter::all, *model_.catalog())));
+  {
+    const test::HeldThreads held;
+    model_.setSearchText(u" wget "_s);
+    EXPECT_TRUE(model_.isFiltering());
+    EXPECT_EQ(model_.filteredResults(),
+              FilteredPackageResults::provisional(
+                  FilterRequest::make(u"wget", PackageCatalogFilter::all, *model_.catalog())));
+  }
   waitForResults();
   EXPECT_THAT(visible(), ElementsAre(1, 2));
   EXPECT_EQ(model_.filteredResults()->exactMatchCount, 2U);
@@ -74,8 +79,11 @@ TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
 
 TEST_F(FormulaCatalogViewModelTest, NarrowsToOneType) {
   setCatalog(catalogOf(someFormulae, someCasks));
-  model_.setPackageFilter(PackageCatalogFilter::casks);
-  EXPECT_TRUE(model_.isFiltering());
+  {
+    const test::HeldThreads held;
+    model_.setPackageFilter(PackageCatalogFilter::casks);
+    EXPECT_TRUE(model_.isFiltering());
+  }
   waitForResults();
   EXPECT_THAT(visible(), ElementsAre(2));
   model_.setPackageFilter(PackageCatalogFilter::all);
@@ -88,8 +96,11 @@ TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
   QObject::connect(&model_, &FormulaCatalogViewModel::resultsChanged, &model_, [&] {
     EXPECT_EQ(model_.filteredResults()->request.searchQuery, model_.searchText());
   });
-  for (const QString& text : {u"c"_s, u"cu"_s, u"w"_s, u"wge"_s}) {
-    model_.setSearchText(text);
+  {
+    const test::HeldThreads held;
+    for (const QString& text : {u"c"_s, u"cu"_s, u"w"_s, u"wge"_s}) {
+      model_.setSearchText(text);
+    }
   }
   waitForResults();
   QTest::qWait(20);
@@ -120,8 +131,11 @@ TEST_F(FormulaCatalogViewModelTest, SearchesAgainInANewCatalog) {
 
 TEST_F(FormulaCatalogViewModelTest, DropsTheAnswerOfACatalogThatIsGone) {
   setCatalog(catalogOf(someFormulae));
-  model_.setSearchText(u"wget"_s);
-  setCatalog(nullptr);
+  {
+    const test::HeldThreads held;
+    model_.setSearchText(u"wget"_s);
+    setCatalog(nullptr);
+  }
   EXPECT_FALSE(model_.isFiltering());
   QTest::qWait(20);
   EXPECT_EQ(model_.filteredResults(), std::nullopt);
@@ -130,8 +144,11 @@ TEST_F(FormulaCatalogViewModelTest, DropsTheAnswerOfACatalogThatIsGone) {
 TEST_F(FormulaCatalogViewModelTest, MayGoInTheMiddleOfASearch) {
   auto model = std::make_unique<FormulaCatalogViewModel>();
   model->setInputs(inputsOf(catalogOf(someFormulae)));
-  model->setSearchText(u"wget"_s);
-  model.reset();
+  {
+    const test::HeldThreads held;
+    model->setSearchText(u"wget"_s);
+    model.reset();
+  }
   QTest::qWait(20);
 }
 

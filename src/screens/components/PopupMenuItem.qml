@@ -12,7 +12,7 @@ T.MenuItem {
 
     Accessible.role: Accessible.MenuItem
     Accessible.name: text
-    Accessible.onPressAction: root.click()
+    Accessible.onPressAction: root.clicked()
 
     background: Rectangle {
         color: root.highlighted ? Theme.selection : "transparent"

@@ -12,7 +12,8 @@ Item {
     signal picked
 
     implicitWidth: label.implicitWidth + 2 * Theme.medium
-    activeFocusOnTab: chosen
+    // A choice that loses its tab stop keeps it until the keyboard is elsewhere.
+    activeFocusOnTab: chosen || activeFocus
     focus: chosen
 
     Accessible.role: Accessible.RadioButton

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+
+#include "screens/CatalogInputs.h"
+#include "screens/LocalInventoryInputs.h"
+
+namespace quillmere::test {
+
+/// Catalog documents with well-known packages, and with such as try a layout: without a description
+/// or a version, with a name of 60 and a description of 300 characters, from right to left.
+[[nodiscard]] QByteArray demoFormulaDocument();
+[[nodiscard]] QByteArray demoCaskDocument();
+
+/// Of a catalog that was loaded just now.
+[[nodiscard]] CatalogInputs loadedCatalog(const CatalogDocuments& documents);
+
+/// Of a prefix in which the packages of the demo documents are installed, some in versions that the
+/// catalog has left behind, and some that it does not know.
+[[nodiscard]] LocalInventoryInputs scannedInventory();
+
+}  // namespace quillmere::test

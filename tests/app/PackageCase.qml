@@ -1,0 +1,60 @@
+import QtQuick
+
+// A test of a screen that lists packages.
+WindowCase {
+    id: root
+
+    function list() {
+        return spoken().find(item => item.Accessible.role === Accessible.List
+                                     && /^Showing/.test(item.Accessible.name)) || null;
+    }
+
+    function field() {
+        return named("Package search");
+    }
+
+    function radio(name) {
+        return spoken().find(item => item.Accessible.role === Accessible.RadioButton
+                                     && item.Accessible.name === name) || null;
+    }
+
+    function type(text) {
+        for (const letter of text)
+            keyClick(letter);
+    }
+
+    function search(text) {
+        keyClick(Qt.Key_F, Qt.ControlModifier);
+        verify(field().activeFocus);
+        type(text);
+        keyClick(Qt.Key_Return);
+    }
+
+    function currentRow() {
+        return list().currentItem.accessibleName;
+    }
+
+    function beginBrowse(width) {
+        window.width = width || 1400;
+        stage.content.selectIndex(2);
+        shows("Browse Catalog");
+    }
+
+    function loadCatalog() {
+        beginBrowse();
+        stage.serveCatalog();
+        press("Fetch All");
+        tryVerify(() => list() !== null, 10000);
+    }
+
+    function beginInstalled() {
+        stage.content.selectIndex(1);
+    }
+
+    function scan() {
+        stage.selectPrefix();
+        beginInstalled();
+        press("Scan Read-Only Inventory");
+        tryVerify(() => list() !== null, 10000);
+    }
+}

@@ -1,0 +1,84 @@
+import QtQuick
+
+PackageCase {
+    id: root
+
+    name: "PackageList"
+
+    readonly property string wget: "wget, Formula, version 1.25.0, Internet file retriever"
+
+    function test_theListIsUsedByKeyboardAlone() {
+        stage.showCatalogOf(500);
+        beginBrowse();
+        stage.showCatalogOf(500);
+        tryVerify(() => list() !== null && list().count === 250);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        verify(list().currentItem.activeFocus);
+        keyClick(Qt.Key_Down);
+        compare(list().currentIndex, 1);
+        keyClick(Qt.Key_PageDown);
+        const paged = list().currentIndex;
+        verify(paged > 5);
+        verify(list().currentItem.activeFocus);
+        keyClick(Qt.Key_PageUp);
+        compare(list().currentIndex, 1);
+        keyClick(Qt.Key_End);
+        compare(list().currentIndex, 249);
+        verify(list().contentY > 0);
+        keyClick(Qt.Key_PageDown);
+        compare(list().currentIndex, 249);
+        keyClick(Qt.Key_Home);
+        compare(list().currentIndex, 0);
+        keyClick(Qt.Key_PageUp);
+        compare(list().currentIndex, 0);
+    }
+
+    function test_searchAndPlaceSurviveADetail() {
+        beginBrowse();
+        stage.showCatalogOf(500);
+        search("lib");
+        tryVerify(() => list() !== null && list().count > 60);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        for (let i = 0; i < 5; ++i)
+            keyClick(Qt.Key_PageDown);
+        tryVerify(() => list().contentY > 0);
+        const place = list().contentY;
+        const index = list().currentIndex;
+        keyClick(Qt.Key_Return);
+        tryVerify(() => stage.content.details.current !== null);
+        hides("Browse Catalog");
+        stage.content.details.back();
+        shows("Browse Catalog");
+        compare(list().contentY, place);
+        compare(list().currentIndex, index);
+        compare(field().text, "lib");
+        verify(list().currentItem.activeFocus);
+        keyClick(Qt.Key_Down);
+        compare(list().currentIndex, index + 1);
+    }
+
+    function test_aClickAnywhereInARowOpensIt() {
+        loadCatalog();
+        const row = named(wget);
+        verify(row.height >= 44 && row.height <= 56);
+        mouseClick(row, row.width - 3, row.height - 3);
+        tryVerify(() => stage.content.details.current !== null);
+    }
+
+    function test_aRowIsOpenedByItsPressAction() {
+        loadCatalog();
+        named(wget).Accessible.pressAction();
+        verify(stage.content.details.current !== null);
+    }
+
+    function test_tabGoesFromTheSearchToTheTypeToTheList() {
+        loadCatalog();
+        keyClick(Qt.Key_F, Qt.ControlModifier);
+        keyClick(Qt.Key_Tab);
+        verify(button("Search packages").activeFocus);
+        keyClick(Qt.Key_Tab);
+        verify(radio("All").activeFocus);
+        keyClick(Qt.Key_Tab);
+        verify(list().currentItem.activeFocus);
+    }
+}
