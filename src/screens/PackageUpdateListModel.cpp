@@ -1,6 +1,7 @@
 #include "screens/PackageUpdateListModel.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -36,12 +37,18 @@ QString versionText(const std::optional<SharedText>& version) {
 
 void PackageUpdateListModel::show(std::vector<PackageUpdateSummary> summaries) {
   beginResetModel();
-  upToDateCount_ = static_cast<int>(std::erase_if(summaries, [](const auto& summary) {
-    return summary.versionState.status == Status::upToDate;
-  }));
-  const auto review = std::ranges::stable_partition(summaries, isOutdated);
-  updateCount_ = static_cast<int>(review.begin() - summaries.begin());
-  rows_ = std::move(summaries);
+  rows_.clear();
+  std::vector<PackageUpdateSummary> review;
+  for (PackageUpdateSummary& summary : summaries) {
+    if (isOutdated(summary)) {
+      rows_.push_back(std::move(summary));
+    } else if (summary.versionState.status != Status::upToDate) {
+      review.push_back(std::move(summary));
+    }
+  }
+  upToDateCount_ = static_cast<int>(summaries.size() - rows_.size() - review.size());
+  updateCount_ = static_cast<int>(rows_.size());
+  std::ranges::move(review, std::back_inserter(rows_));
   endResetModel();
 }
 

@@ -1,22 +1,11 @@
 import QtQuick
 import QtTest
 
-WindowCase {
+InventoryCase {
     id: root
 
     name: "Cleanup"
-
-    function show(scene) {
-        stage.selectPrefix();
-        stage.content.selectIndex(4);
-        stage.showInventory(scene);
-        verify(waitForRendering(window.contentItem));
-    }
-
-    function buttons() {
-        return spoken().filter(item => item.Accessible.role === Accessible.Button)
-                       .map(item => item.Accessible.name);
-    }
+    section: 4
 
     function test_eachStateOffersWhatItCan_data() {
         return [{tag: "idle", title: "Scan For Cleanup Guidance",
