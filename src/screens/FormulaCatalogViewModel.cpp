@@ -82,7 +82,7 @@ QString FormulaCatalogViewModel::progressText() const {
   if (state() != Loading || inputs_.receivedBytes == 0) {
     return {};
   }
-  const QString received = byteCountText(inputs_.receivedBytes);
+  QString received = byteCountText(inputs_.receivedBytes);
   if (progressFraction() < 0) {
     return received;
   }
