@@ -17,6 +17,8 @@ ListView {
 
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
+    // A row is made in no time: none is begun beforehand, to be given up when the list changes.
+    cacheBuffer: 0
     clip: true
     highlightMoveDuration: 0
     interactive: wheel.touched
