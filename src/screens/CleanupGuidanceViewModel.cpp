@@ -152,10 +152,6 @@ QString CleanupGuidanceViewModel::oldVersionsText() const {
          " across "_L1 + counted(static_cast<qsizetype>(packages.size()), u"package"_s) + u'.';
 }
 
-QString CleanupGuidanceViewModel::currentVersionsText() const {
-  return counted(currentVersionCount(), u"newest version"_s);
-}
-
 int CleanupGuidanceViewModel::oldVersionCount() const {
   return static_cast<int>(quillmere::oldVersionCount(oldVersions_.packages()));
 }

@@ -27,7 +27,6 @@ class CleanupGuidanceViewModel : public QObject {
   Q_PROPERTY(QString stateSymbolName READ stateSymbolName NOTIFY inputsChanged)
   Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText NOTIFY inputsChanged)
   Q_PROPERTY(QString oldVersionsText READ oldVersionsText NOTIFY inputsChanged)
-  Q_PROPERTY(QString currentVersionsText READ currentVersionsText NOTIFY inputsChanged)
   Q_PROPERTY(int oldVersionCount READ oldVersionCount NOTIFY inputsChanged)
   Q_PROPERTY(int currentVersionCount READ currentVersionCount NOTIFY inputsChanged)
   Q_PROPERTY(quillmere::OldVersionListModel* oldVersions READ oldVersions CONSTANT)
@@ -62,8 +61,6 @@ class CleanupGuidanceViewModel : public QObject {
   [[nodiscard]] QString inventoryFreshnessText() const;
 
   [[nodiscard]] QString oldVersionsText() const;
-  /// The other versions in words.
-  [[nodiscard]] QString currentVersionsText() const;
   [[nodiscard]] int oldVersionCount() const;
   /// How many installed versions are the only or the newest of their package.
   [[nodiscard]] int currentVersionCount() const;

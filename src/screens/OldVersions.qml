@@ -25,8 +25,10 @@ SectionBlock {
 
     ShareBar {
         Layout.fillWidth: true
-        counts: [root.viewModel.oldVersionCount, root.viewModel.currentVersionCount]
-        tints: ["orange", "neutral"]
+        first: root.viewModel.oldVersionCount
+        firstTint: "orange"
+        second: root.viewModel.currentVersionCount
+        secondTint: "neutral"
         visible: root.viewModel.oldVersionCount > 0
     }
 

@@ -33,9 +33,12 @@ ColumnLayout {
 
     ShareBar {
         Layout.fillWidth: true
-        counts: [root.viewModel.updateCount, root.viewModel.reviewCount,
-                 root.viewModel.upToDateCount]
-        tints: ["blue", "orange", "green"]
+        first: root.viewModel.updateCount
+        firstTint: "blue"
+        second: root.viewModel.reviewCount
+        secondTint: "orange"
+        third: root.viewModel.upToDateCount
+        thirdTint: "green"
     }
 
     CaptionText {

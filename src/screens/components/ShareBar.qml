@@ -1,52 +1,65 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 
-// How large each of a few counts is beside the others, as a picture: the counts themselves stand in
-// the text beside it. One of any size can be seen; none takes no room.
+// How large each of up to three counts is beside the others, as a picture: the counts themselves
+// stand in the text beside it. One of any size can be seen; none takes no room.
 Item {
     id: root
 
-    required property list<int> counts
-    required property list<string> tints
+    required property int first
+    required property int second
+    required property string firstTint
+    required property string secondTint
 
-    // What assistive technology says of it; nothing where the text beside it says all.
-    property string spokenText: ""
+    property int third: 0
+    property string thirdTint: ""
 
-    readonly property int total: counts.reduce((sum, count) => sum + count, 0)
+    readonly property int total: first + second + third
+    readonly property int parts: (first > 0 ? 1 : 0) + (second > 0 ? 1 : 0) + (third > 0 ? 1 : 0)
+    // What is left for the shares when each has its least width and the gaps are taken off.
+    readonly property real room: width - parts * Theme.tiny - (parts - 1) * row.spacing
+    readonly property real unit: room / Math.max(1, total)
 
     implicitWidth: Theme.barWidth
     implicitHeight: Theme.small
     visible: total > 0
 
-    Accessible.role: Accessible.Graphic
-    Accessible.name: spokenText
-    Accessible.ignored: spokenText.length === 0
+    Accessible.ignored: true
+
+    component Share: Rectangle {
+        required property int count
+        required property string tint
+        // What one of the count is wide.
+        required property real unit
+
+        width: Theme.tiny + unit * count
+        height: Theme.small
+        color: Theme.tint(tint)
+        opacity: 0.7
+        radius: height / 2
+        visible: count > 0
+    }
 
     Row {
         id: row
 
-        readonly property int shown: root.counts.filter(count => count > 0).length
-        // What is left for the shares when each has its least width and the gaps are taken off.
-        readonly property real room: width - shown * Theme.tiny
-                                     - (shown - 1) * Theme.tiny / 2
-
-        anchors.fill: parent
         spacing: Theme.tiny / 2
 
-        Repeater {
-            model: root.counts.length
+        Share {
+            count: root.first
+            tint: root.firstTint
+            unit: root.unit
+        }
 
-            delegate: Rectangle {
-                required property int index
+        Share {
+            count: root.second
+            tint: root.secondTint
+            unit: root.unit
+        }
 
-                width: Theme.tiny + row.room * root.counts[index] / Math.max(1, root.total)
-                height: row.height
-                color: Theme.tint(root.tints[index])
-                opacity: 0.7
-                radius: height / 2
-                visible: root.counts[index] > 0
-            }
+        Share {
+            count: root.third
+            tint: root.thirdTint
+            unit: root.unit
         }
     }
 }
