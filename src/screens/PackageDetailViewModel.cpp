@@ -163,10 +163,11 @@ QString PackageDetailViewModel::commandText() const {
 }
 
 void PackageDetailViewModel::openHomepage() {
-  if (!canOpenHomepage()) {
+  const auto& homepage = inputs_.package.homepage;
+  if (!homepage || !isForBrowser(homepage->url())) {
     return;
   }
-  const bool opened = openUrl_(inputs_.package.homepage->url());
+  const bool opened = openUrl_(homepage->url());
   homepageProblem_ =
       opened ? QString() : u"No browser could be opened. Copy the address instead."_s;
   Q_EMIT homepageProblemChanged();
