@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Quillmere.App
-import Quillmere.Components
 import Quillmere.Screens
 
 // The screen of the selected section, and over it the package that is open in it. A screen lives

@@ -18,7 +18,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "DemoPackages.h"
+#include "InventoryScreenshots.h"
 #include "PackageScreenshots.h"
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
@@ -143,9 +143,10 @@ class Stage {
     content_.history()->setSearchText(QStringLiteral("nothing like it"));
     draw(QStringLiteral("history-no-match"));
     content_.history()->clearSearch();
-    drawUpdates();
-    drawCleanup();
-    drawDetails();
+    test::drawInventoryScreens(
+        content_, prefix_,
+        [this](Qt::Key key, Qt::KeyboardModifiers modifiers) { pressKey(key, modifiers); },
+        [this](const QString& what) { draw(what); });
     content_.select(AppSection::services);
     drawPreviews();
     drawPackages(QString());
@@ -211,44 +212,6 @@ class Stage {
 
   [[nodiscard]] QQuickWindow* window() const {
     return qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
-  }
-
-  void drawUpdates() {
-    content_.select(AppSection::updates);
-    for (const char* const scene : {"idle", "idle-prefix", "access", "looking", "scanning",
-                                    "failed", "current", "review", "updates", "many", "long"}) {
-      content_.updates()->setInputs(test::demoInventory(QLatin1StringView(scene), prefix_.url()));
-      draw(QStringLiteral("updates-") + QLatin1StringView(scene));
-    }
-  }
-
-  void drawCleanup() {
-    prefix_.withFile(QStringLiteral("var/homebrew/cache/downloads/wget.tar.gz"),
-                     QByteArray(1'340'000, 'x'));
-    content_.select(AppSection::cleanup);
-    for (const char* const scene : {"idle", "idle-prefix", "access", "looking", "scanning",
-                                    "failed", "current", "review", "updates", "many", "long"}) {
-      content_.cleanup()->setInputs(test::demoInventory(QLatin1StringView(scene), prefix_.url()));
-      draw(QStringLiteral("cleanup-") + QLatin1StringView(scene));
-    }
-    pressKey(Qt::Key_Tab);
-    pressKey(Qt::Key_Tab);
-    draw(QStringLiteral("cleanup-end"));
-  }
-
-  void drawDetails() {
-    content_.select(AppSection::installed);
-    for (const char* const scene : {"formula", "installed", "cask", "installed-cask", "many",
-                                    "long", "right-to-left", "refused", "bare"}) {
-      content_.details()->push(std::make_unique<PackageDetailViewModel>(
-          test::demoPackage(QLatin1StringView(scene)),
-          [](const BrewCommand& /*command*/, const QString& /*screen*/) {}));
-      draw(QStringLiteral("detail-") + QLatin1StringView(scene));
-      pressKey(Qt::Key_Tab, Qt::ShiftModifier);
-      pressKey(Qt::Key_Tab, Qt::ShiftModifier);
-      draw(QStringLiteral("detail-end-") + QLatin1StringView(scene));
-      content_.details()->back();
-    }
   }
 
   void pressKey(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const {
