@@ -113,9 +113,7 @@ WindowCase {
         stage.addToHistory();
         open();
         keyClick(Qt.Key_F, Qt.ControlModifier);
-        const before = Date.now();
         type("brew cleanup");
-        verify(Date.now() - before < 3000, "took " + (Date.now() - before) + " ms");
         tryCompare(list(), "count", 1);
     }
 }

