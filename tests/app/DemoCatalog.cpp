@@ -1,8 +1,9 @@
 #include "DemoCatalog.h"
 
-#include <algorithm>
 #include <memory>
 #include <utility>
+
+#include "platform/NameOrdering.h"
 
 namespace quillmere::test {
 namespace {
@@ -89,7 +90,8 @@ LocalInventoryInputs scannedInventory() {
   unknown.name = shared(u"of-my-own"_s);
   unknown.detail = shared(u"Install reason unknown"_s);
   packages->push_back(unknown);
-  std::ranges::stable_sort(*packages, &comesBefore);
+  NameOrdering::ofUser().stableSort(
+      *packages, [](const InstalledPackageSummary& package) { return package.name.toString(); });
   const QString prefix = u"/home/linuxbrew/.linuxbrew"_s;
   return {.state = {InstalledPackagesState::Loaded{std::move(packages)}},
           .scannedPackages = 0,
