@@ -36,11 +36,15 @@ QUrl ExternalLinks::homebrew() const {
   return QUrl(QStringLiteral("https://brew.sh"));
 }
 
-bool ExternalLinks::open(const QUrl& page) const {
-  const QString scheme = page.scheme();
-  const bool isWebPage =
+bool ExternalLinks::isWebPage(const QUrl& address) {
+  const QString scheme = address.scheme();
+  const bool isOfTheWeb =
       scheme == QLatin1StringView("https") || scheme == QLatin1StringView("http");
-  return isWebPage && !page.host().isEmpty() && opener_(page);
+  return isOfTheWeb && !address.host().isEmpty();
+}
+
+bool ExternalLinks::open(const QUrl& page) const {
+  return isWebPage(page) && opener_(page);
 }
 
 }  // namespace quillmere

@@ -29,8 +29,11 @@ class ExternalLinks : public QObject {
   [[nodiscard]] QUrl support() const;
   [[nodiscard]] QUrl homebrew() const;
 
-  /// Opens a page of the web and returns whether it went to a browser. Any other address, a file
-  /// or a program's own scheme, is refused: it would start whatever the desktop has for it.
+  /// Whether an address is one of the web. Any other, a file or a program's own scheme, would start
+  /// whatever the desktop has for it.
+  [[nodiscard]] static bool isWebPage(const QUrl& address);
+
+  /// Opens a page of the web and returns whether it went to a browser; refuses any other address.
   Q_INVOKABLE bool open(const QUrl& page) const;
 
  private:

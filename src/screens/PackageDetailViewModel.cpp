@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "guidance/FreshnessIndicator.h"
+#include "screens/ExternalLinks.h"
 #include "screens/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
@@ -21,10 +22,6 @@ QStringList strings(const std::vector<SharedText>& texts) {
     result += text.toString();
   }
   return result;
-}
-
-bool isForBrowser(const QUrl& url) {
-  return (url.scheme() == "http"_L1 || url.scheme() == "https"_L1) && !url.host().isEmpty();
 }
 
 }  // namespace
@@ -84,7 +81,7 @@ QString PackageDetailViewModel::tapText() const {
 }
 
 bool PackageDetailViewModel::canOpenHomepage() const {
-  return inputs_.package.homepage && isForBrowser(inputs_.package.homepage->url());
+  return inputs_.package.homepage && ExternalLinks::isWebPage(inputs_.package.homepage->url());
 }
 
 QString PackageDetailViewModel::installedVersionText() const {
@@ -164,7 +161,7 @@ QString PackageDetailViewModel::commandText() const {
 
 void PackageDetailViewModel::openHomepage() {
   const auto& homepage = inputs_.package.homepage;
-  if (!homepage || !isForBrowser(homepage->url())) {
+  if (!homepage || !ExternalLinks::isWebPage(homepage->url())) {
     return;
   }
   const bool opened = openUrl_(homepage->url());
