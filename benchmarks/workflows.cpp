@@ -12,6 +12,7 @@
 #include "app/CatalogWorkflows.h"
 #include "app/InventoryWorkflows.h"
 #include "persistence/LocalPersistenceStore.h"
+#include "screens/FormulaCatalogViewModel.h"
 #include "support/CatalogServer.h"
 #include "support/DemoPrefix.h"
 #include "support/TemporarySettings.h"
@@ -91,6 +92,25 @@ void loadCachedCatalog(benchmark::State& state) {
 }
 
 BENCHMARK(loadCachedCatalog)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+/// One letter after the other, each a search of its own.
+void searchCatalog(benchmark::State& state) {
+  Workflows workflows;
+  QCoro::waitFor(workflows.catalog.fetch(CatalogScope::all));
+  FormulaCatalogViewModel browse;
+  browse.setInputs({.state = workflows.catalog.state()});
+  const QString query = QStringLiteral("no such package");
+  watch(state, [&] {
+    for (qsizetype length = 1; length <= query.size(); ++length) {
+      browse.setSearchText(query.first(length));
+      while (browse.isFiltering()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+      }
+    }
+  });
+}
+
+BENCHMARK(searchCatalog)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void scanPrefix(benchmark::State& state) {
   Workflows workflows;
