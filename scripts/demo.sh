@@ -1,4 +1,7 @@
-# A made-up home for `run` to start the program in. Sourced after common.sh.
+# What `run` does on made-up homes. Sourced after common.sh, with the project's root as the working
+# directory.
+
+tourProgram=$PWD/build/release/demo/tour
 
 # makeDemoHome: writes a home into a temporary folder of its own, `demoFolder`.
 makeDemoHome() {
@@ -30,4 +33,29 @@ explainDemo() {
     "only itself. Nothing outside is touched."
   echo "Its Homebrew prefix, for when the window asks for a folder: $demoFolder/homebrew"
   echo "The folder $demoFolder is removed when the window is closed."
+}
+
+# takeTour FOLDER CHAPTER…: draws on no display at all, which looks the same everywhere. The awkward
+# chapter has a second half at twice the scale, which a program takes for all its life.
+takeTour() {
+  local folder=$1 runtime
+  shift
+  runtime=$(mktemp -d "${TMPDIR:-/tmp}/quillmere-tour.XXXXXX") || return 1
+  echo "Taking pictures; this takes some minutes."
+  drawWithoutDisplay "$runtime" "$tourProgram" "$@" "$folder"
+  local status=$?
+  if [ "$status" -eq 0 ] && [[ " $* " = *" awkward "* ]]; then
+    QT_SCALE_FACTOR=2 drawWithoutDisplay "$runtime" "$tourProgram" scaled "$folder"
+    status=$?
+  fi
+  rm -rf -- "$runtime"
+  [ "$status" -eq 0 ] && echo "The pictures are in $folder."
+  return "$status"
+}
+
+drawWithoutDisplay() {
+  local runtime=$1
+  shift
+  env -u QT_SCREEN_SCALE_FACTORS -u QT_QPA_PLATFORMTHEME LC_ALL=C.UTF-8 TZ=UTC \
+    XDG_RUNTIME_DIR="$runtime" QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software "$@"
 }

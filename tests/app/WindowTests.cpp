@@ -16,12 +16,12 @@
 #include <optional>
 #include <utility>
 
-#include "DemoCatalog.h"
-#include "DemoPackages.h"
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
 #include "app/WindowMemory.h"
 #include "commands/BrewCommandBuilder.h"
+#include "demo/DemoCatalog.h"
+#include "demo/DemoPackages.h"
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "support/CatalogServer.h"
@@ -108,8 +108,8 @@ class Stage : public QObject {
 
   /// From now on, the server has a small catalog.
   Q_INVOKABLE void serveCatalog() {
-    world_->server.answer(formulaPath, {.body = test::demoFormulaDocument()});
-    world_->server.answer(caskPath, {.body = test::demoCaskDocument()});
+    world_->server.answer(formulaPath, {.body = demo::demoFormulaDocument()});
+    world_->server.answer(caskPath, {.body = demo::demoCaskDocument()});
   }
 
   /// From now on, the server begins with an answer and does not go on.
@@ -121,22 +121,22 @@ class Stage : public QObject {
 
   /// Fills the cache, in a moment.
   Q_INVOKABLE void cacheFormulae() {
-    world_->store.saveFormulaCatalog(test::demoFormulaDocument(), QDateTime::currentDateTimeUtc());
+    world_->store.saveFormulaCatalog(demo::demoFormulaDocument(), QDateTime::currentDateTimeUtc());
   }
 
   Q_INVOKABLE void cacheCasks() {
-    world_->store.saveCaskCatalog(test::demoCaskDocument(), QDateTime::currentDateTimeUtc());
+    world_->store.saveCaskCatalog(demo::demoCaskDocument(), QDateTime::currentDateTimeUtc());
   }
 
   /// Shows a catalog of so many formulae and no cask, as if it had been loaded.
   Q_INVOKABLE void showCatalogOf(int formulae) {
     world_->content.browse()->setInputs(
-        test::loadedCatalog({.formulae = generatedFormulaDocument(formulae), .casks = "[]"}));
+        demo::loadedCatalog({.formulae = generatedFormulaDocument(formulae), .casks = "[]"}));
   }
 
   /// Shows an inventory of the demo packages, as if it had been scanned.
   Q_INVOKABLE void showInventory() {
-    world_->content.installed()->setInputs(test::scannedInventory());
+    world_->content.installed()->setInputs(demo::scannedInventory());
   }
 
   Q_INVOKABLE void failScan() {
@@ -219,7 +219,7 @@ class Stage : public QObject {
 
   /// The screens of the inventory show this scene of `DemoPackages.h`.
   Q_INVOKABLE void showInventory(const QString& scene) {
-    const LocalInventoryInputs inputs = test::demoInventory(scene, prefix());
+    const LocalInventoryInputs inputs = demo::demoInventory(scene, prefix());
     world_->content.updates()->setInputs(inputs);
     world_->content.cleanup()->setInputs(inputs);
   }
@@ -228,7 +228,7 @@ class Stage : public QObject {
   Q_INVOKABLE void openPackage(const QString& scene) {
     ContentViewModel& content = world_->content;
     auto detail = std::make_unique<PackageDetailViewModel>(
-        test::demoPackage(scene),
+        demo::demoPackage(scene),
         [&content](const BrewCommand& command, const QString& sourceScreen) {
           content.openPreview(command, sourceScreen);
         },

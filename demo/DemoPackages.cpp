@@ -1,11 +1,11 @@
-#include "DemoPackages.h"
+#include "demo/DemoPackages.h"
 
 #include <memory>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
-namespace quillmere::test {
+namespace quillmere::demo {
 namespace {
 
 using Kind = HomebrewPackageSummary::Kind;
@@ -219,4 +219,4 @@ PackageDetailViewModel::Inputs demoPackage(const QString& scene) {
   return inputs;
 }
 
-}  // namespace quillmere::test
+}  // namespace quillmere::demo

@@ -6,7 +6,7 @@
 #include "screens/LocalInventoryInputs.h"
 #include "screens/PackageDetailViewModel.h"
 
-namespace quillmere::test {
+namespace quillmere::demo {
 
 /// What the screens of the inventory are given in a scene: "idle", "idle-prefix", "access",
 /// "looking", "scanning", "failed", "empty", "current", "review", "updates", "many" (five thousand
@@ -18,4 +18,4 @@ namespace quillmere::test {
 /// stand in no command), "bare" (nothing but a name).
 [[nodiscard]] PackageDetailViewModel::Inputs demoPackage(const QString& scene);
 
-}  // namespace quillmere::test
+}  // namespace quillmere::demo

@@ -5,7 +5,7 @@
 #include "screens/CatalogInputs.h"
 #include "screens/LocalInventoryInputs.h"
 
-namespace quillmere::test {
+namespace quillmere::demo {
 
 /// Catalog documents with well-known packages, and with such as try a layout: without a description
 /// or a version, with a name of 60 and a description of 300 characters, from right to left.
@@ -19,4 +19,4 @@ namespace quillmere::test {
 /// catalog has left behind, and some that it does not know.
 [[nodiscard]] LocalInventoryInputs scannedInventory();
 
-}  // namespace quillmere::test
+}  // namespace quillmere::demo

@@ -1,11 +1,11 @@
-#include "DemoCatalog.h"
+#include "demo/DemoCatalog.h"
 
 #include <memory>
 #include <utility>
 
 #include "platform/NameOrdering.h"
 
-namespace quillmere::test {
+namespace quillmere::demo {
 namespace {
 
 using namespace Qt::StringLiterals;
@@ -102,4 +102,4 @@ LocalInventoryInputs scannedInventory() {
           .catalogLastRefreshDate = {}};
 }
 
-}  // namespace quillmere::test
+}  // namespace quillmere::demo

@@ -1,0 +1,125 @@
+#include <array>
+#include <memory>
+
+#include "commands/BrewCommandBuilder.h"
+#include "demo/DemoCatalog.h"
+#include "demo/DemoPackages.h"
+#include "demo/tour/Chapters.h"
+#include "demo/tour/Stage.h"
+
+namespace quillmere::demo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// The smallest window that the program allows, and one that is larger than its texts are wide.
+struct Size {
+  QLatin1StringView name;
+  QSize size;
+};
+
+constexpr std::array sizes = {Size{QLatin1StringView("small"), QSize(900, 600)},
+                              Size{QLatin1StringView("large"), QSize(1600, 1000)}};
+
+constexpr auto inventoryScenes = std::to_array<QLatin1StringView>(
+    {"updates"_L1, "review"_L1, "failed"_L1, "many"_L1, "long"_L1});
+constexpr auto packageScenes = std::to_array<QLatin1StringView>(
+    {"installed-cask"_L1, "many"_L1, "long"_L1, "right-to-left"_L1, "refused"_L1, "bare"_L1});
+
+/// A brew with much to say, in long lines and in a script that runs from right to left.
+QByteArray talkativeBrew() {
+  return "#!/bin/sh\nseq -f '==> Installed line %g' 10000\n"
+         "printf '\\327\\251\\327\\234\\327\\225\\327\\235 (installed)\\n'\n"
+         "for i in 1 2 3 4 5 6 7 8 9; do printf 'Warning: a long line without an end; '; done\n"
+         "exit 1\n";
+}
+
+void tellSections(Stage& stage, QLatin1StringView size) {
+  for (const AppSection section : allAppSections) {
+    stage.show(section);
+    stage.picture(size + u'-' + rawValue(section).toString());
+  }
+}
+
+void tellCatalog(Stage& stage, QLatin1StringView size) {
+  stage.show(AppSection::browse);
+  stage.content().browse()->setInputs(
+      loadedCatalog({.formulae = demoFormulaDocument(), .casks = demoCaskDocument()}));
+  stage.waitFor(u"browse-awkward"_s, [&] { return !stage.content().browse()->isFiltering(); });
+  stage.picture(size + "-browse-awkward"_L1);
+}
+
+void tellInventory(Stage& stage, QLatin1StringView size) {
+  for (const QLatin1StringView scene : inventoryScenes) {
+    const LocalInventoryInputs inputs = demoInventory(scene, stage.prefix());
+    stage.content().installed()->setInputs(inputs);
+    stage.content().updates()->setInputs(inputs);
+    stage.content().cleanup()->setInputs(inputs);
+    stage.show(AppSection::installed);
+    stage.picture(size + "-installed-"_L1 + scene);
+    stage.show(AppSection::updates);
+    stage.picture(size + "-updates-"_L1 + scene);
+    stage.show(AppSection::cleanup);
+    stage.picture(size + "-cleanup-"_L1 + scene);
+  }
+}
+
+void tellPackages(Stage& stage, QLatin1StringView size) {
+  stage.show(AppSection::installed);
+  for (const QLatin1StringView scene : packageScenes) {
+    stage.content().details()->push(std::make_unique<PackageDetailViewModel>(
+        demoPackage(scene), [](const BrewCommand& /*command*/, const QString& /*screen*/) {}));
+    stage.picture(size + "-package-"_L1 + scene);
+    stage.press(Qt::Key_Tab, Qt::ShiftModifier);
+    stage.press(Qt::Key_Tab, Qt::ShiftModifier);
+    stage.picture(size + "-package-"_L1 + scene + "-end"_L1);
+    stage.content().details()->back();
+  }
+}
+
+void tellLongRun(Stage& stage, QLatin1StringView size) {
+  stage.setBrew(talkativeBrew());
+  stage.show(AppSection::browse);
+  const BrewCommandTarget target{BrewCommandTargetKind::formula, QString(120, u'w')};
+  stage.openPreview(BrewCommandBuilder().install(target).value(), u"Browse"_s);
+  stage.picture(size + "-preview-long"_L1);
+  stage.content().preview()->run();
+  stage.picture(size + "-confirmation-long"_L1);
+  stage.content().preview()->confirmRun();
+  stage.waitForEndOfRun(u"run-long"_s);
+  stage.picture(size + "-run-long"_L1);
+  stage.content().preview()->session()->setShowsRawOutput(true);
+  stage.picture(size + "-run-long-output"_L1);
+  stage.content().preview()->close();
+  stage.show(AppSection::history);
+  stage.picture(size + "-history-long"_L1);
+}
+
+}  // namespace
+
+void tellAwkward(Album& album) {
+  for (const auto& [name, size] : sizes) {
+    Stage stage(album, Visitor::regular, size);
+    tellSections(stage, name);
+    tellCatalog(stage, name);
+    tellInventory(stage, name);
+    tellPackages(stage, name);
+    tellLongRun(stage, name);
+  }
+  Stage stage(album, Visitor::newcomer, sizes.front().size);
+  stage.picture(sizes.front().name + "-first-start"_L1);
+}
+
+void tellScaled(Album& album) {
+  Stage stage(album, Visitor::regular, sizes.front().size);
+  tellSections(stage, "scaled"_L1);
+  tellCatalog(stage, "scaled"_L1);
+  stage.show(AppSection::services);
+  stage.openPreview(BrewCommandBuilder().servicesList(), u"Services"_s);
+  stage.picture(u"scaled-preview"_s);
+  stage.run(u"scaled-run"_s);
+  stage.waitForEndOfRun(u"scaled-run"_s);
+  stage.picture(u"scaled-run"_s);
+}
+
+}  // namespace quillmere::demo

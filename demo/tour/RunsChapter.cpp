@@ -1,0 +1,206 @@
+#include <QtQuick/QQuickItem>
+
+#include "commands/BrewCommandBuilder.h"
+#include "demo/tour/Chapters.h"
+#include "demo/tour/Stage.h"
+
+namespace quillmere::demo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr QSize usualSize(1200, 800);
+const BrewCommandBuilder builder;
+
+BrewCommandTarget formula(const QString& name) {
+  return {BrewCommandTargetKind::formula, name};
+}
+
+void scan(Stage& stage, const QString& nextPicture) {
+  stage.content().installed()->scan();
+  stage.waitFor(nextPicture, [&] {
+    return stage.content().inventory().state().packages() != nullptr &&
+           !stage.content().inventory().scanProgress();
+  });
+}
+
+void tellPreviews(Stage& stage) {
+  const auto tell = [&stage](const BrewCommand& command, const QString& screen,
+                             const QString& picture) {
+    stage.openPreview(command, screen);
+    stage.picture(picture);
+    stage.content().preview()->close();
+  };
+  stage.show(AppSection::services);
+  tell(builder.servicesList(), u"Services"_s, u"preview"_s);
+  stage.show(AppSection::installed);
+  tell(builder.uninstall(formula(u"yq"_s)).value(), u"Installed"_s, u"preview-uninstall"_s);
+  stage.show(AppSection::browse);
+  stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
+  stage.picture(u"preview-install"_s);
+  stage.content().preview()->copy();
+  stage.picture(u"preview-copied"_s);
+  stage.content().preview()->run();
+  stage.picture(u"confirmation"_s);
+  stage.content().preview()->cancelConfirmation();
+  stage.content().preview()->close();
+  stage.show(AppSection::updates);
+  stage.openPreview(builder.upgrade(std::nullopt).value(), u"Updates"_s);
+  stage.picture(u"preview-upgrade-all"_s);
+  stage.content().preview()->run();
+  stage.picture(u"confirmation-stronger"_s);
+  stage.content().preview()->cancelConfirmation();
+  stage.content().preview()->close();
+}
+
+bool showStartupDiagnostics(QQuickItem* from) {
+  if (from->property("showsDiagnostics").isValid()) {
+    return from->setProperty("showsDiagnostics", true);
+  }
+  const auto children = from->childItems();
+  return std::ranges::any_of(children, &showStartupDiagnostics);
+}
+
+/// The moment before `brew` is found, which is over before one sees it.
+void tellStart(Stage& stage) {
+  stage.holdDisk();
+  stage.openPreview(builder.servicesList(), u"Services"_s);
+  stage.content().preview()->run();
+  stage.picture(u"run-starting"_s);
+  showStartupDiagnostics(stage.window()->contentItem());
+  stage.picture(u"run-starting-diagnostics"_s);
+  stage.content().preview()->close();
+  stage.releaseDisk();
+}
+
+/// The end of a run that is going on, its summary and its output.
+void tellEnd(Stage& stage, const QString& picture) {
+  stage.waitForEndOfRun(picture);
+  stage.picture(picture);
+  stage.content().preview()->session()->setShowsRawOutput(true);
+  stage.picture(picture + u"-output"_s);
+  stage.content().preview()->close();
+}
+
+void waitForOutput(Stage& stage, const QString& text, const QString& nextPicture) {
+  stage.waitFor(nextPicture, [&] {
+    const auto* const controller = stage.content().preview()->sessionController();
+    return std::ranges::any_of(controller->outputChunks(), [&text](const auto& chunk) {
+      return QString::fromUtf8(chunk.text).contains(text);
+    });
+  });
+}
+
+void tellUpgrade(Stage& stage) {
+  stage.show(AppSection::updates);
+  scan(stage, u"run"_s);
+  stage.openPreview(builder.upgrade(formula(u"jq"_s)).value(), u"Updates"_s);
+  stage.run(u"run"_s);
+  waitForOutput(stage, u"Pouring"_s, u"run"_s);
+  stage.picture(u"run"_s);
+  stage.content().preview()->session()->setShowsRawOutput(true);
+  stage.picture(u"run-output"_s);
+  stage.content().preview()->session()->setShowsRawOutput(false);
+  tellEnd(stage, u"run-finished"_s);
+  scan(stage, u"updates-after-upgrade"_s);
+  stage.picture(u"updates-after-upgrade"_s);
+}
+
+void tellQuestions(Stage& stage) {
+  stage.show(AppSection::services);
+  stage.openPreview(builder.servicesList(), u"Services"_s);
+  stage.run(u"services-finished"_s);
+  tellEnd(stage, u"services-finished"_s);
+  stage.openPreview(builder.dependencies(u"curl"_s).value(), u"Browse"_s);
+  stage.run(u"dependencies-finished"_s);
+  tellEnd(stage, u"dependencies-finished"_s);
+  stage.openPreview(builder.info(formula(u"jq"_s)).value(), u"Browse"_s);
+  stage.run(u"information-finished"_s);
+  tellEnd(stage, u"information-finished"_s);
+  stage.openPreview(builder.doctor(), u"Dashboard"_s);
+  stage.run(u"run-failed"_s);
+  tellEnd(stage, u"run-failed"_s);
+}
+
+/// A brew that does not end when it is asked to, but when a file "release" appears in its prefix.
+QByteArray stubbornBrew() {
+  return "#!/bin/sh\ntrap '' TERM\ncd \"${0%/*}/..\"\necho '==> Fetching downloads for: ffmpeg'\n"
+         "while [ -e bin/brew ] && [ ! -e var/release ]; do sleep 0.05; done\n";
+}
+
+void tellCancellation(Stage& stage) {
+  stage.show(AppSection::browse);
+  stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
+  stage.run(u"run-cancelled"_s);
+  waitForOutput(stage, u"Bottle"_s, u"run-cancelled"_s);
+  stage.window()->close();
+  stage.picture(u"quit-while-running"_s);
+  stage.content().quitGuard()->stay();
+  stage.content().preview()->session()->cancel();
+  tellEnd(stage, u"run-cancelled"_s);
+  stage.setBrew(stubbornBrew());
+  stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
+  stage.run(u"run-cancelling"_s);
+  waitForOutput(stage, u"Fetching"_s, u"run-cancelling"_s);
+  stage.content().preview()->session()->cancel();
+  stage.picture(u"run-cancelling"_s);
+  stage.window()->close();
+  stage.picture(u"quit-without-waiting"_s);
+  stage.content().quitGuard()->stay();
+  stage.addFile(u"var/release"_s);
+  stage.waitForEndOfRun(u"run-refused"_s);
+  stage.content().preview()->close();
+}
+
+void tellCleanup(Stage& stage) {
+  stage.show(AppSection::cleanup);
+  stage.content().cleanup()->previewCleanup();
+  stage.run(u"cleanup-finished"_s);
+  tellEnd(stage, u"cleanup-finished"_s);
+  scan(stage, u"cleanup-after-cleanup"_s);
+  stage.show(AppSection::cleanup);
+  stage.waitFor(u"cleanup-after-cleanup"_s,
+                [&] { return !stage.content().cleanup()->isMeasuringCache(); });
+  stage.picture(u"cleanup-after-cleanup"_s);
+}
+
+void tellHistory(Stage& stage) {
+  CommandHistoryViewModel& history = *stage.content().history();
+  stage.show(AppSection::history);
+  stage.picture(u"history"_s);
+  history.setSearchText(u"upgrade"_s);
+  stage.picture(u"history-search"_s);
+  history.setSearchText(u"nothing like it"_s);
+  stage.picture(u"history-no-match"_s);
+  history.clearSearch();
+  history.askClear();
+  stage.picture(u"history-clear"_s);
+  history.cancelClear();
+}
+
+void tellRefusal(Stage& stage) {
+  stage.store().resetPrefix();
+  stage.show(AppSection::services);
+  stage.openPreview(builder.servicesList(), u"Services"_s);
+  stage.content().preview()->run();
+  stage.waitFor(u"run-refused"_s, [&] { return stage.content().preview()->errorPending(); });
+  stage.picture(u"run-refused"_s);
+  stage.content().preview()->dismissError();
+  stage.content().preview()->close();
+}
+
+}  // namespace
+
+void tellRuns(Album& album) {
+  Stage stage(album, Visitor::regular, usualSize);
+  tellPreviews(stage);
+  tellStart(stage);
+  tellUpgrade(stage);
+  tellQuestions(stage);
+  tellCleanup(stage);
+  tellHistory(stage);
+  tellCancellation(stage);
+  tellRefusal(stage);
+}
+
+}  // namespace quillmere::demo

@@ -1,0 +1,141 @@
+#include "demo/tour/Stage.h"
+
+#include <QtCore/QFile>
+#include <QtCore/QSettings>
+#include <QtQuick/QQuickItem>
+#include <QtTest/QTest>
+
+#include <algorithm>
+
+#include "execution/DirectCommandRunner.h"
+#include "platform/FileUrl.h"
+
+namespace quillmere::demo {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr int patienceMilliseconds = 60'000;
+
+void writeFile(const QString& path, const QByteArray& content) {
+  QFile file(path);
+  if (!file.open(QFile::WriteOnly) || file.write(content) != content.size()) {
+    qFatal("Cannot write %s", qUtf8Printable(path));
+  }
+}
+
+bool focusButton(const QString& text, QQuickItem* from) {
+  if (from->isVisible() && from->inherits("QQuickAbstractButton") &&
+      from->property("text").toString() == text) {
+    from->forceActiveFocus(Qt::TabFocusReason);
+    return true;
+  }
+  const auto children = from->childItems();
+  return std::ranges::any_of(children,
+                             [&text](QQuickItem* const child) { return focusButton(text, child); });
+}
+
+}  // namespace
+
+Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
+  home_.folder = folder_.path();
+  if (const auto written = home_.write(visitor); !written) {
+    qFatal("%s", qUtf8Printable(written.error()));
+  }
+  disk_->released.release();
+  const auto settings = [this] {
+    return std::make_unique<QSettings>(home_.settingsFile(), QSettings::NativeFormat);
+  };
+  store_ = std::make_unique<LocalPersistenceStore>(settings(), fileUrl(home_.catalogFolder()));
+  memory_ = std::make_unique<WindowMemory>(settings());
+  content_ = std::make_unique<ContentViewModel>(
+      *store_, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
+      CatalogWorkflows::Clients(), BrewExecutableResolver(disk_));
+  engine_.addImportPath(u"qrc:/qt/qml"_s);
+  engine_.setInitialProperties({{u"content"_s, QVariant::fromValue(content_.get())},
+                                {u"memory"_s, QVariant::fromValue(memory_.get())}});
+  engine_.load(QUrl(u"qrc:/qt/qml/Quillmere/App/MainWindow.qml"_s));
+  if (engine_.rootObjects().isEmpty()) {
+    qFatal("The window does not open");
+  }
+  window()->resize(size);
+}
+
+Stage::~Stage() = default;
+
+QUrl Stage::prefix() const {
+  return fileUrl(home_.prefix());
+}
+
+QQuickWindow* Stage::window() const {
+  return qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
+}
+
+void Stage::setPace(int percent) const {
+  writeFile(home_.prefix() + u"/var/pace"_s, QByteArray::number(percent) + '\n');
+}
+
+void Stage::setBrew(const QByteArray& script) const {
+  writeFile(home_.prefix() + u"/bin/brew"_s, script);
+}
+
+void Stage::addFile(const QString& relativePath) const {
+  writeFile(home_.prefix() + u'/' + relativePath, QByteArray());
+}
+
+void Stage::picture(const QString& name) {
+  album_.take(*window(), name);
+}
+
+void Stage::picture(QQuickWindow& window, const QString& name) {
+  album_.take(window, name);
+}
+
+void Stage::waitFor(const QString& nextPicture, const std::function<bool()>& isSo) const {
+  if (!QTest::qWaitFor(isSo, patienceMilliseconds)) {
+    qFatal("The picture %s cannot be taken: what it shows does not come",
+           qUtf8Printable(album_.nextName(nextPicture)));
+  }
+}
+
+void Stage::activate() const {
+  window()->requestActivate();
+  waitFor(u"of the active window"_s, [this] { return window()->isActive(); });
+}
+
+void Stage::press(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
+  activate();
+  QTest::keyClick(window(), key, modifiers);
+}
+
+void Stage::focusOn(const QString& buttonText) const {
+  activate();
+  if (!focusButton(buttonText, window()->contentItem())) {
+    qFatal("There is no button %s", qUtf8Printable(buttonText));
+  }
+}
+
+void Stage::show(AppSection section) {
+  content_->details()->clear();
+  content_->select(section);
+}
+
+void Stage::openPreview(const BrewCommand& command, const QString& screen) {
+  content_->openPreview(command, screen);
+}
+
+void Stage::run(const QString& nextPicture) {
+  content_->preview()->run();
+  if (content_->preview()->confirmationPending()) {
+    content_->preview()->confirmRun();
+  }
+  waitFor(nextPicture, [this] { return content_->preview()->session() != nullptr; });
+}
+
+void Stage::waitForEndOfRun(const QString& nextPicture) const {
+  waitFor(nextPicture, [this] {
+    return content_->preview()->session() != nullptr && !content_->preview()->isRunning();
+  });
+}
+
+}  // namespace quillmere::demo

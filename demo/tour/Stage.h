@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QtCore/QTemporaryDir>
+#include <QtQml/QQmlApplicationEngine>
+
+#include <functional>
+#include <memory>
+
+#include "app/ContentViewModel.h"
+#include "app/WindowMemory.h"
+#include "demo/DemoHome.h"
+#include "demo/tour/Album.h"
+#include "persistence/LocalPersistenceStore.h"
+#include "support/HeldFileSystem.h"
+
+namespace quillmere::demo {
+
+/// The real window over a demo home of its own, and the hands that use it.
+class Stage {
+ public:
+  Stage(Album& album, Visitor visitor, QSize size);
+  ~Stage();
+  Q_DISABLE_COPY_MOVE(Stage)
+
+  [[nodiscard]] ContentViewModel& content() { return *content_; }
+
+  [[nodiscard]] LocalPersistenceStore& store() { return *store_; }
+
+  [[nodiscard]] const DemoHome& home() const { return home_; }
+
+  [[nodiscard]] QUrl prefix() const;
+
+  [[nodiscard]] QQuickWindow* window() const;
+
+  /// How fast the home's `brew` is, in percent of the usual.
+  void setPace(int percent) const;
+
+  /// Replaces the home's `brew`.
+  void setBrew(const QByteArray& script) const;
+
+  /// An empty file in the home's prefix.
+  void addFile(const QString& relativePath) const;
+
+  void picture(const QString& name);
+  void picture(QQuickWindow& window, const QString& name);
+
+  /// Waits until something is so. Where it never is, the tour ends and says before which picture.
+  void waitFor(const QString& nextPicture, const std::function<bool()>& isSo) const;
+
+  void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
+
+  /// Gives the keyboard to the button with this text, which brings it into view.
+  void focusOn(const QString& buttonText) const;
+
+  /// Shows a section as it is when one comes to it for the first time.
+  void show(AppSection section);
+
+  void openPreview(const BrewCommand& command, const QString& screen);
+  /// Runs what the open preview shows, and confirms it where that is asked for.
+  void run(const QString& nextPicture);
+  void waitForEndOfRun(const QString& nextPicture) const;
+
+  /// Lets the program find the way to `brew`, or keeps it looking.
+  void holdDisk() const { disk_->released.acquire(); }
+
+  void releaseDisk() const { disk_->released.release(); }
+
+ private:
+  void activate() const;
+
+  Album& album_;
+  QTemporaryDir folder_;
+  DemoHome home_;
+  std::shared_ptr<test::HeldFileSystem> disk_ = std::make_shared<test::HeldFileSystem>();
+  std::unique_ptr<LocalPersistenceStore> store_;
+  std::unique_ptr<WindowMemory> memory_;
+  std::unique_ptr<ContentViewModel> content_;
+  QQmlApplicationEngine engine_;
+};
+
+}  // namespace quillmere::demo
