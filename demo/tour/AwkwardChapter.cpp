@@ -70,8 +70,7 @@ void tellPackages(Stage& stage, QLatin1StringView size) {
     stage.content().details()->push(std::make_unique<PackageDetailViewModel>(
         demoPackage(scene), [](const BrewCommand& /*command*/, const QString& /*screen*/) {}));
     stage.picture(size + "-package-"_L1 + scene);
-    stage.press(Qt::Key_Tab, Qt::ShiftModifier);
-    stage.press(Qt::Key_Tab, Qt::ShiftModifier);
+    stage.scrollToEnd();
     stage.picture(size + "-package-"_L1 + scene + "-end"_L1);
     stage.content().details()->back();
   }
@@ -100,6 +99,8 @@ void tellLongRun(Stage& stage, QLatin1StringView size) {
 void tellAwkward(Album& album) {
   for (const auto& [name, size] : sizes) {
     Stage stage(album, Visitor::regular, size);
+    stage.loadCatalog(name.toString());
+    stage.scan(name.toString());
     tellSections(stage, name);
     tellCatalog(stage, name);
     tellInventory(stage, name);
@@ -112,6 +113,8 @@ void tellAwkward(Album& album) {
 
 void tellScaled(Album& album) {
   Stage stage(album, Visitor::regular, sizes.front().size);
+  stage.loadCatalog(u"scaled"_s);
+  stage.scan(u"scaled"_s);
   tellSections(stage, "scaled"_L1);
   tellCatalog(stage, "scaled"_L1);
   stage.show(AppSection::services);

@@ -16,14 +16,6 @@ BrewCommandTarget formula(const QString& name) {
   return {BrewCommandTargetKind::formula, name};
 }
 
-void scan(Stage& stage, const QString& nextPicture) {
-  stage.content().installed()->scan();
-  stage.waitFor(nextPicture, [&] {
-    return stage.content().inventory().state().packages() != nullptr &&
-           !stage.content().inventory().scanProgress();
-  });
-}
-
 void tellPreviews(Stage& stage) {
   const auto tell = [&stage](const BrewCommand& command, const QString& screen,
                              const QString& picture) {
@@ -93,7 +85,6 @@ void waitForOutput(Stage& stage, const QString& text, const QString& nextPicture
 
 void tellUpgrade(Stage& stage) {
   stage.show(AppSection::updates);
-  scan(stage, u"run"_s);
   stage.openPreview(builder.upgrade(formula(u"jq"_s)).value(), u"Updates"_s);
   stage.run(u"run"_s);
   waitForOutput(stage, u"Pouring"_s, u"run"_s);
@@ -102,7 +93,7 @@ void tellUpgrade(Stage& stage) {
   stage.picture(u"run-output"_s);
   stage.content().preview()->session()->setShowsRawOutput(false);
   tellEnd(stage, u"run-finished"_s);
-  scan(stage, u"updates-after-upgrade"_s);
+  stage.scan(u"updates-after-upgrade"_s);
   stage.picture(u"updates-after-upgrade"_s);
 }
 
@@ -142,7 +133,8 @@ void tellCancellation(Stage& stage) {
   stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
   stage.run(u"run-cancelling"_s);
   waitForOutput(stage, u"Fetching"_s, u"run-cancelling"_s);
-  stage.content().preview()->session()->cancel();
+  stage.window()->close();
+  stage.content().quitGuard()->quit();
   stage.picture(u"run-cancelling"_s);
   stage.window()->close();
   stage.picture(u"quit-without-waiting"_s);
@@ -157,7 +149,7 @@ void tellCleanup(Stage& stage) {
   stage.content().cleanup()->previewCleanup();
   stage.run(u"cleanup-finished"_s);
   tellEnd(stage, u"cleanup-finished"_s);
-  scan(stage, u"cleanup-after-cleanup"_s);
+  stage.scan(u"cleanup-after-cleanup"_s);
   stage.show(AppSection::cleanup);
   stage.waitFor(u"cleanup-after-cleanup"_s,
                 [&] { return !stage.content().cleanup()->isMeasuringCache(); });
@@ -193,6 +185,8 @@ void tellRefusal(Stage& stage) {
 
 void tellRuns(Album& album) {
   Stage stage(album, Visitor::regular, usualSize);
+  stage.loadCatalog(u"preview"_s);
+  stage.scan(u"preview"_s);
   tellPreviews(stage);
   tellStart(stage);
   tellUpgrade(stage);

@@ -61,18 +61,12 @@ void search(Stage& stage, const QString& text, const QString& picture) {
   stage.picture(picture);
 }
 
-void loadCatalog(Stage& stage, const QString& nextPicture) {
-  FormulaCatalogViewModel& browse = *stage.content().browse();
-  browse.loadCachedAll();
-  stage.waitFor(nextPicture, [&] { return browse.state() == FormulaCatalogViewModel::Listed; });
-}
-
 void tellBrowse(Stage& stage) {
   FormulaCatalogViewModel& browse = *stage.content().browse();
   stage.show(AppSection::browse);
   stage.picture(u"browse-not-loaded"_s);
   tellDownload(stage);
-  loadCatalog(stage, u"browse"_s);
+  stage.loadCatalog(u"browse"_s);
   stage.picture(u"browse"_s);
   search(stage, u"json"_s, u"browse-search"_s);
   search(stage, u"no package is called so"_s, u"browse-no-match"_s);
@@ -110,8 +104,7 @@ void tellPackages(Stage& stage) {
   const auto tell = [&stage](const QString& name, const QString& picture) {
     openPackage(stage, name, picture);
     stage.picture(picture);
-    stage.press(Qt::Key_Tab, Qt::ShiftModifier);
-    stage.press(Qt::Key_Tab, Qt::ShiftModifier);
+    stage.scrollToEnd();
     stage.picture(picture + u"-end"_s);
     stage.content().details()->back();
   };
@@ -137,15 +130,6 @@ void tellChoice(Stage& stage) {
   stage.picture(u"dashboard-not-scanned"_s);
 }
 
-void scan(Stage& stage, const QString& nextPicture) {
-  InstalledPackagesViewModel& installed = *stage.content().installed();
-  installed.scan();
-  stage.waitFor(nextPicture, [&] {
-    return stage.content().inventory().state().packages() != nullptr &&
-           !stage.content().inventory().scanProgress();
-  });
-}
-
 /// The states of a scan, which is over before one sees it.
 void tellScan(Stage& stage) {
   InstalledPackagesViewModel& installed = *stage.content().installed();
@@ -168,7 +152,7 @@ void tellInstalled(Stage& stage) {
   stage.show(AppSection::cleanup);
   stage.picture(u"cleanup-not-scanned"_s);
   stage.show(AppSection::installed);
-  scan(stage, u"installed"_s);
+  stage.scan(u"installed"_s);
   stage.picture(u"installed"_s);
   installed.setSearchText(u"python"_s);
   stage.picture(u"installed-search"_s);
@@ -181,8 +165,7 @@ void tellInstalled(Stage& stage) {
   installed.setPackageFilter(PackageCatalogFilter::all);
   installed.open(0);
   stage.picture(u"installed-formula"_s);
-  stage.press(Qt::Key_Tab, Qt::ShiftModifier);
-  stage.press(Qt::Key_Tab, Qt::ShiftModifier);
+  stage.scrollToEnd();
   stage.picture(u"installed-formula-end"_s);
   installed.setSearchText(QString());
 }
@@ -192,9 +175,9 @@ void tellGuidance(Stage& stage) {
   stage.picture(u"dashboard"_s);
   stage.show(AppSection::updates);
   stage.picture(u"updates"_s);
-  stage.press(Qt::Key_Tab, Qt::ShiftModifier);
-  stage.press(Qt::Key_End);
+  stage.scrollToEnd();
   stage.picture(u"updates-end"_s);
+  stage.scrollToBeginning();
   UpdatesViewModel& updates = *stage.content().updates();
   const LocalInventoryInputs real = updates.inputs();
   for (const auto* const scene : {"scanning", "failed", "empty", "current", "review"}) {
@@ -205,9 +188,9 @@ void tellGuidance(Stage& stage) {
   stage.show(AppSection::cleanup);
   stage.waitFor(u"cleanup"_s, [&] { return !stage.content().cleanup()->isMeasuringCache(); });
   stage.picture(u"cleanup"_s);
-  stage.press(Qt::Key_Tab, Qt::ShiftModifier);
-  stage.press(Qt::Key_End);
+  stage.scrollToEnd();
   stage.picture(u"cleanup-end"_s);
+  stage.scrollToBeginning();
   for (const auto* const scene : {"scanning", "failed", "current"}) {
     stage.content().cleanup()->setInputs(demoInventory(QLatin1StringView(scene), stage.prefix()));
     stage.picture(u"cleanup-"_s + QLatin1StringView(scene));
@@ -254,6 +237,7 @@ void tellSettings(Stage& stage) {
     stage.focusOn(button);
     stage.picture(u"settings-"_s + button.section(u' ', -1).toLower());
   }
+  stage.scrollToBeginning();
   const auto confirm = [&](void (SettingsViewModel::*ask)(), const QString& picture) {
     (settings.*ask)();
     stage.picture(picture);
@@ -281,13 +265,15 @@ void tellScreens(Album& album) {
   tellSettings(stage);
   stage.show(AppSection::aboutLegal);
   stage.picture(u"about"_s);
+  stage.scrollToEnd();
+  stage.picture(u"about-end"_s);
 }
 
 void tellBeginning(Album& album) {
   Stage stage(album, Visitor::newcomer, usualSize);
   tellFirstStart(stage);
   stage.show(AppSection::browse);
-  loadCatalog(stage, u"browse"_s);
+  stage.loadCatalog(u"browse"_s);
   stage.picture(u"browse"_s);
   openPackage(stage, u"wget"_s, u"formula"_s);
   stage.picture(u"formula"_s);

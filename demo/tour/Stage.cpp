@@ -35,6 +35,28 @@ bool focusButton(const QString& text, QQuickItem* from) {
                              [&text](QQuickItem* const child) { return focusButton(text, child); });
 }
 
+/// The item under `from` that hides the most of its content.
+QQuickItem* longestPage(QQuickItem* from) {
+  const auto hidden = [](const QQuickItem* item) {
+    return item->property("contentHeight").toReal() - item->height();
+  };
+  QQuickItem* longest = nullptr;
+  if (!from->isVisible()) {
+    return nullptr;
+  }
+  if (from->inherits("QQuickFlickable") && from->property("interactive").toBool()) {
+    longest = from;
+  }
+  const auto children = from->childItems();
+  for (QQuickItem* const child : children) {
+    QQuickItem* const page = longestPage(child);
+    if (page != nullptr && (longest == nullptr || hidden(page) > hidden(longest))) {
+      longest = page;
+    }
+  }
+  return longest;
+}
+
 }  // namespace
 
 Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
@@ -113,6 +135,37 @@ void Stage::focusOn(const QString& buttonText) const {
   if (!focusButton(buttonText, window()->contentItem())) {
     qFatal("There is no button %s", qUtf8Printable(buttonText));
   }
+}
+
+void Stage::scrollToEnd() const {
+  QQuickItem* const page = longestPage(window()->contentItem());
+  if (page == nullptr) {
+    qFatal("There is nothing to scroll");
+  }
+  const qreal begin = page->property("originY").toReal();
+  const qreal hidden = page->property("contentHeight").toReal() - page->height();
+  page->setProperty("contentY", begin + std::max(hidden, 0.0));
+}
+
+void Stage::scrollToBeginning() const {
+  QQuickItem* const page = longestPage(window()->contentItem());
+  if (page != nullptr) {
+    page->setProperty("contentY", page->property("originY"));
+  }
+}
+
+void Stage::loadCatalog(const QString& nextPicture) {
+  FormulaCatalogViewModel& browse = *content_->browse();
+  browse.loadCachedAll();
+  waitFor(nextPicture, [&] { return browse.state() == FormulaCatalogViewModel::Listed; });
+}
+
+void Stage::scan(const QString& nextPicture) {
+  content_->installed()->scan();
+  waitFor(nextPicture, [this] {
+    return content_->inventory().state().packages() != nullptr &&
+           !content_->inventory().scanProgress();
+  });
 }
 
 void Stage::show(AppSection section) {

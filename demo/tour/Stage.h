@@ -52,6 +52,14 @@ class Stage {
   /// Gives the keyboard to the button with this text, which brings it into view.
   void focusOn(const QString& buttonText) const;
 
+  /// Scrolls the longest list or page that is in view to its end, and to its beginning.
+  void scrollToEnd() const;
+  void scrollToBeginning() const;
+
+  /// Reads the catalog's cached documents, and the prefix.
+  void loadCatalog(const QString& nextPicture);
+  void scan(const QString& nextPicture);
+
   /// Shows a section as it is when one comes to it for the first time.
   void show(AppSection section);
 

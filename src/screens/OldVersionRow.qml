@@ -34,7 +34,7 @@ Item {
                 Layout.fillWidth: true
                 Layout.maximumWidth: Math.ceil(implicitWidth)
                 elide: Text.ElideRight
-                font.weight: Font.Medium
+                font.weight: Font.DemiBold
                 text: root.name
                 wrapMode: Text.NoWrap
 
