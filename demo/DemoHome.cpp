@@ -45,8 +45,8 @@ std::expected<void, QString> DemoHome::write(Visitor visitor) const {
   FolderWriter configWriter(configFolder());
   configWriter.folder(QStringLiteral("Quillmere"));
   for (const FolderWriter* const writer : {&prefixWriter, &catalogWriter, &configWriter}) {
-    if (writer->error()) {
-      return std::unexpected(*writer->error());
+    if (const auto& error = writer->error()) {
+      return std::unexpected(*error);
     }
   }
   writeSettings(*this, visitor);

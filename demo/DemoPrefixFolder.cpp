@@ -49,7 +49,7 @@ QByteArray receiptOf(const InstalledPackage& package, const QString& version, qi
 }
 
 void writeFormula(FolderWriter& writer, const InstalledPackage& package, qint64 size) {
-  constexpr qint64 secondsBetweenVersions = 40 * 86'400;
+  constexpr qint64 secondsBetweenVersions = qint64{40} * 86'400;
   qint64 time = QDateTime::currentSecsSinceEpoch();
   time -= secondsBetweenVersions * package.versions.size();
   const QString rack = u"Cellar/"_s + package.name;

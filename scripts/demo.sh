@@ -1,12 +1,11 @@
-# What `run` does on made-up homes. Sourced after common.sh, with the project's root as the working
-# directory.
+# What `run` does on made-up homes. Sourced with `demoHomeTool` and `tourProgram` set, the programs of
+# demo/.
 
-tourProgram=$PWD/build/release/demo/tour
 
 # makeDemoHome: writes a home into a temporary folder of its own, `demoFolder`.
 makeDemoHome() {
   demoFolder=$(mktemp -d "${TMPDIR:-/tmp}/quillmere-demo.XXXXXX") || return 1
-  build/release/demo/demo_home "$demoFolder" || return 1
+  "$demoHomeTool" "$demoFolder" || return 1
   # The display's access file has its usual place in the real home.
   if [ -n "${DISPLAY-}" ] && [ -z "${XAUTHORITY-}" ] && [ -r "${HOME-}/.Xauthority" ]; then
     export XAUTHORITY=$HOME/.Xauthority

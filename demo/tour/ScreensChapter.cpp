@@ -135,8 +135,7 @@ void tellScan(Stage& stage) {
   InstalledPackagesViewModel& installed = *stage.content().installed();
   const LocalInventoryInputs real = installed.inputs();
   for (const auto* const scene : {"scanning", "failed", "empty"}) {
-    LocalInventoryInputs inputs = demoInventory(QLatin1StringView(scene), stage.prefix());
-    installed.setInputs(inputs);
+    installed.setInputs(demoInventory(QLatin1StringView(scene), stage.prefix()));
     stage.picture(u"installed-"_s + QLatin1StringView(scene));
   }
   installed.setInputs(real);

@@ -17,9 +17,9 @@ using namespace Qt::StringLiterals;
 
 struct Chapter {
   QLatin1StringView name;
-  void (*tell)(demo::Album& album);
+  void (*tell)(demo::Album& album) = nullptr;
   /// The number of its first picture, so that a chapter that grows renames no other's.
-  int place;
+  int place = 0;
 };
 
 constexpr std::array chapters = {

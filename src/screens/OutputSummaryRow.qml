@@ -32,6 +32,8 @@ RowLayout {
         CaptionText {
             Layout.fillWidth: true
             elide: Text.ElideRight
+            // Several lines are Homebrew's own table.
+            font.family: text.includes("\n") ? Theme.monospacedFamily : Theme.family
             maximumLineCount: 10
             text: root.detail
             visible: text.length > 0

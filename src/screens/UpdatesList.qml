@@ -102,9 +102,11 @@ FocusScope {
             }
         }
 
+        // Room that a short list leaves; none of it where the list is long.
         Item {
             Layout.fillHeight: true
             Layout.preferredHeight: 0
+            Layout.topMargin: -Theme.normal
         }
     }
 }

@@ -272,6 +272,7 @@ class SlowRun {
   }
 
   ~SlowRun() { terminate(); }
+  Q_DISABLE_COPY_MOVE(SlowRun)
 
   BrewRun terminate() {
     if (process_.state() != QProcess::NotRunning) {
@@ -304,7 +305,7 @@ TEST_F(DemoBrew, EndsAtOnceWhenItIsCancelledAndLeavesNeitherAProcessNorHalfAKeg)
 
 TEST_F(DemoBrew, RefusesAFormulaThatAnotherRunIsAtWorkOn) {
   setPace(100);
-  SlowRun slow(inPrefix(u"bin/brew"_s), {u"install"_s, u"wget"_s});
+  const SlowRun slow(inPrefix(u"bin/brew"_s), {u"install"_s, u"wget"_s});
   const BrewRun second = brew(builder_.install(formula(u"wget"_s)).value());
   EXPECT_EQ(second.exitCode, 1);
   EXPECT_EQ(second.standardError.split('\n').constFirst(),
