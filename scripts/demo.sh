@@ -31,6 +31,7 @@ explainDemo() {
   echo "This is Quillmere Direct in a made-up home, with a made-up Homebrew that answers and changes" \
     "only itself. Nothing outside is touched."
   echo "Its Homebrew prefix, for when the window asks for a folder: $demoFolder/homebrew"
+  echo "Its catalog waits in Browse under Load Cached; Fetch would download the real one."
   echo "The folder $demoFolder is removed when the window is closed."
 }
 

@@ -50,10 +50,10 @@ void Album::take(QQuickWindow& window, const QString& name, bool dark) const {
   const QString file = nextName(name) + (dark ? u"-dark.png"_s : u"-light.png"_s);
   const QImage image = window.grabWindow();
   if (isBlank(image)) {
-    qFatal("The picture %s cannot be taken: the window shows nothing", qUtf8Printable(file));
+    throw TourError(u"The picture %1 cannot be taken: the window shows nothing"_s.arg(file));
   }
   if (!image.save(folder_.filePath(file))) {
-    qFatal("The picture %s cannot be written", qUtf8Printable(folder_.filePath(file)));
+    throw TourError(u"The picture %1 cannot be written"_s.arg(folder_.filePath(file)));
   }
 }
 

@@ -16,6 +16,9 @@ constexpr QSize usualSize(1200, 800);
 void tellFirstStart(Stage& stage) {
   PrefixSelectionWorkflow& selection = *stage.content().prefixSelection();
   stage.picture(u"first-start"_s);
+  selection.begin();
+  stage.picture(u"first-start-folder-chooser"_s);
+  stage.press(Qt::Key_Escape);
   selection.choose(QUrl::fromLocalFile(stage.home().folder));
   stage.waitFor(u"first-start-no-prefix"_s, [&] { return selection.isRefused(); });
   stage.picture(u"first-start-no-prefix"_s);
@@ -35,7 +38,7 @@ void tellWithoutPrefix(Stage& stage) {
   stage.picture(u"history-empty"_s);
 }
 
-/// The states of a download, which needs a network and a server.
+/// A download, which needs a network, and how it fails without one.
 void tellDownload(Stage& stage) {
   FormulaCatalogViewModel& browse = *stage.content().browse();
   const CatalogInputs real = browse.inputs();
@@ -47,11 +50,13 @@ void tellDownload(Stage& stage) {
   inputs.expectedBytes = 31'200'000;
   browse.setInputs(inputs);
   stage.picture(u"browse-fetching-bytes"_s);
-  inputs.state.value = PackageCatalogState::Failed{
-      u"Homebrew package metadata could not be fetched: The network is not reachable."_s};
-  browse.setInputs(inputs);
-  stage.picture(u"browse-failed"_s);
   browse.setInputs(real);
+  stage.putCatalogAside(true);
+  browse.fetchAll();
+  stage.waitFor(u"browse-failed"_s,
+                [&] { return browse.state() == FormulaCatalogViewModel::Failed; });
+  stage.picture(u"browse-failed"_s);
+  stage.putCatalogAside(false);
 }
 
 void search(Stage& stage, const QString& text, const QString& picture) {

@@ -17,10 +17,15 @@ using namespace Qt::StringLiterals;
 
 constexpr int patienceMilliseconds = 60'000;
 
+/// A port of this machine at which nobody answers.
+QUrl nowhere() {
+  return QUrl(u"https://127.0.0.1:1/catalog.json"_s);
+}
+
 void writeFile(const QString& path, const QByteArray& content) {
   QFile file(path);
   if (!file.open(QFile::WriteOnly) || file.write(content) != content.size()) {
-    qFatal("Cannot write %s", qUtf8Printable(path));
+    throw TourError(u"Cannot write "_s + path);
   }
 }
 
@@ -62,8 +67,10 @@ QQuickItem* longestPage(QQuickItem* from) {
 Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
   home_.folder = folder_.path();
   if (const auto written = home_.write(visitor); !written) {
-    qFatal("%s", qUtf8Printable(written.error()));
+    throw TourError(written.error());
   }
+  // Where the folder chooser begins.
+  qputenv("HOME", QFile::encodeName(home_.folder));
   disk_->released.release();
   const auto settings = [this] {
     return std::make_unique<QSettings>(home_.settingsFile(), QSettings::NativeFormat);
@@ -72,13 +79,15 @@ Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
   memory_ = std::make_unique<WindowMemory>(settings());
   content_ = std::make_unique<ContentViewModel>(
       *store_, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
-      CatalogWorkflows::Clients(), BrewExecutableResolver(disk_));
+      CatalogWorkflows::Clients{.formulae = {.apiURL = nowhere(), .session = &session_},
+                                .casks = {.apiURL = nowhere(), .session = &session_}},
+      BrewExecutableResolver(disk_));
   engine_.addImportPath(u"qrc:/qt/qml"_s);
   engine_.setInitialProperties({{u"content"_s, QVariant::fromValue(content_.get())},
                                 {u"memory"_s, QVariant::fromValue(memory_.get())}});
   engine_.load(QUrl(u"qrc:/qt/qml/Quillmere/App/MainWindow.qml"_s));
   if (engine_.rootObjects().isEmpty()) {
-    qFatal("The window does not open");
+    throw TourError(u"The window does not open"_s);
   }
   window()->resize(size);
 }
@@ -105,6 +114,14 @@ void Stage::addFile(const QString& relativePath) const {
   writeFile(home_.prefix() + u'/' + relativePath, QByteArray());
 }
 
+void Stage::putCatalogAside(bool aside) const {
+  const QString usual = QDir::cleanPath(home_.catalogFolder());
+  const QString away = usual + u".aside"_s;
+  if (!QDir().rename(aside ? usual : away, aside ? away : usual)) {
+    throw TourError(u"The catalog cannot be moved: "_s + usual);
+  }
+}
+
 void Stage::picture(const QString& name) {
   album_.take(*window(), name);
 }
@@ -115,8 +132,8 @@ void Stage::picture(QQuickWindow& window, const QString& name) {
 
 void Stage::waitFor(const QString& nextPicture, const std::function<bool()>& isSo) const {
   if (!QTest::qWaitFor(isSo, patienceMilliseconds)) {
-    qFatal("The picture %s cannot be taken: what it shows does not come",
-           qUtf8Printable(album_.nextName(nextPicture)));
+    throw TourError(u"The picture %1 cannot be taken: what it shows does not come"_s.arg(
+        album_.nextName(nextPicture)));
   }
 }
 
@@ -133,14 +150,14 @@ void Stage::press(Qt::Key key, Qt::KeyboardModifiers modifiers) const {
 void Stage::focusOn(const QString& buttonText) const {
   activate();
   if (!focusButton(buttonText, window()->contentItem())) {
-    qFatal("There is no button %s", qUtf8Printable(buttonText));
+    throw TourError(u"There is no button "_s + buttonText);
   }
 }
 
 void Stage::scrollToEnd() const {
   QQuickItem* const page = longestPage(window()->contentItem());
   if (page == nullptr) {
-    qFatal("There is nothing to scroll");
+    throw TourError(u"There is nothing to scroll"_s);
   }
   const qreal begin = page->property("originY").toReal();
   const qreal hidden = page->property("contentHeight").toReal() - page->height();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QTemporaryDir>
+#include <QtNetwork/QNetworkAccessManager>
 #include <QtQml/QQmlApplicationEngine>
 
 #include <functional>
@@ -15,7 +16,7 @@
 
 namespace quillmere::demo {
 
-/// The real window over a demo home of its own, and the hands that use it.
+/// The real window over a demo home of its own, without a network, and the hands that use it.
 class Stage {
  public:
   Stage(Album& album, Visitor visitor, QSize size);
@@ -43,6 +44,9 @@ class Stage {
 
   void picture(const QString& name);
   void picture(QQuickWindow& window, const QString& name);
+
+  /// Takes the catalog's cached documents away, or puts them back.
+  void putCatalogAside(bool aside) const;
 
   /// Waits until something is so. Where it never is, the tour ends and says before which picture.
   void waitFor(const QString& nextPicture, const std::function<bool()>& isSo) const;
@@ -77,9 +81,10 @@ class Stage {
   void activate() const;
 
   Album& album_;
-  QTemporaryDir folder_;
+  QTemporaryDir folder_{QDir::tempPath() + QStringLiteral("/demo-XXXXXX")};
   DemoHome home_;
   std::shared_ptr<test::HeldFileSystem> disk_ = std::make_shared<test::HeldFileSystem>();
+  QNetworkAccessManager session_;
   std::unique_ptr<LocalPersistenceStore> store_;
   std::unique_ptr<WindowMemory> memory_;
   std::unique_ptr<ContentViewModel> content_;

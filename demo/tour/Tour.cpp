@@ -49,10 +49,15 @@ int main(int argc, char** argv) {
     QTextStream(stderr) << "tour: the folder " << folder.path() << " cannot be made\n";
     return EXIT_FAILURE;
   }
-  for (const QString& name : names) {
-    const Chapter& chapter = *chapterOf(name);
-    demo::Album album(folder, chapter.place);
-    chapter.tell(album);
+  try {
+    for (const QString& name : names) {
+      const Chapter& chapter = *chapterOf(name);
+      demo::Album album(folder, chapter.place);
+      chapter.tell(album);
+    }
+  } catch (const demo::TourError& error) {
+    QTextStream(stderr) << error.what() << '\n';
+    return EXIT_FAILURE;
   }
   return EXIT_SUCCESS;
 }

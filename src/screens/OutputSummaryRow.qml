@@ -11,6 +11,9 @@ RowLayout {
     required property string symbolName
     required property string tint
 
+    // Homebrew's own columns.
+    readonly property bool isTable: detail.includes("\n")
+
     spacing: Theme.small
 
     Symbol {
@@ -32,8 +35,7 @@ RowLayout {
         CaptionText {
             Layout.fillWidth: true
             elide: Text.ElideRight
-            // Several lines are Homebrew's own table.
-            font.family: text.includes("\n") ? Theme.monospacedFamily : Theme.family
+            font.family: root.isTable ? Theme.monospacedFamily : Theme.family
             maximumLineCount: 10
             text: root.detail
             visible: text.length > 0

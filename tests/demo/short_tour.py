@@ -8,7 +8,8 @@ import subprocess
 import sys
 import tempfile
 
-STOPS = ("first-start", "first-start-no-prefix", "dashboard-catalog-only", "browse", "formula")
+STOPS = ("first-start", "first-start-folder-chooser", "first-start-no-prefix",
+         "dashboard-catalog-only", "browse", "formula")
 SIZE = (1200, 800)
 
 
