@@ -16,7 +16,8 @@ FocusScope {
         x: (parent.width - width) / 2
         y: Theme.large
         width: Math.min(parent.width - 2 * Theme.large, Theme.textWidth)
-        height: parent.height - 2 * Theme.large
+        // The room below the list is one item more, which a long list needs no distance from.
+        height: parent.height - 2 * Theme.large + spacing
         spacing: Theme.normal
 
         ScreenHeader {
@@ -102,11 +103,10 @@ FocusScope {
             }
         }
 
-        // Room that a short list leaves; none of it where the list is long.
+        // Room that a short list leaves.
         Item {
             Layout.fillHeight: true
             Layout.preferredHeight: 0
-            Layout.topMargin: -Theme.normal
         }
     }
 }
