@@ -30,6 +30,8 @@ Card {
         clip: true
         focus: true
         interactive: wheel.touched
+        // Also under the pointer, where nothing may be dragged.
+        keyNavigationEnabled: true
         model: root.viewModel.records
 
         Accessible.role: Accessible.List

@@ -22,6 +22,8 @@ ListView {
     clip: true
     highlightMoveDuration: 0
     interactive: wheel.touched
+    // Also under the pointer, where nothing may be dragged.
+    keyNavigationEnabled: true
     reuseItems: true
 
     Accessible.role: Accessible.List

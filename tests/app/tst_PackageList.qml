@@ -33,6 +33,19 @@ PackageCase {
         compare(list().currentIndex, 0);
     }
 
+    function test_theKeysMoveUnderThePointerToo() {
+        beginBrowse();
+        stage.showCatalogOf(500);
+        tryVerify(() => list() !== null && list().count === 250);
+        mouseMove(list(), 50, 50);
+        tryVerify(() => !list().interactive);
+        list().forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Down);
+        compare(list().currentIndex, 1);
+        keyClick(Qt.Key_Up);
+        compare(list().currentIndex, 0);
+    }
+
     function test_searchAndPlaceSurviveADetail() {
         beginBrowse();
         stage.showCatalogOf(500);
