@@ -68,10 +68,12 @@ PackageCase {
     function test_whatIsCachedIsOffered() {
         beginBrowse();
         verify(!button("Load Cached All").enabled);
+        compare(button("Load Cached All").Accessible.description, "Not available now.");
         verify(!button("Load Cached Formulae").enabled);
         verify(!button("Load Cached Casks").enabled);
         stage.cacheFormulae();
         tryVerify(() => button("Load Cached Formulae").enabled);
+        compare(button("Load Cached Formulae").Accessible.description, "");
         verify(!button("Load Cached All").enabled);
         press("Load Cached Formulae");
         tryVerify(() => list() !== null && list().count === 8);

@@ -23,7 +23,8 @@ T.Button {
 
     Accessible.role: Accessible.Button
     Accessible.name: accessibleName
-    Accessible.description: help
+    // Qt does not tell assistive technology that a button is off.
+    Accessible.description: enabled ? help : "Not available now."
     Accessible.onPressAction: root.press(false)
 
     // A key that is held down presses once.

@@ -68,6 +68,8 @@ FocusScope {
         hoverEnabled: true
         leftPadding: Theme.small + Theme.symbolSize + Theme.small
         opacity: enabled ? 1 : Theme.disabledOpacity
+        // Shown by nobody, but Qt takes it for the description when assistive technology comes.
+        placeholderText: root.fieldHelp
         rightPadding: Theme.small
         selectByMouse: true
         selectedTextColor: Theme.selectionText
