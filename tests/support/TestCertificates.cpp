@@ -73,6 +73,7 @@ Certificates make() {
   const Workshop workshop;
   const auto here = QStringLiteral("IP:127.0.0.1,DNS:localhost");
   const auto elsewhere = QStringLiteral("DNS:elsewhere.example");
+  const auto catalog = QStringLiteral("DNS:formulae.brew.sh");
   return {
       .authority = workshop.read(QStringLiteral("authority.pem")),
       .servers = {
@@ -81,6 +82,8 @@ Certificates make() {
            workshop.certificate(QStringLiteral("selfsigned"), here, false)},
           {ServerIdentity::otherHost,
            workshop.certificate(QStringLiteral("other"), elsewhere, true)},
+          {ServerIdentity::catalogHost,
+           workshop.certificate(QStringLiteral("catalog"), catalog, true)},
       }};
 }
 

@@ -12,6 +12,9 @@ enum class ServerIdentity {
   selfSigned,
   /// Signed by the trusted authority for a machine of another name.
   otherHost,
+  /// Signed by the trusted authority for the host of the public catalog, for a client that reaches
+  /// it through a proxy of ours.
+  catalogHost,
 };
 
 /// Makes this process trust the tests' own authority beside the system's: from then on a client
