@@ -2,10 +2,9 @@
 
 import os
 import subprocess
-import sys
 
 import desktop
-from desktop import Failed, Window, expect, wait_for
+from desktop import Window, expect, wait_for
 
 # Starts a tool in a process group of its own, as brew does for its downloads.
 ENDLESS_BREW = """#!/bin/bash
@@ -54,7 +53,4 @@ def tell(program, demo_prefix):
 
 
 if __name__ == "__main__":
-    try:
-        tell(*sys.argv[1:])
-    except Failed as failure:
-        sys.exit(f"cancelled_run: {failure}")
+    desktop.tell(tell)

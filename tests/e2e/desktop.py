@@ -6,12 +6,16 @@ A story imports this module and asks for what it needs by accessible role and na
 """
 
 import os
+import re
 import subprocess
 import sys
 import tempfile
+import threading
 import time
 
 PATIENCE = 30.0
+# What Qt says when one of our files or calls is wrong; nobody sees it but who looks for it.
+COMPLAINT = re.compile(r"qrc:/|TypeError|ReferenceError|Binding loop|QML |QObject::|QQuick|Could not")
 
 
 class Failed(AssertionError):
@@ -34,28 +38,53 @@ def wait_for(what, question):
     raise Failed(f"waited {PATIENCE:.0f} s in vain for {what}")
 
 
+class Listener:
+    """Passes on what a program prints to its standard error, and keeps it."""
+
+    def __init__(self, pipe):
+        self._lines = []
+        self._thread = threading.Thread(target=self._listen, args=[pipe], daemon=True)
+        self._thread.start()
+
+    def _listen(self, pipe):
+        for line in pipe:
+            self._lines.append(line.rstrip("\n"))
+            sys.stderr.write(line)
+
+    def lines(self):
+        """All that was printed, when the program has ended."""
+        self._thread.join(PATIENCE)
+        return self._lines
+
+
 class Window:
     """One start of the program, with a home of its own."""
 
-    def __init__(self, program, home, wrapper=()):
+    def __init__(self, program, home, wrapper=(), variables=None):
         import pyatspi
 
         self._atspi = pyatspi
         environment = dict(
             os.environ,
             HOME=home,
+            XDG_CACHE_HOME=f"{home}/.cache",
             XDG_CONFIG_HOME=f"{home}/.config",
             XDG_DATA_HOME=f"{home}/.local/share",
             XDG_RUNTIME_DIR=home,
             QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1",
             QT_QPA_PLATFORM="xcb",
-            QT_QUICK_BACKEND="software",
+            **{"QT_QUICK_BACKEND": "software", **(variables or {})},
         )
         if wrapper:  # A traced sanitizer sees no leaks, and the symbolizer that it runs is traced too.
             for name, option in (("ASAN_OPTIONS", "detect_leaks=0"),
                                  ("TSAN_OPTIONS", "report_bugs=0")):
                 environment[name] = f"{environment.get(name, '')}:{option}"
-        self.process = subprocess.Popen([*wrapper, program], env=environment)
+        self.started = time.monotonic()
+        self.process = subprocess.Popen(
+            [*wrapper, program], env=environment, stdin=subprocess.PIPE, stderr=subprocess.PIPE,
+            text=True,
+        )
+        self._complaints = Listener(self.process.stderr)
         wait_for("the window", lambda: self.find("frame", "Quillmere"))
         # There is no window manager to hand out the keyboard.
         subprocess.run(
@@ -71,8 +100,8 @@ class Window:
                 return application
         return None
 
-    def everything(self):
-        """All that is showing, in reading order."""
+    def everything(self, inside=None):
+        """All that is showing, in reading order; only what is `inside` a node if there is one."""
 
         def visit(node):
             if node is None:
@@ -86,20 +115,20 @@ class Window:
             for child in node:
                 yield from visit(child)
 
-        application = self._application()
-        return visit(application) if application else iter(())
+        root = inside or self._application()
+        return visit(root) if root else iter(())
 
-    def find_all(self, role, name=None, contains=None):
+    def find_all(self, role, name=None, contains=None, inside=None):
         return [
             node
-            for node in self.everything()
+            for node in self.everything(inside)
             if node.getRoleName() == role
             and (name is None or node.name == name)
             and (contains is None or contains in node.name)
         ]
 
-    def find(self, role, name=None, contains=None):
-        found = self.find_all(role, name, contains)
+    def find(self, role, name=None, contains=None, inside=None):
+        found = self.find_all(role, name, contains, inside)
         return found[0] if found else None
 
     def is_selected(self, role, name):
@@ -116,9 +145,9 @@ class Window:
     def has_focus(self, role, name):
         wait_for(f"the focus on {role} {name!r}", lambda: (role, name) in self.focused())
 
-    def get(self, role, name=None, contains=None):
+    def get(self, role, name=None, contains=None, inside=None):
         return wait_for(
-            f"{role} {name or contains!r}", lambda: self.find(role, name, contains)
+            f"{role} {name or contains!r}", lambda: self.find(role, name, contains, inside)
         )
 
     def gone(self, role, name=None, contains=None):
@@ -126,9 +155,17 @@ class Window:
             f"{role} {name or contains!r} to go", lambda: not self.find(role, name, contains)
         )
 
-    def press(self, role, name):
+    def is_on(self, button):
+        """Whether assistive technology takes the button for one that can be pressed."""
+        return self.get("push button", button).description != "Not available now."
+
+    def says(self, announcement):
+        """What assistive technology is told without being asked."""
+        self.get("notification", announcement)
+
+    def press(self, role, name, inside=None):
         """Uses what a screen reader would use: the press action of the control of this name."""
-        node = self.get(role, name)
+        node = self.get(role, name, inside=inside)
         actions = node.queryAction()
         names = [actions.getName(i) for i in range(actions.nActions)]
         if "Press" not in names:
@@ -154,6 +191,24 @@ class Window:
     def type(self, text):
         subprocess.run(["xdotool", "type", "--delay", "5", text], check=True)
 
+    def tab_to(self, role, name=None, contains=None):
+        """Tabs on until the control has the keyboard, at most once around."""
+        self._move_to("Tab", 25, role, name, contains)
+
+    def move_down_to(self, role, name):
+        """The same with the key that leads down a list."""
+        self._move_to("Down", 250, role, name, None)
+
+    def _move_to(self, key, times, role, name, contains):
+        for _ in range(times):
+            before = self.focused()
+            if any(one[0] == role and (one[1] == name or contains and contains in one[1])
+                   for one in before):
+                return
+            self.key(key)
+            wait_for(f"{key} to lead on from {before}", lambda: self.focused() != before)
+        raise Failed(f"{key} does not lead to {role} {name or contains!r}")
+
     def clipboard(self):
         """What was copied last; empty while nobody has copied anything."""
         return subprocess.run(
@@ -163,6 +218,22 @@ class Window:
 
     def picture(self, file):
         subprocess.run(["import", "-window", "root", file], check=True)
+
+    def reads(self, *landmarks):
+        """Holds the order in which a screen reader meets what is showing: the landmarks, each a
+        role and a name, and nothing that lies above and not beside what was read before it."""
+        nodes = list(self.everything())
+        met = iter((node.getRoleName(), node.name) for node in nodes)
+        for landmark in landmarks:
+            expect(landmark in met, f"{landmark} is not read, or too early, in\n{self.tree()}")
+        before = None
+        for node in nodes:
+            if node.getRoleName() not in ("heading", "label", "push button", "list item", "text"):
+                continue
+            box = node.queryComponent().getExtents(self._atspi.DESKTOP_COORDS)
+            if before and box.y + box.height <= before[0].y and box.x < before[0].x + before[0].width:
+                raise Failed(f"{node.name!r} lies above {before[1]!r} and is read after it")
+            before = (box, node.name)
 
     def tree(self):
         """The tree as text, for people who look into a failure."""
@@ -176,6 +247,8 @@ class Window:
         # A sanitizer that found something says so here, like any crash on the way out.
         status = self.process.wait(PATIENCE)
         expect(status == 0, f"the program ended with {status}")
+        complaints = [line for line in self._complaints.lines() if COMPLAINT.search(line)]
+        expect(not complaints, f"the program complained: {complaints}")
 
 
 def _run_on_a_desktop(story):
@@ -217,6 +290,15 @@ def remember_prefix(home, prefix):
     with open(f"{home}/.config/Quillmere/Quillmere.conf", "w", encoding="utf-8") as settings:
         settings.write("[General]\nhasCompletedOnboarding=true\n"
                        f"selectedHomebrewPrefixPath={prefix}\n")
+
+
+def tell(story):
+    """Runs a story with the arguments of its program; says in which one a step failed."""
+    try:
+        story(*sys.argv[1:])
+    except Failed as failure:
+        name = os.path.basename(sys.argv[0]).removesuffix(".py")
+        sys.exit(f"{name}: {failure}")
 
 
 def temporary_home():

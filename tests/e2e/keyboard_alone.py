@@ -2,23 +2,11 @@
 
 import os
 import subprocess
-import sys
 
 import desktop
-from desktop import Failed, Window, wait_for
+from desktop import Window, wait_for
 
 PREVIEW = ("push button", "Preview services list command")
-
-
-def tab_to(window, role, name):
-    """Tabs on until the control has the keyboard, at most once around."""
-    for _ in range(20):
-        if (role, name) in window.focused():
-            return
-        before = window.focused()
-        window.key("Tab")
-        wait_for("the focus to move", lambda: window.focused() != before)
-    raise Failed(f"Tab does not lead to {role} {name!r}")
 
 
 def sections_answer_to_arrows_and_shortcuts(window):
@@ -35,11 +23,11 @@ def sections_answer_to_arrows_and_shortcuts(window):
 
 def the_sheet_keeps_the_keyboard_and_gives_it_back(window):
     window.key("ctrl+6")
-    tab_to(window, *PREVIEW)
+    window.tab_to(*PREVIEW)
     window.key("Return")
     window.has_focus("push button", "Copy Command")
     for control in ("Run Command", "Cancel", "Copy Command"):
-        tab_to(window, "push button", control)
+        window.tab_to("push button", control)
     window.key("Escape")
     window.gone("dialog", "Command Preview")
     window.has_focus(*PREVIEW)
@@ -53,13 +41,13 @@ def return_copies(window):
 
 
 def space_runs(window):
-    tab_to(window, "push button", "Run Command")
+    window.tab_to("push button", "Run Command")
     window.key("space")
     window.get("label", "Completed with exit code 0")
-    tab_to(window, "push button", "Show command-line output")
+    window.tab_to("push button", "Show command-line output")
     window.key("space")
     window.get("list item", contains="postgresql@17 started")
-    tab_to(window, "push button", "Close")
+    window.tab_to("push button", "Close")
     window.key("Return")
     window.gone("dialog", "Command Preview")
     window.has_focus(*PREVIEW)
@@ -79,7 +67,4 @@ def tell(program, demo_prefix):
 
 
 if __name__ == "__main__":
-    try:
-        tell(*sys.argv[1:])
-    except Failed as failure:
-        sys.exit(f"keyboard_alone: {failure}")
+    desktop.tell(tell)

@@ -2,10 +2,9 @@
 
 import os
 import subprocess
-import sys
 
 import desktop
-from desktop import Failed, Window, expect, wait_for
+from desktop import Window, expect, wait_for
 
 SERVICES_LIST = "brew services list"
 LOCATIONS = [
@@ -141,7 +140,4 @@ def tell(program, demo_prefix):
 
 
 if __name__ == "__main__":
-    try:
-        tell(*sys.argv[1:])
-    except Failed as failure:
-        sys.exit(f"road_of_a_command: {failure}")
+    desktop.tell(tell)

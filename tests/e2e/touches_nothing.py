@@ -114,7 +114,4 @@ def tell(program, demo_prefix):
 
 
 if __name__ == "__main__":
-    try:
-        tell(*sys.argv[1:])
-    except Failed as failure:
-        sys.exit(f"touches_nothing: {failure}")
+    desktop.tell(tell)

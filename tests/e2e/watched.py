@@ -1,0 +1,58 @@
+"""The window under a watch that notes how long it lets its user wait, step by step of a story.
+
+Where the environment variable QUILLMERE_STORY_REPORTS names a folder, each start leaves its report
+there; responsiveness.py makes a table of them. No story fails for what its watch says."""
+
+import json
+import os
+import sys
+
+from desktop import Window
+
+WORST_SHOWN = 3
+
+
+class WatchedWindow(Window):
+    """One start of the program with its watch."""
+
+    def __init__(self, program, home, variables=None):
+        self._report = f"{home}/report.json"
+        super().__init__(program, home,
+                         variables={"QUILLMERE_STORY_REPORT": self._report, **(variables or {})})
+
+    def step(self, what, *arguments):
+        """Carries out one step of the story, whose name is that of the function."""
+        name = what.__name__.replace("_", " ")
+        print(name, flush=True)
+        self.process.stdin.write(f"{name}\n")
+        self.process.stdin.flush()
+        what(self, *arguments)
+
+    def quit(self):
+        super().quit()
+        with open(self._report, encoding="utf-8") as file:
+            report = json.load(file)
+        report["startMs"] = report["firstFrameAt"] - self.started * 1000
+        print(summary(report))
+        reports = os.environ.get("QUILLMERE_STORY_REPORTS")
+        if reports:
+            name = os.path.basename(sys.argv[0]).removesuffix(".py")
+            with open(f"{reports}/{name}-{os.getpid()}-{self.process.pid}.json", "w",
+                      encoding="utf-8") as file:
+                json.dump({"story": name, **report}, file)
+
+
+def place(gap):
+    """What the UI thread did in a gap, the longest first."""
+    works = [f"{work['what']}{' > ' + work['within'] if work['within'] else ''} {work['ms']:.0f}"
+             for work in gap["works"]]
+    return "; ".join(works) or "many small ones, or none of its own"
+
+
+def summary(report):
+    lines = [f"first frame after {report['startMs']:.0f} ms; {report['asked']} times asked, longest "
+             f"wait {report['longestMs']:.1f} ms, {report['overAFrame']} over a frame"]
+    for gap in report["worst"][:WORST_SHOWN]:
+        lines.append(f"  {gap['ms']:.0f} ms ({gap['computedMs']:.0f} computing) "
+                     f"in {gap['step']!r}: {place(gap)}")
+    return "\n".join(lines)
