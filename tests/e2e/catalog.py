@@ -3,14 +3,17 @@
 import json
 import lzma
 import os
+import shutil
 import subprocess
 import threading
 
-import desktop
-
 FORMULAE = "formula.json"
 CASKS = "cask.json"
-NO_REAL_DATA = "there is no real catalog at hand"
+
+
+def cache_of(home):
+    """Where the program keeps the documents."""
+    return f"{home}/.local/share/Quillmere/CatalogCache"
 
 
 class Catalog:
@@ -36,6 +39,13 @@ class Catalog:
     @property
     def count(self):
         return len(self.formulae) + len(self.casks)
+
+    def remember(self, home):
+        """Leaves the documents where an earlier start of the program would have kept them."""
+        kept = cache_of(home)
+        os.makedirs(kept)
+        for name in (FORMULAE, CASKS):
+            shutil.copy(f"{self.folder}/{name}", kept)
 
     def a_formula(self):
         """One that people look for: it has a few dependencies, and others depend on it."""

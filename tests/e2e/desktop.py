@@ -86,9 +86,12 @@ class Window:
         )
         self._complaints = Listener(self.process.stderr)
         wait_for("the window", lambda: self.find("frame", "Quillmere"))
-        # There is no window manager to hand out the keyboard.
+        self.give_keyboard_to("Quillmere")
+
+    def give_keyboard_to(self, title):
+        """There is no window manager to hand it out."""
         subprocess.run(
-            ["xdotool", "search", "--sync", "--onlyvisible", "--name", "^Quillmere$",
+            ["xdotool", "search", "--sync", "--onlyvisible", "--name", f"^{title}$",
              "windowfocus", "--sync"],
             check=True, stdout=subprocess.DEVNULL,
         )
@@ -150,9 +153,10 @@ class Window:
             f"{role} {name or contains!r}", lambda: self.find(role, name, contains, inside)
         )
 
-    def gone(self, role, name=None, contains=None):
+    def gone(self, role, name=None, contains=None, inside=None):
         wait_for(
-            f"{role} {name or contains!r} to go", lambda: not self.find(role, name, contains)
+            f"{role} {name or contains!r} to go",
+            lambda: not self.find(role, name, contains, inside),
         )
 
     def is_on(self, button):
@@ -299,6 +303,13 @@ def tell(story):
     except Failed as failure:
         name = os.path.basename(sys.argv[0]).removesuffix(".py")
         sys.exit(f"{name}: {failure}")
+
+
+def take_first_steps(window):
+    """As a user does who wants nothing but the catalog."""
+    window.get("dialog", "Welcome to Quillmere")
+    window.press("push button", "Continue Catalog-Only")
+    window.gone("dialog", "Welcome to Quillmere")
 
 
 def temporary_home():

@@ -100,12 +100,6 @@ def the_prefix_is_remembered(window, prefix):
     wait_for("the path", lambda: any(prefix in node.name for node in window.everything()))
 
 
-def the_first_steps_are_taken(window):
-    window.get("dialog", "Welcome to Quillmere")
-    window.press("push button", "Continue Catalog-Only")
-    window.gone("dialog", "Welcome to Quillmere")
-
-
 def the_prefix_is_forgotten_when_confirmed(window):
     window.press("push button", "Reset Selected Prefix")
     window.get("dialog", "Reset Homebrew Prefix?")
@@ -124,7 +118,7 @@ def tell(program, demo_prefix):
         subprocess.run([demo_prefix, prefix], check=True)
 
         window = Window(program, home)
-        the_first_steps_are_taken(window)
+        desktop.take_first_steps(window)
         without_a_prefix_nothing_runs(window)
         a_prefix_is_chosen_and_its_locations_shown(window, prefix)
         the_command_is_copied(window)
