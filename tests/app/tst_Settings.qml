@@ -92,6 +92,20 @@ WindowCase {
         tryCompare(button("Clear Command History"), "activeFocus", true);
     }
 
+    function test_theNextQuestionBeginsOnTheHarmlessButtonAgain() {
+        stage.setAges(1, 1);
+        stage.addToHistory();
+        open();
+        for (const asking of ["Clear Metadata Cache", "Clear Command History"]) {
+            button(asking).forceActiveFocus();
+            keyClick(Qt.Key_Space);
+            tryVerify(() => button("Cancel") !== null && button("Cancel").activeFocus);
+            keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Return);
+            hides("Cancel");
+        }
+    }
+
     function test_oneWindowShowsAtOnceWhatTheOtherDid() {
         stage.addToHistory();
         open();

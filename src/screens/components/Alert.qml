@@ -15,6 +15,8 @@ Sheet {
 
     sheetWidth: Theme.alertWidth
 
+    // Not where it was when another question was answered here.
+    onAboutToShow: (contentItem as AlertContent).begin()
     onRejected: cancelled()
     onAccepted: confirmed()
 

@@ -16,6 +16,10 @@ ColumnLayout {
 
     spacing: Theme.medium
 
+    function begin(): void {
+        cancelButton.focus = true;
+    }
+
     TitleText {
         Layout.fillWidth: true
         text: root.title
@@ -37,6 +41,8 @@ ColumnLayout {
         }
 
         PlainButton {
+            id: cancelButton
+
             focus: true
             text: root.cancelTitle
 

@@ -25,10 +25,6 @@ FocusScope {
             flickable.contentY, top + item.height + 3 * root.margin - flickable.height)));
     }
 
-    Announcement {
-        id: announcement
-    }
-
     Flickable {
         id: flickable
 
@@ -59,6 +55,11 @@ FocusScope {
         id: wheel
 
         flickable: flickable
+    }
+
+    // Last, so that what it says is not read before the screen.
+    Announcement {
+        id: announcement
     }
 
     Connections {

@@ -27,10 +27,6 @@ FocusScope {
         announcement.say(text);
     }
 
-    Announcement {
-        id: announcement
-    }
-
     ColumnLayout {
         id: column
 
@@ -116,5 +112,10 @@ FocusScope {
             Layout.fillWidth: true
             spacing: Theme.small
         }
+    }
+
+    // Last, so that what it says is not read before the sheet.
+    Announcement {
+        id: announcement
     }
 }
