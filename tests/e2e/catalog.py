@@ -3,7 +3,6 @@
 import json
 import lzma
 import os
-import shutil
 import subprocess
 import threading
 
@@ -16,10 +15,15 @@ def cache_of(home):
     return f"{home}/.local/share/Quillmere/CatalogCache"
 
 
+def records_in(file):
+    with open(file, encoding="utf-8") as document:
+        return json.load(document)
+
+
 class Catalog:
     """Both documents, as files in a folder: the real ones if they are at hand, else made-up ones."""
 
-    def __init__(self, tools, real_data, folder):
+    def __init__(self, make_up, real_data, folder):
         self.folder = folder
         os.makedirs(folder, exist_ok=True)
         packed = os.environ.get("QUILLMERE_REAL_DATA", real_data)
@@ -28,24 +32,30 @@ class Catalog:
                 with lzma.open(f"{packed}/{name}.xz") as source, open(f"{folder}/{name}", "wb") as copy:
                     copy.write(source.read())
         else:
-            subprocess.run([f"{tools}/made_up_catalog", folder, "2000"], check=True)
-        self.formulae = self._records(FORMULAE)
-        self.casks = self._records(CASKS)
-
-    def _records(self, name):
-        with open(f"{self.folder}/{name}", encoding="utf-8") as document:
-            return json.load(document)
+            subprocess.run([make_up, folder, "2000"], check=True)
+        self.formulae = records_in(f"{folder}/{FORMULAE}")
+        self.casks = records_in(f"{folder}/{CASKS}")
 
     @property
     def count(self):
         return len(self.formulae) + len(self.casks)
 
     def remember(self, home):
-        """Leaves the documents where an earlier start of the program would have kept them."""
+        """Leaves the documents where an earlier start of the program would have kept them. What
+        is there already stays, in front, and belongs to this catalog from now on."""
         kept = cache_of(home)
-        os.makedirs(kept)
-        for name in (FORMULAE, CASKS):
-            shutil.copy(f"{self.folder}/{name}", kept)
+        os.makedirs(kept, exist_ok=True)
+        self.formulae = self._joined(f"{kept}/{FORMULAE}", self.formulae, "name")
+        self.casks = self._joined(f"{kept}/{CASKS}", self.casks, "token")
+
+    @staticmethod
+    def _joined(file, records, key):
+        there = records_in(file) if os.path.exists(file) else []
+        known = {record[key] for record in there}
+        joined = there + [record for record in records if record[key] not in known]
+        with open(file, "w", encoding="utf-8") as document:
+            json.dump(joined, document, ensure_ascii=False)
+        return joined
 
     def a_formula(self):
         """One that people look for: it has a few dependencies, and others depend on it."""
@@ -56,9 +66,9 @@ class Catalog:
 class Server:
     """The host of the public catalog, behind a proxy of this machine."""
 
-    def __init__(self, tools, catalog, authority, piece=0, pause=1):
+    def __init__(self, program, catalog, authority, piece=0, pause=1):
         self._process = subprocess.Popen(
-            [f"{tools}/catalog_server", "--authority", authority, "--piece", str(piece),
+            [program, "--authority", authority, "--piece", str(piece),
              "--pause", str(pause),
              f"/api/{FORMULAE}={catalog.folder}/{FORMULAE}", f"/api/{CASKS}={catalog.folder}/{CASKS}"],
             stdout=subprocess.PIPE, text=True,

@@ -1,9 +1,8 @@
 """A new user goes on without a prefix, fetches the catalog, finds a package and copies a command."""
 
 import desktop
-from catalog import Catalog, Server
+import watched
 from desktop import expect, wait_for
-from watched import WatchedWindow
 
 SECTIONS = ("list", "Sections")
 
@@ -113,12 +112,12 @@ def the_history_has_it(window, formula):
                  ("list", "Command history"))
 
 
-def tell(tools, real_data):
+def tell(stage):
     with desktop.temporary_home() as home:
-        catalog = Catalog(tools, real_data, f"{home}/served")
+        catalog = stage.catalog(f"{home}/served")
         formula = catalog.a_formula()
-        with Server(tools, catalog, f"{home}/authority.pem", piece=400_000, pause=8) as server:
-            window = WatchedWindow(f"{tools}/quillmere_story", home, server.variables)
+        with stage.server(catalog, home, piece=400_000, pause=8) as server:
+            window = stage.open(home, server.variables)
             window.step(the_first_steps_are_taken)
             window.step(the_catalog_is_empty_until_it_is_asked_for, server)
             window.step(the_catalog_is_fetched, server, catalog)
@@ -133,4 +132,4 @@ def tell(tools, real_data):
 
 
 if __name__ == "__main__":
-    desktop.tell(tell)
+    watched.tell(tell)

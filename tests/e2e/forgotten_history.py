@@ -2,9 +2,8 @@
 once."""
 
 import desktop
-from catalog import Catalog
+import watched
 from desktop import expect, wait_for
-from watched import WatchedWindow
 
 PROMPT = ("text", "Search command history")
 SERVICES = "Command brew services list, operation servicesList, "
@@ -102,11 +101,11 @@ def the_settings_window_is_closed(window):
     window.give_keyboard_to("Quillmere")
 
 
-def tell(tools, real_data):
+def tell(stage):
     with desktop.temporary_home() as home:
-        catalog = Catalog(tools, real_data, f"{home}/served")
+        catalog = stage.catalog(f"{home}/served")
         catalog.remember(home)
-        window = WatchedWindow(f"{tools}/quillmere_story", home)
+        window = stage.open(home)
         window.step(desktop.take_first_steps)
         window.step(three_commands_are_copied, catalog)
         window.step(the_history_is_searched)
@@ -118,7 +117,7 @@ def tell(tools, real_data):
         window.step(the_settings_window_is_closed)
         window.quit()
 
-        window = WatchedWindow(f"{tools}/quillmere_story", home)
+        window = stage.open(home)
         window.key("ctrl+7")
         window.get("heading", "No Command History")
         expect(not window.find("list item", contains="Command brew "), "the history came back")
@@ -126,4 +125,4 @@ def tell(tools, real_data):
 
 
 if __name__ == "__main__":
-    desktop.tell(tell)
+    watched.tell(tell)

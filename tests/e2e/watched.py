@@ -5,11 +5,16 @@ there; responsiveness.py makes a table of them. No story fails for what its watc
 
 import json
 import os
+import subprocess
 import sys
 
+import desktop
+from catalog import Catalog, Server
 from desktop import Window
 
 WORST_SHOWN = 3
+# How long the demo's Homebrew takes for all that it does, in percent of what is usual.
+PACE = 20
 
 
 class WatchedWindow(Window):
@@ -40,6 +45,41 @@ class WatchedWindow(Window):
             with open(f"{reports}/{name}-{os.getpid()}-{self.process.pid}.json", "w",
                       encoding="utf-8") as file:
                 json.dump({"story": name, **report}, file)
+
+
+class Stage:
+    """What a story is told with: the programs of a build, and the real catalog if there is one."""
+
+    def __init__(self, build, real_data):
+        self._build = build
+        self._real_data = real_data
+
+    def catalog(self, folder):
+        return Catalog(f"{self._build}/tests/e2e/made_up_catalog", self._real_data, folder)
+
+    def server(self, catalog, folder, **manner):
+        return Server(f"{self._build}/tests/e2e/catalog_server", catalog, f"{folder}/authority.pem",
+                      **manner)
+
+    def open(self, home, variables=None):
+        return WatchedWindow(f"{self._build}/tests/e2e/quillmere_story", home, variables)
+
+    def furnish(self, home, catalog, used):
+        """A home with a Homebrew of its own, for somebody new or for somebody who has used the
+        program; what that Homebrew knows stands in the catalog before all else. Returns its
+        prefix."""
+        subprocess.run([f"{self._build}/demo/demo_home", *(["--used"] if used else []), home],
+                       check=True)
+        os.chmod(home, 0o700)
+        catalog.remember(home)
+        with open(f"{home}/homebrew/var/pace", "w", encoding="utf-8") as pace:
+            pace.write(f"{PACE}\n")
+        return f"{home}/homebrew"
+
+
+def tell(story):
+    """Runs a story with the stage that the arguments of its program describe."""
+    desktop.tell(lambda *arguments: story(Stage(*arguments)))
 
 
 def place(gap):
