@@ -1,5 +1,6 @@
 """The public catalog for stories: its documents, and a server that has them."""
 
+import collections
 import json
 import lzma
 import os
@@ -61,6 +62,14 @@ class Catalog:
         """One that people look for: it has a few dependencies, and others depend on it."""
         names = {record["name"]: record for record in self.formulae}
         return names.get("wget") or names["package-15"]
+
+
+    def the_most_needed(self):
+        """The formula that most others depend on."""
+        count = collections.Counter(name for record in self.formulae
+                                    for name in record["dependencies"])
+        names = {record["name"] for record in self.formulae}
+        return next(name for name, _ in count.most_common() if name in names)
 
 
 class Server:

@@ -199,9 +199,9 @@ class Window:
         """Tabs on until the control has the keyboard, at most once around."""
         self._move_to("Tab", 25, role, name, contains)
 
-    def move_down_to(self, role, name):
+    def move_down_to(self, role, name=None, contains=None):
         """The same with the key that leads down a list."""
-        self._move_to("Down", 250, role, name, None)
+        self._move_to("Down", 250, role, name, contains)
 
     def _move_to(self, key, times, role, name, contains):
         for _ in range(times):

@@ -1,0 +1,55 @@
+#!/usr/bin/env python3
+"""Tells every story with the programs of a build and prints how long the window let its user wait.
+
+    tests/e2e/responsiveness.py build/release [REGULAR EXPRESSION OF STORIES]
+
+For each start of the program: the time to its first frame, the longest wait, how many were longer
+than a frame, and the worst of those with the step of the story, the part of it that the UI thread
+computed, and what it did. The real catalog is told of where it is at hand."""
+
+import json
+import os
+import subprocess
+import sys
+import tempfile
+
+from watched import place
+
+SHOWN = 8
+
+
+def reports_of(build, stories):
+    with tempfile.TemporaryDirectory(prefix="quillmere-reports-") as folder:
+        told = subprocess.run(
+            ["ctest", "--test-dir", build, "--output-on-failure", "--no-tests=error",
+             "-R", f"^e2e/{stories}"],
+            env=dict(os.environ, QUILLMERE_STORY_REPORTS=folder), stdout=sys.stderr, check=False)
+        reports = []
+        for name in sorted(os.listdir(folder)):
+            with open(f"{folder}/{name}", encoding="utf-8") as file:
+                reports.append(json.load(file))
+        return reports, told.returncode
+
+
+def line(gap):
+    return (f"| {gap['story']}: {gap['step']} | {gap['ms']:.0f} ms | {gap['computedMs']:.0f} ms "
+            f"| {place(gap)} |")
+
+
+def main(build, stories=""):
+    reports, status = reports_of(build, stories)
+    print("| story | first frame | longest wait | over a frame | of |\n|---|---|---|---|---|")
+    for report in reports:
+        print(f"| {report['story']} | {report['startMs']:.0f} ms | {report['longestMs']:.1f} ms "
+              f"| {report['overAFrame']} | {report['asked']} |")
+    gaps = [{"story": report["story"], **gap} for report in reports for gap in report["worst"]]
+    gaps.sort(key=lambda gap: -gap["ms"])
+    print("\n| the worst | wait | computed | doing |\n|---|---|---|---|")
+    print("\n".join(line(gap) for gap in gaps[:SHOWN]))
+    return status
+
+
+if __name__ == "__main__":
+    if len(sys.argv) not in (2, 3):
+        sys.exit(__doc__)
+    sys.exit(main(*sys.argv[1:]))
