@@ -5,7 +5,8 @@
 
 For each start of the program: the time to its first frame, the longest wait, how many were longer
 than a frame, and the worst of those with the step of the story, the part of it that the UI thread
-computed, and what it did. The real catalog is told of where it is at hand."""
+computed, and what it did. The real catalog is there if it lies beside the checkout or in the
+folder that QUILLMERE_REAL_DATA names."""
 
 import json
 import os
@@ -15,7 +16,7 @@ import tempfile
 
 from watched import place
 
-SHOWN = 8
+SHOWN = 20
 
 
 def reports_of(build, stories):
@@ -38,6 +39,7 @@ def line(gap):
 
 def main(build, stories=""):
     reports, status = reports_of(build, stories)
+    print(f"told with a catalog of {max(report['packages'] for report in reports)} packages\n")
     print("| story | first frame | longest wait | over a frame | of |\n|---|---|---|---|---|")
     for report in reports:
         print(f"| {report['story']} | {report['startMs']:.0f} ms | {report['longestMs']:.1f} ms "

@@ -12,7 +12,7 @@ import desktop
 from catalog import Catalog, Server
 from desktop import Window
 
-WORST_SHOWN = 3
+WORST_SHOWN = 6
 # How long the demo's Homebrew takes for all that it does, in percent of what is usual.
 PACE = 20
 
@@ -20,8 +20,9 @@ PACE = 20
 class WatchedWindow(Window):
     """One start of the program with its watch."""
 
-    def __init__(self, program, home, variables=None):
+    def __init__(self, program, home, variables, packages):
         self._report = f"{home}/report.json"
+        self._packages = packages
         super().__init__(program, home,
                          variables={"QUILLMERE_STORY_REPORT": self._report, **(variables or {})})
 
@@ -44,7 +45,7 @@ class WatchedWindow(Window):
             name = os.path.basename(sys.argv[0]).removesuffix(".py")
             with open(f"{reports}/{name}-{os.getpid()}-{self.process.pid}.json", "w",
                       encoding="utf-8") as file:
-                json.dump({"story": name, **report}, file)
+                json.dump({"story": name, "packages": self._packages, **report}, file)
 
 
 class Stage:
@@ -53,16 +54,20 @@ class Stage:
     def __init__(self, build, real_data):
         self._build = build
         self._real_data = real_data
+        self._packages = 0
 
     def catalog(self, folder):
-        return Catalog(f"{self._build}/tests/e2e/made_up_catalog", self._real_data, folder)
+        catalog = Catalog(f"{self._build}/tests/e2e/made_up_catalog", self._real_data, folder)
+        self._packages = catalog.count
+        return catalog
 
     def server(self, catalog, folder, **manner):
         return Server(f"{self._build}/tests/e2e/catalog_server", catalog, f"{folder}/authority.pem",
                       **manner)
 
     def open(self, home, variables=None):
-        return WatchedWindow(f"{self._build}/tests/e2e/quillmere_story", home, variables)
+        return WatchedWindow(f"{self._build}/tests/e2e/quillmere_story", home, variables,
+                             self._packages)
 
     def furnish(self, home, catalog, used):
         """A home with a Homebrew of its own, for somebody new or for somebody who has used the
