@@ -51,6 +51,8 @@ ScreenPage {
         symbolName: root.viewModel.detailSymbolName
         text: root.viewModel.detailText
         title: root.viewModel.detailTitle
+        viewHeight: root.height
+        viewTop: root.viewTop - y
 
         onChosen: name => root.viewModel.formulaWanted(name)
     }
@@ -61,6 +63,8 @@ ScreenPage {
         symbolName: "arrow.triangle.branch"
         text: root.viewModel.reverseDependencyText
         title: "Reverse Dependencies"
+        viewHeight: root.height
+        viewTop: root.viewTop - y
 
         onChosen: name => root.viewModel.formulaWanted(name)
     }

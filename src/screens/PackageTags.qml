@@ -8,6 +8,9 @@ SectionBlock {
 
     required property string text
     required property list<string> names
+    // What is in view, in the coordinates of this block.
+    required property real viewTop
+    required property real viewHeight
 
     property bool leads: false
 
@@ -25,6 +28,8 @@ SectionBlock {
         accessibleName: root.title
         items: root.names
         leads: root.leads
+        viewHeight: root.viewHeight
+        viewTop: root.viewTop - root.padding - y
         visible: items.length > 0
 
         onChosen: name => root.chosen(name)

@@ -90,7 +90,22 @@ PackagePageCase {
         stage.content.selectIndex(2);
         stage.openPackage("many");
         shows("python-dependant-1");
-        shows("python-dependant-745");
+        named("python-dependant-1").forceActiveFocus();
+        keyClick(Qt.Key_End);
+        const last = named("python-dependant-745");
+        verify(last.activeFocus);
+        tryVerify(() => last.mapToItem(null, 0, last.height).y < window.height);
+        keyClick(Qt.Key_Return);
+        compare(stage.wantedFormula, "python-dependant-745");
+        keyClick(Qt.Key_Home);
+        tryVerify(() => named("python-dependant-1") && named("python-dependant-1").activeFocus);
+    }
+
+    function test_ofHundredsOnlyThoseInViewAreMade() {
+        open("many");
+        verify(spoken().filter(item => item.Accessible.name.startsWith("python-dependant-")).length
+               < 100);
+        verify(named("python-dependant-745") === null);
     }
 
     function test_longTextsStayInTheWindow_data() {

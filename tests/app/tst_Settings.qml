@@ -13,7 +13,8 @@ WindowCase {
     }
 
     function content() {
-        const names = spoken().map(item => item.Accessible.name);
+        const names = spoken().filter(item => item.Accessible.role !== Accessible.Notification)
+                              .map(item => item.Accessible.name);
         return names.slice(names.indexOf("Reset Selected Prefix") + 1);
     }
 

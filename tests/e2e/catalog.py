@@ -71,6 +71,10 @@ class Catalog:
         names = {record["name"] for record in self.formulae}
         return next(name for name, _ in count.most_common() if name in names)
 
+    def dependants_of(self, name):
+        """In the order in which the program shows them."""
+        return sorted(record["name"] for record in self.formulae if name in record["dependencies"])
+
 
 class Server:
     """The host of the public catalog, behind a proxy of this machine."""

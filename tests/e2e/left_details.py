@@ -66,6 +66,12 @@ def what_most_others_need_is_opened(window, name):
     window.has_focus(*BACK)
 
 
+def the_last_of_all_that_need_it_is_reached(window, dependants):
+    window.tab_to("push button", dependants[0])
+    window.key("End")
+    window.has_focus("push button", dependants[-1])
+
+
 def the_sidebar_discards_it_too(window):
     window.press("list item", "Cleanup")
     window.get("heading", "Scan For Cleanup Guidance")
@@ -102,7 +108,9 @@ def tell(stage):
         window.step(another_section_discards_them)
         window.step(a_package_is_opened, formula)
         window.step(the_same_section_keeps_it, formula)
-        window.step(what_most_others_need_is_opened, catalog.the_most_needed())
+        needed = catalog.the_most_needed()
+        window.step(what_most_others_need_is_opened, needed)
+        window.step(the_last_of_all_that_need_it_is_reached, catalog.dependants_of(needed))
         window.step(the_sidebar_discards_it_too)
         window.step(an_installed_package_is_discarded_as_well)
         window.quit()

@@ -44,8 +44,10 @@ Rectangle {
         anchors.rightMargin: Theme.small
         anchors.topMargin: Theme.tiny
         color: root.leads ? Theme.text : Theme.secondaryText
+        elide: Text.ElideRight
         text: root.text
         verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.NoWrap
 
         Accessible.ignored: true
     }

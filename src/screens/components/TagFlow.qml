@@ -3,23 +3,28 @@ pragma ComponentBehavior: Bound
 import QtQuick
 
 // Names in as many columns as there is room for. Where they lead somewhere, all together are one
-// stop of the keyboard, and the arrow keys go from one to the next: there may be hundreds.
+// stop of the keyboard, and the arrow keys go from one to the next. There may be hundreds: the grid
+// is only as high as what is in view of it, and moves along with the view.
 FocusScope {
     id: root
 
     required property list<string> items
+    // What is in view, in the coordinates of this item.
+    required property real viewTop
+    required property real viewHeight
 
     property bool leads: false
     property string accessibleName: ""
 
     readonly property int columns: Math.max(1, Math.floor((width + Theme.small)
                                                           / (Theme.tagWidth + Theme.small)))
-    property int current: 0
+    readonly property int rows: Math.ceil(items.length / columns)
+    readonly property int tagHeight: Math.ceil(letters.height) + 2 * Theme.tiny
 
     signal chosen(string text)
 
     implicitWidth: Theme.tagWidth
-    implicitHeight: grid.implicitHeight
+    implicitHeight: rows * grid.cellHeight - Theme.small
     activeFocusOnTab: leads
 
     Accessible.role: Accessible.List
@@ -27,47 +32,64 @@ FocusScope {
 
     Keys.onPressed: event => {
         event.accepted = leads && event.modifiers === Qt.NoModifier
-                         && go(current + step(event.key));
+                         && go(grid.currentIndex + step(event.key));
     }
 
     // How far a key leads; nothing for a key that does not.
     function step(key: int): int {
         return key === Qt.Key_Left ? -1 : key === Qt.Key_Right ? 1
              : key === Qt.Key_Up ? -columns : key === Qt.Key_Down ? columns
-             : key === Qt.Key_Home ? -current : key === Qt.Key_End ? items.length - 1 - current : 0;
+             : key === Qt.Key_Home ? -grid.currentIndex
+             : key === Qt.Key_End ? items.length - 1 - grid.currentIndex : 0;
     }
 
     function go(index: int): bool {
-        if (index === current || index < 0 || index >= items.length)
+        if (index === grid.currentIndex || index < 0 || index >= items.length)
             return false;
-        tags.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
+        grid.currentIndex = index;
+        grid.currentItem.forceActiveFocus(Qt.TabFocusReason);
         return true;
     }
 
-    Grid {
+    FontMetrics {
+        id: letters
+
+        font.family: Theme.family
+        font.pixelSize: Theme.captionSize
+    }
+
+    GridView {
         id: grid
 
-        columnSpacing: Theme.small
-        columns: root.columns
-        rowSpacing: Theme.small
+        readonly property real inView: Math.min(root.height, root.viewTop + root.viewHeight)
+                                       - Math.max(0, root.viewTop)
 
-        Repeater {
-            id: tags
+        y: Math.max(0, Math.min(root.viewTop, root.height - height))
+        width: cellWidth * root.columns
+        height: Math.min(root.height, Math.max(cellHeight, inView))
+        cacheBuffer: 0
+        cellHeight: root.tagHeight + Theme.small
+        cellWidth: Math.floor((root.width + Theme.small) / root.columns)
+        clip: true
+        contentY: y
+        focus: true
+        highlightFollowsCurrentItem: false
+        interactive: false
+        keyNavigationEnabled: false
+        model: root.items
 
-            model: root.items
+        delegate: Tag {
+            required property int index
+            required property string modelData
 
-            delegate: Tag {
-                required property int index
-                required property string modelData
+            width: grid.cellWidth - Theme.small
+            height: root.tagHeight
+            focus: GridView.isCurrentItem
+            leads: root.leads
+            text: modelData
 
-                width: Math.floor((root.width - (root.columns - 1) * Theme.small) / root.columns)
-                focus: index === 0
-                leads: root.leads
-                text: modelData
-
-                onActiveFocusChanged: if (activeFocus) root.current = index
-                onClicked: root.chosen(modelData)
-            }
+            onActiveFocusChanged: if (activeFocus) grid.currentIndex = index
+            onClicked: root.chosen(modelData)
         }
     }
 }
