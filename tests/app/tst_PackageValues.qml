@@ -95,6 +95,7 @@ PackagePageCase {
         const last = named("python-dependant-745");
         verify(last.activeFocus);
         tryVerify(() => last.mapToItem(null, 0, last.height).y < window.height);
+        verify(last.mapToItem(null, 0, 0).y > 0);
         keyClick(Qt.Key_Return);
         compare(stage.wantedFormula, "python-dependant-745");
         keyClick(Qt.Key_Home);

@@ -19,6 +19,12 @@ FocusScope {
         announcement.say(text);
     }
 
+    function revealFocus(): void {
+        const item = root.Window.activeFocusItem;
+        if (root.activeFocus && item && item !== flickable)
+            reveal(item);
+    }
+
     function reveal(item: Item): void {
         const top = item.mapToItem(column, 0, 0).y;
         flickable.contentY = Math.max(0, Math.min(top - root.margin, Math.max(
@@ -57,6 +63,15 @@ FocusScope {
         flickable: flickable
     }
 
+    // What was only just made has no place yet.
+    Timer {
+        id: settle
+
+        interval: 0
+
+        onTriggered: root.revealFocus()
+    }
+
     // Last, so that what it says is not read before the screen.
     Announcement {
         id: announcement
@@ -64,8 +79,7 @@ FocusScope {
 
     Connections {
         function onActiveFocusItemChanged(): void {
-            if (root.activeFocus && root.Window.activeFocusItem !== flickable)
-                root.reveal(root.Window.activeFocusItem);
+            settle.restart();
         }
 
         target: root.Window.window
