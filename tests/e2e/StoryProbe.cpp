@@ -9,6 +9,7 @@
 #include <QtQuick/QQuickWindow>
 
 #include <algorithm>
+#include <array>
 #include <ctime>
 #include <poll.h>
 #include <unistd.h>
@@ -51,7 +52,9 @@ QByteArray nameOf(const QObject* receiver, const QEvent& event) {
 
 }  // namespace
 
-StoryProbe::StoryProbe() {
+StoryProbe::StoryProbe() : schedule_(QStringLiteral("/proc/thread-self/schedstat")) {
+  // Where the system does not count it, all is zero. Not buffered: each look is a new one.
+  (void)schedule_.open(QFile::ReadOnly | QFile::Unbuffered);
   asking_ = std::jthread([this](const std::stop_token& stop) {
     while (!stop.stop_requested()) {
       askAgain();
@@ -62,6 +65,14 @@ StoryProbe::StoryProbe() {
 }
 
 StoryProbe::~StoryProbe() = default;
+
+auto StoryProbe::queued() const -> Clock::duration {
+  std::array<char, 100> text{};
+  const auto size = pread(schedule_.handle(), text.data(), text.size(), 0);
+  const QList<QByteArray> numbers =
+      QByteArray(text.data(), std::max<qsizetype>(0, size)).split(' ');
+  return std::chrono::nanoseconds(numbers.size() > 1 ? numbers[1].toLongLong() : 0);
+}
 
 void StoryProbe::askAgain() {
   if (!isAnswered_.exchange(false)) {
@@ -135,20 +146,22 @@ void StoryProbe::customEvent(QEvent* event) {
     return;
   }
   const auto computedNow = computed();
+  const auto queuedNow = queued();
   Clock::time_point postedAt;
   {
     const std::scoped_lock lock(mutex_);
     postedAt = postedAt_;
   }
   if (firstFrame_ && postedAt > *firstFrame_) {
-    note(Clock::now() - postedAt, computedNow - computedBefore_);
+    note(Clock::now() - postedAt, computedNow - computedBefore_, queuedNow - queuedBefore_);
   }
   computedBefore_ = computedNow;
+  queuedBefore_ = queuedNow;
   handled_.clear();
   isAnswered_ = true;
 }
 
-void StoryProbe::note(Clock::duration waited, Clock::duration computed) {
+void StoryProbe::note(Clock::duration waited, Clock::duration computed, Clock::duration queued) {
   ++asked_;
   longest_ = std::max(longest_, waited);
   if (waited <= frame) {
@@ -159,6 +172,7 @@ void StoryProbe::note(Clock::duration waited, Clock::duration computed) {
   const std::scoped_lock lock(mutex_);
   gaps_.push_back({.waited = waited,
                    .computed = computed,
+                   .queued = queued,
                    .at = Clock::now() - waited,
                    .step = step_,
                    .works = std::move(handled_)});
@@ -180,6 +194,7 @@ QByteArray StoryProbe::report() const {
     }
     worst.append(QJsonObject{{u"ms"_s, milliseconds(gap.waited)},
                              {u"computedMs"_s, milliseconds(gap.computed)},
+                             {u"queuedMs"_s, milliseconds(gap.queued)},
                              {u"at"_s, milliseconds(gap.at.time_since_epoch())},
                              {u"step"_s, QString::fromUtf8(gap.step)},
                              {u"works"_s, works}});

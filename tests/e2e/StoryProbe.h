@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QFile>
 #include <QtCore/QObject>
 
 #include <atomic>
@@ -56,6 +57,8 @@ class StoryProbe : public QObject {
   struct Gap {
     Clock::duration waited;
     Clock::duration computed;
+    /// It could have gone on, and the machine had no processor for it.
+    Clock::duration queued;
     Clock::time_point at;
     QByteArray step;
     std::vector<Work> works;
@@ -63,7 +66,8 @@ class StoryProbe : public QObject {
 
   void askAgain();
   void listen(const std::stop_token& stop);
-  void note(Clock::duration waited, Clock::duration computed);
+  [[nodiscard]] Clock::duration queued() const;
+  void note(Clock::duration waited, Clock::duration computed, Clock::duration queued);
 
   std::vector<Work> nested_;
   /// What was handled since the last event of ours.
@@ -73,6 +77,8 @@ class StoryProbe : public QObject {
   qint64 asked_ = 0;
   std::optional<Clock::time_point> firstFrame_;
   Clock::duration computedBefore_{};
+  Clock::duration queuedBefore_{};
+  QFile schedule_;
 
   mutable std::mutex mutex_;
   QByteArray step_ = "start";

@@ -5,7 +5,7 @@
 
 For each start of the program: the time to its first frame, the longest wait, how many were longer
 than a frame, and the worst of those with the step of the story, the part of it that the UI thread
-computed, and what it did. The real catalog is there if it lies beside the checkout or in the
+computed, the part for which the machine had no processor left for it, and what it did. The real catalog is there if it lies beside the checkout or in the
 folder that QUILLMERE_REAL_DATA names."""
 
 import json
@@ -34,6 +34,7 @@ def reports_of(build, stories):
 
 def line(gap):
     return (f"| {gap['story']}: {gap['step']} | {gap['ms']:.0f} ms | {gap['computedMs']:.0f} ms "
+            f"| {gap['queuedMs']:.0f} ms "
             f"| {place(gap)} |")
 
 
@@ -46,7 +47,7 @@ def main(build, stories=""):
               f"| {report['overAFrame']} | {report['asked']} |")
     gaps = [{"story": report["story"], **gap} for report in reports for gap in report["worst"]]
     gaps.sort(key=lambda gap: -gap["ms"])
-    print("\n| the worst | wait | computed | doing |\n|---|---|---|---|")
+    print("\n| the worst | wait | computed | without a processor | doing |\n|---|---|---|---|---|")
     print("\n".join(line(gap) for gap in gaps[:SHOWN]))
     return status
 
