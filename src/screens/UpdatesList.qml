@@ -73,6 +73,7 @@ FocusScope {
                 Layout.fillWidth: true
                 activeFocusOnTab: true
                 boundsBehavior: Flickable.StopAtBounds
+                cacheBuffer: 0
                 clip: true
                 focus: count > 0
                 highlightMoveDuration: 0
