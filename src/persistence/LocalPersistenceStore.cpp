@@ -8,6 +8,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
 
+#include <cstdio>
 #include <utility>
 
 #include "platform/AtomicFile.h"
@@ -235,12 +236,21 @@ QCoro::Task<> LocalPersistenceStore::saveCatalog(QByteArray document, QUrl file,
 }
 
 void LocalPersistenceStore::writeCacheFile(const std::optional<QByteArray>& bytes,
-                                           const QUrl& file) const {
+                                           const QUrl& file) {
   if (bytes) {
     replaceCacheFile(filePath(file), *bytes);
   } else {
-    // One that stays is written over by the next.
-    (void)QFile::remove(filePath(file));
+    removeCacheFile(filePath(file));
+  }
+}
+
+/// A file of many megabytes takes longer than a frame to go. Another name takes no time; one that
+/// is left under it by a crash is replaced by the next.
+void LocalPersistenceStore::removeCacheFile(const QString& path) {
+  const QString aside = path + ".cleared"_L1;
+  // One that stays is written over by the next.
+  if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0) {
+    cacheWriter_.start([aside] { (void)QFile::remove(aside); });
   }
 }
 

@@ -83,8 +83,8 @@ class LocalPersistenceStore : public QObject {
   QCoro::Task<> saveFormulaCatalog(QByteArray document, QDateTime refreshedAt);
   QCoro::Task<> saveCaskCatalog(QByteArray document, QDateTime refreshedAt);
   /// Replaces a file of the cache, making its folder first, or removes it when there are no bytes.
-  /// Blocks on the disk.
-  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file) const;
+  /// Blocks on the disk while it writes.
+  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file);
 
   /// Remembers a folder that the user chose: its path and a bookmark of it. Another folder than
   /// before has not been scanned yet, so that the scan date goes.
@@ -122,6 +122,7 @@ class LocalPersistenceStore : public QObject {
   void load();
   void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
   void renewBookmark(const QUrl& folder);
+  void removeCacheFile(const QString& path);
   QCoro::Task<> saveCatalog(QByteArray document, QUrl file, QDateTime refreshedAt);
   template <typename T>
   void set(T& property, const T& value, QLatin1StringView key, ChangeSignal changed);

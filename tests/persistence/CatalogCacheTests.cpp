@@ -1,4 +1,6 @@
 #include <QCoroTask>
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -78,6 +80,17 @@ TEST_F(CatalogCache, StaysClearedWhereItIsClearedDuringAWrite) {
   QCoro::waitFor(saving);
   EXPECT_FALSE(store->hasCachedCaskCatalog());
   EXPECT_EQ(store->catalogLastRefreshDate(), std::nullopt);
+}
+
+TEST_F(CatalogCache, LeavesNothingBehindWhereItWasCleared) {
+  auto store = start();
+  QCoro::waitFor(store->saveFormulaCatalog("[]", monday));
+  QCoro::waitFor(store->saveCaskCatalog("[]", monday));
+  const QFileInfo file(store->formulaCacheURL().toLocalFile());
+  store->clearCacheMarkers();
+  EXPECT_FALSE(file.dir().exists(file.fileName()));
+  store.reset();
+  EXPECT_TRUE(file.dir().isEmpty());
 }
 
 TEST_F(CatalogCache, KnowsWhichDocumentsItHolds) {
