@@ -4,7 +4,7 @@
     tests/e2e/responsiveness.py build/release [REGULAR EXPRESSION OF STORIES]
 
 For each start of the program: the time to its first frame, the longest wait, how many were longer
-than a frame, and the worst of those with the step of the story, the part of it that the UI thread
+than a frame, and how many would have been with a processor for itself; then the worst with the step of the story, the part of it that the UI thread
 computed, the part for which the machine had no processor left for it, and what it did. The real catalog is there if it lies beside the checkout or in the
 folder that QUILLMERE_REAL_DATA names."""
 
@@ -16,7 +16,8 @@ import tempfile
 
 from watched import place
 
-SHOWN = 20
+SHOWN = 8
+FRAME = 16
 
 
 def reports_of(build, stories):
@@ -32,6 +33,11 @@ def reports_of(build, stories):
         return reports, told.returncode
 
 
+def own_part(gap):
+    """What the program is to blame for: a wait less what the machine was busy with others."""
+    return gap["ms"] - gap["queuedMs"]
+
+
 def line(gap):
     return (f"| {gap['story']}: {gap['step']} | {gap['ms']:.0f} ms | {gap['computedMs']:.0f} ms "
             f"| {gap['queuedMs']:.0f} ms "
@@ -41,12 +47,14 @@ def line(gap):
 def main(build, stories=""):
     reports, status = reports_of(build, stories)
     print(f"told with a catalog of {max(report['packages'] for report in reports)} packages\n")
-    print("| story | first frame | longest wait | over a frame | of |\n|---|---|---|---|---|")
+    print("| story | first frame | longest wait | over a frame | its own | of |\n"
+          "|---|---|---|---|---|---|")
     for report in reports:
+        own = sum(own_part(gap) > FRAME for gap in report["worst"])
         print(f"| {report['story']} | {report['startMs']:.0f} ms | {report['longestMs']:.1f} ms "
-              f"| {report['overAFrame']} | {report['asked']} |")
+              f"| {report['overAFrame']} | {own} | {report['asked']} |")
     gaps = [{"story": report["story"], **gap} for report in reports for gap in report["worst"]]
-    gaps.sort(key=lambda gap: -gap["ms"])
+    gaps.sort(key=own_part, reverse=True)
     print("\n| the worst | wait | computed | without a processor | doing |\n|---|---|---|---|---|")
     print("\n".join(line(gap) for gap in gaps[:SHOWN]))
     return status
