@@ -58,7 +58,7 @@ QByteArray demoFormulaDocument() {
     {"name": "silent", "desc": null, "versions": {}},
     {"name": "vietcalc", "desc": "Máy tính cho người Việt", "versions": {"stable": "2.4"}},
     {"name": "wget", "desc": "Internet file retriever", "tap": "homebrew/core",
-     "versions": {"stable": "1.25.0"}, "dependencies": ["openssl@3"]}])";
+     "versions": {"stable": "1.25.0"}, "dependencies": ["openssl@3", "own-tool"]}])";
 }
 
 QByteArray demoCaskDocument() {

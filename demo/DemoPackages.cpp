@@ -193,6 +193,7 @@ PackageDetailViewModel::Inputs demoPackage(const QString& scene) {
           u"Reverse dependency information is not available from the current data."_s,
       .catalogLastRefreshDate = QDateTime::currentDateTimeUtc().addDays(-1),
       .localInventoryLastScanDate = std::nullopt,
+      .hasCatalog = true,
       .sourceScreen = u"Browse"_s};
   if (scene == "formula"_L1) {
     inputs.reverseDependencyNames.emplace();

@@ -4,6 +4,7 @@
 #include "app/ContentViewModel.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/FileUrl.h"
+#include "screens/ScanTexts.h"
 
 // What flows between the screens, the workflows and the store.
 
@@ -52,6 +53,11 @@ void ContentViewModel::connectScreens() {
   connect(&updates_, &UpdatesViewModel::browseCatalogWanted, this, browse);
   connect(&installed_, &InstalledPackagesViewModel::packageChosen, this,
           &ContentViewModel::openInstalledPackage);
+  // What becomes stale says so on every screen, not on the one alone that watches the time.
+  connect(&dashboard_, &DashboardViewModel::changed, this, [this] {
+    tellCatalog();
+    tellInventory();
+  });
   connect(&dashboard_, &DashboardViewModel::viewInstalledWanted, this,
           [this] { select(AppSection::installed); });
   connect(&store_, &LocalPersistenceStore::hasCompletedOnboardingChanged, this,
@@ -82,6 +88,19 @@ void ContentViewModel::tellInventory() {
   installed_.setInputs(inputs);
   updates_.setInputs(inputs);
   cleanup_.setInputs(inputs);
+  // While a scan goes on, what was known before it stands: nothing flickers.
+  if (!std::holds_alternative<InstalledPackagesState::Loading>(inputs.state.value)) {
+    tellSidebar();
+  }
+}
+
+/// How much is behind a section helps to choose it.
+void ContentViewModel::tellSidebar() {
+  const auto* const packages = inventory_.state().packages();
+  const auto installed = packages != nullptr ? static_cast<int>(packages->size()) : 0;
+  sections_.setCount(AppSection::installed, installed,
+                     counted(installed, QStringLiteral("package")));
+  sections_.setCount(AppSection::updates, updates_.updateCount(), updates_.updatesText());
 }
 
 void ContentViewModel::openCatalogPackage(const HomebrewPackageSummary& package) {
@@ -102,6 +121,8 @@ void ContentViewModel::openCatalogPackage(const HomebrewPackageSummary& package)
            QStringLiteral("Reverse dependency information is not available from the current data."),
        .catalogLastRefreshDate = store_.catalogLastRefreshDate(),
        .localInventoryLastScanDate = std::nullopt,
+       .hasInventory = installed != nullptr,
+       .hasCatalog = catalog != nullptr,
        .sourceScreen = selectedTitle()});
 }
 
@@ -129,26 +150,27 @@ void ContentViewModel::openInstalledPackage(const InstalledPackageSummary& packa
                                 "metadata. Cask dependency impact is not estimated."),
        .catalogLastRefreshDate = store_.catalogLastRefreshDate(),
        .localInventoryLastScanDate = store_.localInventoryLastScanDate(),
+       .hasInventory = true,
+       .hasCatalog = catalog_.state().catalog() != nullptr,
        .sourceScreen = selectedTitle()});
 }
 
-/// Stays where it is when the loaded catalog has no such formula.
-void ContentViewModel::openFormula(const QString& name) {
-  const PackageCatalogSnapshot catalog = catalog_.state().catalog();
-  if (!catalog) {
-    return;
+void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& name) {
+  if (const PackageCatalogSnapshot catalog = catalog_.state().catalog()) {
+    const SharedText id(QStringView(QStringLiteral("formula:") + name));
+    const auto found = std::ranges::find(catalog->packages(), id, &HomebrewPackageSummary::id);
+    if (found != catalog->packages().end()) {
+      openCatalogPackage(*found);
+      return;
+    }
   }
-  const SharedText id(QStringView(QStringLiteral("formula:") + name));
-  const auto found = std::ranges::find(catalog->packages(), id, &HomebrewPackageSummary::id);
-  if (found != catalog->packages().end()) {
-    openCatalogPackage(*found);
-  }
+  from.sayUnknownFormula(name);
 }
 
 void ContentViewModel::openDetail(PackageDetailViewModel::Inputs inputs) {
   auto detail = std::make_unique<PackageDetailViewModel>(std::move(inputs), previewRequest());
   connect(detail.get(), &PackageDetailViewModel::formulaWanted, this,
-          &ContentViewModel::openFormula);
+          [this, from = detail.get()](const QString& name) { openFormula(*from, name); });
   details_.push(std::move(detail));
 }
 

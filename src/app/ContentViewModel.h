@@ -146,9 +146,10 @@ class ContentViewModel : public QObject {
   void connectScreens();
   void tellCatalog();
   void tellInventory();
+  void tellSidebar();
   void openCatalogPackage(const HomebrewPackageSummary& package);
   void openInstalledPackage(const InstalledPackageSummary& package);
-  void openFormula(const QString& name);
+  void openFormula(PackageDetailViewModel& from, const QString& name);
   void openDetail(PackageDetailViewModel::Inputs inputs);
   [[nodiscard]] PreviewRequest previewRequest();
   void closePreview();

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Layouts
 import QtQuick.Templates as T
 import Quillmere.Components
 
@@ -9,6 +10,9 @@ T.ItemDelegate {
     required property int index
     required property string title
     required property string symbolName
+    // Nothing is shown of nothing.
+    required property int count
+    required property string countText
     required property bool selected
     required property bool keyboardHere
 
@@ -23,6 +27,7 @@ T.ItemDelegate {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: title
+    Accessible.description: countText
     Accessible.selectable: true
     Accessible.selected: selected
     Accessible.onPressAction: root.clicked()
@@ -33,22 +38,31 @@ T.ItemDelegate {
         radius: Theme.smallRadius
     }
 
-    contentItem: Row {
-        leftPadding: Theme.small
+    contentItem: RowLayout {
         spacing: Theme.medium
 
         Symbol {
             name: root.symbolName
-            anchors.verticalCenter: parent.verticalCenter
+            Layout.leftMargin: Theme.small
             color: root.selected ? root.ink : Theme.secondaryText
         }
 
         PlainText {
-            anchors.verticalCenter: parent.verticalCenter
+            Layout.fillWidth: true
             color: root.ink
+            elide: Text.ElideRight
             font.weight: root.selected ? Font.DemiBold : Font.Normal
             text: root.title
             wrapMode: Text.NoWrap
+
+            Accessible.ignored: true
+        }
+
+        CaptionText {
+            Layout.rightMargin: Theme.small
+            color: root.selected ? root.ink : Theme.secondaryText
+            text: root.count
+            visible: root.count > 0
 
             Accessible.ignored: true
         }

@@ -46,8 +46,9 @@ ScreenPage {
     }
 
     PackageTags {
-        leads: root.viewModel.isFormula
+        leads: root.viewModel.detailItemsLead
         names: root.viewModel.detailItems
+        problem: root.viewModel.formulaProblem
         symbolName: root.viewModel.detailSymbolName
         text: root.viewModel.detailText
         title: root.viewModel.detailTitle
@@ -99,6 +100,10 @@ ScreenPage {
     Connections {
         function onHomepageProblemChanged(): void {
             root.announce(root.viewModel.homepageProblem);
+        }
+
+        function onFormulaProblemChanged(): void {
+            root.announce(root.viewModel.formulaProblem);
         }
 
         target: root.viewModel

@@ -100,8 +100,7 @@ QString PackageDetailViewModel::localSourceText() const {
   if (inputs_.installedPackage) {
     return inputs_.installedPackage->detail.toString();
   }
-  return inputs_.localInventoryLastScanDate ? u"Not found in local scan"_s
-                                            : u"No local package record"_s;
+  return inputs_.hasInventory ? u"Not found in local scan"_s : u"No local package record"_s;
 }
 
 bool PackageDetailViewModel::isFormula() const {
@@ -168,6 +167,11 @@ void PackageDetailViewModel::openHomepage() {
   homepageProblem_ =
       opened ? QString() : u"No browser could be opened. Copy the address instead."_s;
   Q_EMIT homepageProblemChanged();
+}
+
+void PackageDetailViewModel::sayUnknownFormula(const QString& name) {
+  formulaProblem_ = name + " is not in the loaded catalog."_L1;
+  Q_EMIT formulaProblemChanged();
 }
 
 void PackageDetailViewModel::preview(int row) {

@@ -46,6 +46,8 @@ class PackageDetailViewModel : public QObject {
   Q_PROPERTY(QString detailSymbolName READ detailSymbolName CONSTANT)
   Q_PROPERTY(QString detailText READ detailText CONSTANT)
   Q_PROPERTY(QList<QString> detailItems READ detailItems CONSTANT)
+  Q_PROPERTY(bool detailItemsLead READ detailItemsLead CONSTANT)
+  Q_PROPERTY(QString formulaProblem READ formulaProblem NOTIFY formulaProblemChanged)
   Q_PROPERTY(QString reverseDependencyText READ reverseDependencyText CONSTANT)
   Q_PROPERTY(QList<QString> reverseDependencyNames READ reverseDependencyNames CONSTANT)
   Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText CONSTANT)
@@ -67,6 +69,10 @@ class PackageDetailViewModel : public QObject {
     QString reverseDependencyUnavailableText;
     std::optional<QDateTime> catalogLastRefreshDate;
     std::optional<QDateTime> localInventoryLastScanDate;
+    /// Whether what a scan found is known, so that a package without a record is not installed.
+    bool hasInventory = false;
+    /// Whether there is a catalog that formulae can be looked up in.
+    bool hasCatalog = false;
     /// The name of the section that it was opened in, for the history.
     QString sourceScreen;
   };
@@ -111,6 +117,15 @@ class PackageDetailViewModel : public QObject {
   /// A formula's dependencies, a cask's artifacts.
   [[nodiscard]] QStringList detailItems() const;
 
+  /// Whether choosing one of them can open it.
+  [[nodiscard]] bool detailItemsLead() const { return isFormula() && inputs_.hasCatalog; }
+
+  /// Why the formula that was chosen last did not open; empty while nothing is wrong.
+  [[nodiscard]] QString formulaProblem() const { return formulaProblem_; }
+
+  /// The formula of this name, which was wanted, is not in the loaded catalog.
+  void sayUnknownFormula(const QString& name);
+
   /// What is said above the dependants, or in place of them.
   [[nodiscard]] QString reverseDependencyText() const;
   [[nodiscard]] QStringList reverseDependencyNames() const;
@@ -130,6 +145,7 @@ class PackageDetailViewModel : public QObject {
 
  Q_SIGNALS:
   void homepageProblemChanged();
+  void formulaProblemChanged();
   /// The user goes back to where the package was opened.
   void backWanted();
   /// The user chose a dependency or a dependant, which may or may not be in the loaded catalog.
@@ -142,6 +158,7 @@ class PackageDetailViewModel : public QObject {
   UrlOpener openUrl_;
   PackageCommandListModel commands_;
   QString homepageProblem_;
+  QString formulaProblem_;
 };
 
 }  // namespace quillmere

@@ -13,6 +13,8 @@ SectionBlock {
     required property real viewHeight
 
     property bool leads: false
+    // Why what was chosen did not open.
+    property string problem: ""
 
     signal chosen(string name)
 
@@ -33,5 +35,12 @@ SectionBlock {
         visible: items.length > 0
 
         onChosen: name => root.chosen(name)
+    }
+
+    CaptionText {
+        Layout.fillWidth: true
+        color: Theme.red
+        text: root.problem
+        visible: text.length > 0
     }
 }

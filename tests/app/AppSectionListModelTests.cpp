@@ -1,4 +1,5 @@
 #include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QSignalSpy>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +19,25 @@ TEST(AppSectionListModel, ListsEverySectionWithNameTitleAndSymbol) {
   EXPECT_EQ(last.data(AppSectionListModel::TitleRole).toString(), QStringLiteral("About & Legal"));
   EXPECT_EQ(last.data(AppSectionListModel::SymbolNameRole).toString(),
             QStringLiteral("info.circle"));
+}
+
+TEST(AppSectionListModel, TellsACountOnceAndNothingOfZero) {
+  AppSectionListModel sections;
+  const QAbstractItemModelTester tester(&sections,
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
+  const QSignalSpy changed(&sections, &AppSectionListModel::dataChanged);
+  const QModelIndex updates = sections.index(3);
+  EXPECT_EQ(updates.data(AppSectionListModel::CountRole).toInt(), 0);
+
+  sections.setCount(AppSection::updates, 2, QStringLiteral("2 updates"));
+  sections.setCount(AppSection::updates, 2, QStringLiteral("2 updates"));
+  EXPECT_EQ(changed.size(), 1);
+  EXPECT_EQ(updates.data(AppSectionListModel::CountRole).toInt(), 2);
+  EXPECT_EQ(updates.data(AppSectionListModel::CountTextRole).toString(),
+            QStringLiteral("2 updates"));
+
+  sections.setCount(AppSection::updates, 0, QStringLiteral("0 updates"));
+  EXPECT_EQ(updates.data(AppSectionListModel::CountTextRole).toString(), QString());
 }
 
 }  // namespace

@@ -104,6 +104,8 @@ class Stage : public QObject {
 
   Q_INVOKABLE void selectPrefix() { world_->store.selectPrefix(prefix()); }
 
+  Q_INVOKABLE void resetPrefix() { world_->store.resetPrefix(); }
+
   Q_INVOKABLE void selectEmptyFolder() { world_->store.selectPrefix(emptyFolder()); }
 
   /// From now on, the server has a small catalog.
@@ -205,6 +207,13 @@ class Stage : public QObject {
     const QDateTime now = QDateTime::currentDateTimeUtc();
     world_->store.setCatalogLastRefreshDate(now.addSecs(-secondsPerHour * catalogHours));
     world_->store.setLocalInventoryLastScanDate(now.addSecs(-secondsPerHour * scanHours));
+  }
+
+  /// The catalog is fresh for a moment more.
+  Q_INVOKABLE void letCatalogTurnStale() {
+    constexpr qint64 moment = 300;
+    world_->store.setCatalogLastRefreshDate(
+        QDateTime::currentDateTimeUtc().addDays(-7).addMSecs(moment));
   }
 
   /// The addresses that would have gone to the browser since they are caught.

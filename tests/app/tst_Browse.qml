@@ -23,6 +23,12 @@ PackageCase {
         announces("Showing 10 of 10 packages");
     }
 
+    function test_whatBecomesStaleSaysSo() {
+        beginBrowse();
+        stage.letCatalogTurnStale();
+        showsLike(/^Catalog stale: /);
+    }
+
     function test_eachScopeIsFetched_data() {
         return [
             {tag: "Fetch Formulae", rows: 8},

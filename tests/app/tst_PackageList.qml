@@ -84,6 +84,39 @@ PackageCase {
         verify(stage.content.details.current !== null);
     }
 
+    function test_aDependencyLeadsToItsDetailAndBack() {
+        loadCatalog();
+        named(wget).Accessible.pressAction();
+        button("openssl@3").Accessible.pressAction();
+        compare(stage.content.details.current.name, "openssl@3");
+        press("Back");
+        compare(stage.content.details.current.name, "wget");
+        button("own-tool").Accessible.pressAction();
+        compare(stage.content.details.current.name, "wget");
+        shows("own-tool is not in the loaded catalog.");
+        announces("own-tool is not in the loaded catalog.");
+    }
+
+    function test_aDependencyLeadsNowhereWithoutACatalog() {
+        scan();
+        named(list().currentItem.accessibleName).Accessible.pressAction();
+        tryVerify(() => stage.content.details.current !== null);
+        verify(!stage.content.details.current.detailItemsLead);
+    }
+
+    function test_aPackageThatAScanDidNotFindSaysSo() {
+        loadCatalog();
+        named(wget).Accessible.pressAction();
+        shows("Local source: No local package record");
+        stage.content.details.back();
+        scan();
+        stage.content.selectIndex(2);
+        const ffmpeg = "ffmpeg, Formula, version 8.0.1, Play, record, convert, and stream audio and video";
+        shows(ffmpeg);
+        named(ffmpeg).Accessible.pressAction();
+        shows("Local source: Not found in local scan");
+    }
+
     function test_tabGoesFromTheSearchToTheTypeToTheList() {
         loadCatalog();
         keyClick(Qt.Key_F, Qt.ControlModifier);

@@ -25,6 +25,16 @@ WindowCase {
                          "History", "Settings", "About & Legal"]);
     }
 
+    function test_sidebarCountsWhatAScanFound() {
+        compare(named("Installed").Accessible.description, "");
+        stage.selectPrefix();
+        stage.content.installed.scan();
+        tryVerify(() => named("Installed").Accessible.description === "3 packages");
+        compare(named("Updates").Accessible.description, "");
+        stage.resetPrefix();
+        compare(named("Installed").Accessible.description, "");
+    }
+
     function test_controlAndANumberSelectsASection_data() {
         return [
             {tag: "first", key: Qt.Key_1, section: "dashboard"},

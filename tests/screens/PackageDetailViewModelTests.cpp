@@ -196,7 +196,7 @@ TEST_F(PackageDetail, SaysWhatIsInstalled) {
   auto inputs = formula();
   EXPECT_EQ(detail(inputs)->installedVersionText(), u"Not installed or unknown"_s);
   EXPECT_EQ(detail(inputs)->localSourceText(), u"No local package record"_s);
-  inputs.localInventoryLastScanDate = now;
+  inputs.hasInventory = true;
   EXPECT_EQ(detail(inputs)->installedVersionText(), u"Not installed or unknown"_s);
   EXPECT_EQ(detail(inputs)->localSourceText(), u"Not found in local scan"_s);
   inputs.installedPackage = test::installed("formula:wget", {"1.24", "1.25"});
@@ -207,6 +207,24 @@ TEST_F(PackageDetail, SaysWhatIsInstalled) {
   EXPECT_EQ(detail(inputs)->installedVersionText(), u"1.25"_s);
   inputs.installedPackage->installedVersion.reset();
   EXPECT_EQ(detail(inputs)->installedVersionText(), u"Unknown"_s);
+}
+
+TEST_F(PackageDetail, LeadsOnWhereThereIsACatalogToLookIn) {
+  auto inputs = formula();
+  EXPECT_FALSE(detail(inputs)->detailItemsLead());
+  inputs.hasCatalog = true;
+  EXPECT_TRUE(detail(inputs)->detailItemsLead());
+  inputs = cask();
+  inputs.hasCatalog = true;
+  EXPECT_FALSE(detail(inputs)->detailItemsLead());
+}
+
+TEST_F(PackageDetail, SaysThatAFormulaIsNotInTheCatalog) {
+  const auto wget = detail(formula());
+  const QSignalSpy changed(wget.get(), &PackageDetailViewModel::formulaProblemChanged);
+  wget->sayUnknownFormula(u"own-tool"_s);
+  EXPECT_EQ(changed.size(), 1);
+  EXPECT_EQ(wget->formulaProblem(), u"own-tool is not in the loaded catalog."_s);
 }
 
 TEST_F(PackageDetail, TellsNoDependantsFromUnknownOnes) {
