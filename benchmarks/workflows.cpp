@@ -102,7 +102,7 @@ void searchCatalog(benchmark::State& state) {
   const QString query = QStringLiteral("no such package");
   watch(state, [&] {
     for (qsizetype length = 1; length <= query.size(); ++length) {
-      browse.setSearchText(query.first(length));
+      browse.search()->setSearchText(query.first(length));
       while (browse.isFiltering()) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
       }

@@ -61,7 +61,7 @@ void tellDownload(Stage& stage) {
 
 void search(Stage& stage, const QString& text, const QString& picture) {
   FormulaCatalogViewModel& browse = *stage.content().browse();
-  browse.setSearchText(text);
+  browse.search()->setSearchText(text);
   stage.waitFor(picture, [&] { return !browse.isFiltering(); });
   stage.picture(picture);
 }
@@ -75,9 +75,9 @@ void tellBrowse(Stage& stage) {
   stage.picture(u"browse"_s);
   search(stage, u"json"_s, u"browse-search"_s);
   search(stage, u"no package is called so"_s, u"browse-no-match"_s);
-  browse.setPackageFilter(PackageCatalogFilter::casks);
+  browse.search()->setPackageFilter(PackageCatalogFilter::casks);
   search(stage, QString(), u"browse-casks"_s);
-  browse.setPackageFilter(PackageCatalogFilter::all);
+  browse.search()->setPackageFilter(PackageCatalogFilter::all);
   stage.press(Qt::Key_F, Qt::ControlModifier);
   search(stage, QString(), u"browse-search-focused"_s);
   for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Down, Qt::Key_Down}) {
@@ -98,7 +98,7 @@ int rowOf(const FormulaCatalogViewModel& browse, PackageListModel& packages, con
 
 void openPackage(Stage& stage, const QString& name, const QString& nextPicture) {
   FormulaCatalogViewModel& browse = *stage.content().browse();
-  browse.setSearchText(name);
+  browse.search()->setSearchText(name);
   const auto row = [&] { return rowOf(browse, *browse.packages(), name); };
   stage.waitFor(nextPicture, [&] { return row() >= 0; });
   browse.open(row());
@@ -118,7 +118,7 @@ void tellPackages(Stage& stage) {
   tell(u"openssl@3"_s, u"formula-with-many-dependants"_s);
   tell(u"Microsoft Visual Studio Code"_s, u"cask"_s);
   tell(u"head-only-bench"_s, u"formula-without-release"_s);
-  stage.content().browse()->setSearchText(QString());
+  stage.content().browse()->search()->setSearchText(QString());
 }
 
 void tellChoice(Stage& stage) {
@@ -158,20 +158,20 @@ void tellInstalled(Stage& stage) {
   stage.show(AppSection::installed);
   stage.scan(u"installed"_s);
   stage.picture(u"installed"_s);
-  installed.setSearchText(u"python"_s);
+  installed.search()->setSearchText(u"python"_s);
   stage.picture(u"installed-search"_s);
-  installed.setSearchText(u"nothing is called so"_s);
+  installed.search()->setSearchText(u"nothing is called so"_s);
   stage.picture(u"installed-no-match"_s);
-  installed.setSearchText(QString());
-  installed.setPackageFilter(PackageCatalogFilter::casks);
+  installed.search()->setSearchText(QString());
+  installed.search()->setPackageFilter(PackageCatalogFilter::casks);
   stage.picture(u"installed-casks"_s);
-  installed.setSearchText(u"curl"_s);
-  installed.setPackageFilter(PackageCatalogFilter::all);
+  installed.search()->setSearchText(u"curl"_s);
+  installed.search()->setPackageFilter(PackageCatalogFilter::all);
   installed.open(0);
   stage.picture(u"installed-formula"_s);
   stage.scrollToEnd();
   stage.picture(u"installed-formula-end"_s);
-  installed.setSearchText(QString());
+  installed.search()->setSearchText(QString());
 }
 
 void tellGuidance(Stage& stage) {

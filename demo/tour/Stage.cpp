@@ -178,7 +178,7 @@ void Stage::loadCatalog(const QString& nextPicture) {
 }
 
 void Stage::scan(const QString& nextPicture) {
-  content_->installed()->scan();
+  content_->installed()->scanWanted();
   waitFor(nextPicture, [this] {
     return content_->inventory().state().packages() != nullptr &&
            !content_->inventory().scanProgress();

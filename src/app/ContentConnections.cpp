@@ -4,7 +4,6 @@
 #include "app/ContentViewModel.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/FileUrl.h"
-#include "screens/ScanTexts.h"
 
 // What flows between the screens, the workflows and the store.
 

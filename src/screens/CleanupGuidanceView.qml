@@ -8,7 +8,8 @@ FocusScope {
 
     required property CleanupGuidanceViewModel viewModel
 
-    readonly property bool loaded: viewModel.state === CleanupGuidanceViewModel.Loaded
+    readonly property bool loaded: viewModel.phase === CleanupGuidanceViewModel.Loaded
+    readonly property bool scanning: viewModel.phase === CleanupGuidanceViewModel.Loading
 
     Component.onCompleted: viewModel.appear()
     Component.onDestruction: if (viewModel) viewModel.disappear()
@@ -26,6 +27,14 @@ FocusScope {
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.large, Theme.sheetWidth)
             viewModel: root.viewModel
+            visible: !root.scanning
+        }
+
+        ScanProgress {
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 2 * Theme.large, Theme.alertWidth)
+            viewModel: root.viewModel
+            visible: root.scanning
         }
     }
 
@@ -37,8 +46,8 @@ FocusScope {
     }
 
     Connections {
-        function onScanEnded(outcome: string): void {
-            announcement.say(outcome);
+        function onAnnounced(text: string): void {
+            announcement.say(text);
         }
 
         target: root.viewModel

@@ -4,14 +4,12 @@
 #include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QPointer>
 
-#include <array>
 #include <utility>
 
 #include "commands/BrewCommandBuilder.h"
 #include "guidance/FreshnessIndicator.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/ByteTexts.h"
-#include "screens/ScanTexts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -59,50 +57,49 @@ struct ExplanationOf {
 
 CleanupGuidanceViewModel::CleanupGuidanceViewModel(PreviewRequest previewRequest, Clock clock,
                                                    CacheMeasure measure, QObject* parent)
-    : QObject(parent),
+    : LocalInventoryViewModel(std::move(clock), parent),
       previewRequest_(std::move(previewRequest)),
-      clock_(std::move(clock)),
       measure_(std::move(measure)) {
 }
 
-void CleanupGuidanceViewModel::setInputs(const LocalInventoryInputs& inputs) {
-  const State before = state();
-  const bool otherPackages = !(inputs.state == inputs_.state);
-  const bool otherPrefix = inputs.selectedPrefixURL != inputs_.selectedPrefixURL;
-  inputs_ = inputs;
+void CleanupGuidanceViewModel::follow(const LocalInventoryInputs& before) {
+  const bool otherPackages = !(inputs().state == before.state);
+  const bool otherPrefix = inputs().selectedPrefixURL != before.selectedPrefixURL;
   if (otherPackages) {
-    const auto* const packages = inputs_.state.packages();
+    const auto* const packages = inputs().state.packages();
     oldVersions_.show(packages != nullptr
                           ? oldVersionPackages(*packages)
                           : std::vector<CleanupGuidanceSummary::OldVersionPackage>());
   }
-  if (otherPackages || otherPrefix) {
-    ++request_;
-    isMeasuring_ = false;
-  }
   if (otherPrefix) {
     setCacheState(std::nullopt);
   }
-  Q_EMIT inputsChanged();
-  if (isShown_ && state() == Loaded && (otherPackages || otherPrefix)) {
-    measureCache(inputs_.selectedPrefixURL);
-  }
-  if (before == Loading && state() == Loaded) {
-    Q_EMIT scanEnded("Scan finished. "_L1 + oldVersionsText());
-  } else if (before == Loading && state() == Failed) {
-    Q_EMIT scanEnded(stateTitle() + ". "_L1 + stateText());
+  if (otherPackages || otherPrefix) {
+    ++request_;
+    isMeasuring_ = false;
+    if (isShown_ && phase() == Loaded) {
+      measureCache(inputs().selectedPrefixURL);
+    }
   }
 }
 
-CleanupGuidanceViewModel::State CleanupGuidanceViewModel::state() const {
-  // In the order of the alternatives.
-  constexpr std::array states{Idle, AccessNeeded, Loading, Loaded, Failed};
-  static_assert(states.size() == std::variant_size_v<decltype(inputs_.state.value)>);
-  return states[inputs_.state.value.index()];
+QString CleanupGuidanceViewModel::spokenState() const {
+  switch (phase()) {
+    case Loading:
+      return title();
+    case Failed:
+      return title() + ". "_L1 + text();
+    case Loaded:
+      return "Scan finished. "_L1 + oldVersionsText();
+    case Idle:
+    case AccessNeeded:
+      break;
+  }
+  return {};
 }
 
-QString CleanupGuidanceViewModel::stateTitle() const {
-  switch (state()) {
+QString CleanupGuidanceViewModel::title() const {
+  switch (phase()) {
     case Idle:
       return u"Scan For Cleanup Guidance"_s;
     case AccessNeeded:
@@ -117,29 +114,29 @@ QString CleanupGuidanceViewModel::stateTitle() const {
   return {};
 }
 
-QString CleanupGuidanceViewModel::stateText() const {
-  switch (state()) {
+QString CleanupGuidanceViewModel::text() const {
+  switch (phase()) {
     case Idle:
-      return idleText(inputs_.selectedPrefixPath);
+      return idleText(inputs().selectedPrefixPath);
     case AccessNeeded:
       return u"Cleanup guidance needs read-only local inventory. Quillmere Direct can run cleanup "
              "only after showing the command and asking for stronger confirmation."_s;
     case Loading:
-      return scanProgressText(inputs_);
+      return {};
     case Failed:
-      return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+      return failure();
     case Loaded:
       break;
   }
   return {};
 }
 
-QString CleanupGuidanceViewModel::stateSymbolName() const {
-  return state() == Failed ? u"externaldrive.badge.exclamationmark"_s : u"sparkles"_s;
+QString CleanupGuidanceViewModel::symbolName() const {
+  return phase() == Failed ? u"externaldrive.badge.exclamationmark"_s : u"sparkles"_s;
 }
 
 QString CleanupGuidanceViewModel::inventoryFreshnessText() const {
-  return inventoryFreshness(inputs_.lastScanDate, clock_()).longText(u"Local inventory"_s);
+  return inventoryFreshness(inputs().lastScanDate, now()).longText(u"Local inventory"_s);
 }
 
 QString CleanupGuidanceViewModel::oldVersionsText() const {
@@ -157,7 +154,7 @@ int CleanupGuidanceViewModel::oldVersionCount() const {
 }
 
 int CleanupGuidanceViewModel::currentVersionCount() const {
-  const auto* const packages = inputs_.state.packages();
+  const auto* const packages = inputs().state.packages();
   return packages != nullptr ? static_cast<int>(packages->size()) : 0;
 }
 
@@ -181,8 +178,8 @@ QString CleanupGuidanceViewModel::cacheText() const {
 
 void CleanupGuidanceViewModel::appear() {
   isShown_ = true;
-  if (state() == Loaded && !isMeasuring_) {
-    measureCache(inputs_.selectedPrefixURL);
+  if (phase() == Loaded && !isMeasuring_) {
+    measureCache(inputs().selectedPrefixURL);
   }
 }
 

@@ -1,14 +1,13 @@
 #pragma once
 
 #include <QCoroTask>
-#include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
 #include <optional>
 
 #include "guidance/CleanupGuidance.h"
-#include "screens/LocalInventoryInputs.h"
+#include "screens/LocalInventoryViewModel.h"
 #include "screens/OldVersionListModel.h"
 #include "screens/PreviewRequest.h"
 
@@ -17,18 +16,14 @@ namespace quillmere {
 /// The Cleanup screen: what a cleanup would be about. The cache is measured on another thread, and
 /// only while the screen is shown: it may hold very many files. Owned by `ContentViewModel`; UI
 /// thread only.
-class CleanupGuidanceViewModel : public QObject {
+class CleanupGuidanceViewModel : public LocalInventoryViewModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")
-  Q_PROPERTY(State state READ state NOTIFY inputsChanged)
-  Q_PROPERTY(QString stateTitle READ stateTitle NOTIFY inputsChanged)
-  Q_PROPERTY(QString stateText READ stateText NOTIFY inputsChanged)
-  Q_PROPERTY(QString stateSymbolName READ stateSymbolName NOTIFY inputsChanged)
-  Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText NOTIFY inputsChanged)
-  Q_PROPERTY(QString oldVersionsText READ oldVersionsText NOTIFY inputsChanged)
-  Q_PROPERTY(int oldVersionCount READ oldVersionCount NOTIFY inputsChanged)
-  Q_PROPERTY(int currentVersionCount READ currentVersionCount NOTIFY inputsChanged)
+  Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText NOTIFY changed)
+  Q_PROPERTY(QString oldVersionsText READ oldVersionsText NOTIFY changed)
+  Q_PROPERTY(int oldVersionCount READ oldVersionCount NOTIFY changed)
+  Q_PROPERTY(int currentVersionCount READ currentVersionCount NOTIFY changed)
   Q_PROPERTY(quillmere::OldVersionListModel* oldVersions READ oldVersions CONSTANT)
   Q_PROPERTY(bool isMeasuringCache READ isMeasuringCache NOTIFY cacheChanged)
   Q_PROPERTY(QString cachePath READ cachePath NOTIFY cacheChanged)
@@ -36,12 +31,8 @@ class CleanupGuidanceViewModel : public QObject {
   Q_PROPERTY(QString cacheText READ cacheText NOTIFY cacheChanged)
 
  public:
-  using Clock = std::function<QDateTime()>;
   using CacheState = CleanupGuidanceSummary::CacheState;
   using CacheMeasure = std::function<CacheState(const std::optional<QUrl>& prefixURL)>;
-
-  enum State { Idle, AccessNeeded, Loading, Failed, Loaded };
-  Q_ENUM(State)
 
   /// `measure` is called on another thread.
   explicit CleanupGuidanceViewModel(PreviewRequest previewRequest,
@@ -49,15 +40,9 @@ class CleanupGuidanceViewModel : public QObject {
                                     CacheMeasure measure = &cleanupCacheState,
                                     QObject* parent = nullptr);
 
-  [[nodiscard]] const LocalInventoryInputs& inputs() const { return inputs_; }
-
-  void setInputs(const LocalInventoryInputs& inputs);
-
-  [[nodiscard]] State state() const;
-  // What is said in place of the guidance.
-  [[nodiscard]] QString stateTitle() const;
-  [[nodiscard]] QString stateText() const;
-  [[nodiscard]] QString stateSymbolName() const;
+  [[nodiscard]] QString title() const override;
+  [[nodiscard]] QString text() const override;
+  [[nodiscard]] QString symbolName() const override;
   [[nodiscard]] QString inventoryFreshnessText() const;
 
   [[nodiscard]] QString oldVersionsText() const;
@@ -85,23 +70,16 @@ class CleanupGuidanceViewModel : public QObject {
   Q_INVOKABLE void previewCleanup();
 
  Q_SIGNALS:
-  void inputsChanged();
   void cacheChanged();
-  /// A scan has ended; `outcome` says how, for assistive technology.
-  void scanEnded(const QString& outcome);
-  // What the user wants of the main window.
-  void scanWanted();
-  void cancelScanWanted();
-  void selectPrefixWanted();
 
  private:
+  void follow(const LocalInventoryInputs& before) override;
+  [[nodiscard]] QString spokenState() const override;
   QCoro::Task<> measureCache(std::optional<QUrl> prefixURL);
   void setCacheState(std::optional<CacheState> state);
 
   PreviewRequest previewRequest_;
-  Clock clock_;
   CacheMeasure measure_;
-  LocalInventoryInputs inputs_;
   OldVersionListModel oldVersions_;
   std::optional<CacheState> cacheState_;
   bool isShown_ = false;

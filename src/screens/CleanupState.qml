@@ -8,15 +8,14 @@ StateMessage {
 
     required property CleanupGuidanceViewModel viewModel
 
-    readonly property bool idle: viewModel.state === CleanupGuidanceViewModel.Idle
-    readonly property bool accessNeeded: viewModel.state === CleanupGuidanceViewModel.AccessNeeded
-    readonly property bool loading: viewModel.state === CleanupGuidanceViewModel.Loading
-    readonly property bool failed: viewModel.state === CleanupGuidanceViewModel.Failed
+    readonly property bool idle: viewModel.phase === CleanupGuidanceViewModel.Idle
+    readonly property bool accessNeeded: viewModel.phase === CleanupGuidanceViewModel.AccessNeeded
+    readonly property bool failed: viewModel.phase === CleanupGuidanceViewModel.Failed
 
     note: idle ? viewModel.inventoryFreshnessText : ""
-    symbolName: viewModel.stateSymbolName
-    text: viewModel.stateText
-    title: viewModel.stateTitle
+    symbolName: viewModel.symbolName
+    text: viewModel.text
+    title: viewModel.title
 
     PrimaryButton {
         focus: root.accessNeeded
@@ -47,14 +46,5 @@ StateMessage {
         visible: root.failed
 
         onClicked: root.viewModel.selectPrefixWanted()
-    }
-
-    PlainButton {
-        focus: root.loading
-        help: "Stops the scan and shows again what was shown before."
-        text: "Cancel"
-        visible: root.loading
-
-        onClicked: root.viewModel.cancelScanWanted()
     }
 }

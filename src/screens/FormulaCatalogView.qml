@@ -55,13 +55,8 @@ FocusScope {
 
             Layout.fillWidth: true
             enabled: root.searchable
-            filterIndex: root.viewModel.filterIndex
-            filterTitles: root.viewModel.filterTitles
             placeholder: "Search formulae and casks"
-            searchText: root.viewModel.searchText
-
-            onFilterWanted: index => root.viewModel.filterIndex = index
-            onSearchWanted: text => root.viewModel.searchText = text
+            search: root.viewModel.search
         }
 
         PackageListArea {
@@ -88,12 +83,12 @@ FocusScope {
                 visible: !root.listed && !root.waiting
 
                 PlainButton {
-                    enabled: root.viewModel.searchText.length > 0
+                    enabled: root.viewModel.search.searchText.length > 0
                     text: "Clear Search"
                     visible: root.matchless
 
                     onClicked: {
-                        root.viewModel.clearSearch();
+                        root.viewModel.search.clear();
                         searchBar.edit();
                     }
                 }

@@ -22,6 +22,7 @@ QString freshnessLabel() {
 
 FormulaCatalogViewModel::FormulaCatalogViewModel(Clock clock, QObject* parent)
     : QObject(parent), clock_(std::move(clock)) {
+  connect(&search_, &PackageSearch::changed, this, [this] { filter(); });
 }
 
 auto FormulaCatalogViewModel::state() const -> State {
@@ -126,24 +127,6 @@ void FormulaCatalogViewModel::open(int row) {
   }
 }
 
-void FormulaCatalogViewModel::setSearchText(const QString& text) {
-  if (searchText_ == text) {
-    return;
-  }
-  searchText_ = text;
-  Q_EMIT searchTextChanged();
-  filter();
-}
-
-void FormulaCatalogViewModel::setPackageFilter(PackageCatalogFilter filter) {
-  if (packageFilter_ == filter) {
-    return;
-  }
-  packageFilter_ = filter;
-  Q_EMIT packageFilterChanged();
-  this->filter();
-}
-
 void FormulaCatalogViewModel::setInputs(const CatalogInputs& inputs) {
   inputs_ = inputs;
   setCatalog(inputs_.state.catalog());
@@ -169,7 +152,8 @@ QCoro::Task<> FormulaCatalogViewModel::filter() {
     show(std::nullopt, false);
     co_return;
   }
-  const FilterRequest request = FilterRequest::make(searchText_, packageFilter_, *catalog_);
+  const FilterRequest request =
+      FilterRequest::make(search_.searchText(), search_.packageFilter(), *catalog_);
   if (filteredResults_ && filteredResults_->request == request) {
     co_return;
   }
@@ -216,11 +200,10 @@ QString FormulaCatalogViewModel::spokenState() const {
   Q_UNREACHABLE();
 }
 
-/// Says each thing once, however often its details change.
 void FormulaCatalogViewModel::announce() {
-  const QString text = spokenState();
-  if (std::exchange(announced_, text) != text && !text.isEmpty()) {
-    Q_EMIT announced(text);
+  const QString spoken = spokenState();
+  if (spoken_.isNews(spoken)) {
+    Q_EMIT announced(spoken);
   }
 }
 

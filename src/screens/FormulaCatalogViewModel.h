@@ -9,10 +9,10 @@
 #include <optional>
 
 #include "catalog/CatalogScope.h"
-#include "catalog/PackageCatalogFilter.h"
 #include "screens/CatalogInputs.h"
-#include "screens/PackageFilterChoice.h"
 #include "screens/PackageListModel.h"
+#include "screens/PackageSearch.h"
+#include "screens/SpokenOnce.h"
 
 namespace quillmere {
 
@@ -36,9 +36,7 @@ class FormulaCatalogViewModel : public QObject {
   Q_PROPERTY(bool hasCachedCatalog READ hasCachedCatalog NOTIFY stateChanged)
   Q_PROPERTY(bool hasCachedFormulae READ hasCachedFormulae NOTIFY stateChanged)
   Q_PROPERTY(bool hasCachedCasks READ hasCachedCasks NOTIFY stateChanged)
-  Q_PROPERTY(QString searchText READ searchText WRITE setSearchText NOTIFY searchTextChanged)
-  Q_PROPERTY(QList<QString> filterTitles READ filterTitles CONSTANT)
-  Q_PROPERTY(int filterIndex READ filterIndex WRITE setFilterIndex NOTIFY packageFilterChanged)
+  Q_PROPERTY(quillmere::PackageSearch* search READ search CONSTANT)
   Q_PROPERTY(quillmere::PackageListModel* packages READ packages CONSTANT)
 
  public:
@@ -85,20 +83,7 @@ class FormulaCatalogViewModel : public QObject {
 
   [[nodiscard]] bool hasCachedCasks() const { return inputs_.hasCachedCasks; }
 
-  [[nodiscard]] const QString& searchText() const { return searchText_; }
-
-  /// Commits a search.
-  void setSearchText(const QString& text);
-
-  [[nodiscard]] PackageCatalogFilter packageFilter() const { return packageFilter_; }
-
-  void setPackageFilter(PackageCatalogFilter filter);
-
-  [[nodiscard]] QStringList filterTitles() const { return packageFilterTitles(); }
-
-  [[nodiscard]] int filterIndex() const { return packageFilterIndex(packageFilter_); }
-
-  void setFilterIndex(int index) { setPackageFilter(packageFilterAt(index)); }
+  [[nodiscard]] PackageSearch* search() { return &search_; }
 
   [[nodiscard]] const CatalogInputs& inputs() const { return inputs_; }
 
@@ -131,8 +116,6 @@ class FormulaCatalogViewModel : public QObject {
 
   Q_INVOKABLE void cancelFetch() { Q_EMIT cancelFetchWanted(); }
 
-  Q_INVOKABLE void clearSearch() { setSearchText(QString()); }
-
   /// Opens the package in this row of the list; does nothing for a row that is none.
   Q_INVOKABLE void open(int row);
 
@@ -146,8 +129,6 @@ class FormulaCatalogViewModel : public QObject {
 
   /// What `state` and all that goes with it say has changed.
   void stateChanged();
-  void searchTextChanged();
-  void packageFilterChanged();
   void catalogChanged();
   void resultsChanged();
   /// Something came about that a user who does not see the screen wants to know.
@@ -162,12 +143,11 @@ class FormulaCatalogViewModel : public QObject {
 
   Clock clock_;
   CatalogInputs inputs_;
-  QString searchText_;
-  PackageCatalogFilter packageFilter_ = PackageCatalogFilter::all;
+  PackageSearch search_;
   PackageCatalogSnapshot catalog_;
   std::optional<FilteredPackageResults> filteredResults_;
   PackageListModel packages_;
-  QString announced_;
+  SpokenOnce spoken_;
   bool isFiltering_ = false;
   /// Counts the questions, so that only the answer to the last one is shown.
   int question_ = 0;

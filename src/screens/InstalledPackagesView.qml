@@ -37,7 +37,7 @@ FocusScope {
             PlainButton {
                 text: "Scan Again"
 
-                onClicked: root.viewModel.scan()
+                onClicked: root.viewModel.scanWanted()
             }
         }
 
@@ -46,14 +46,9 @@ FocusScope {
 
             Layout.fillWidth: true
             enabled: root.found
-            filterIndex: root.viewModel.filterIndex
-            filterTitles: root.viewModel.filterTitles
             placeholder: "Search installed packages"
-            searchText: root.viewModel.searchText
+            search: root.viewModel.search
             visible: root.headed
-
-            onFilterWanted: index => root.viewModel.filterIndex = index
-            onSearchWanted: text => root.viewModel.searchText = text
         }
 
         PackageListArea {
@@ -80,19 +75,11 @@ FocusScope {
                 onSearchCleared: searchBar.edit()
             }
 
-            Progress {
+            ScanProgress {
                 anchors.centerIn: parent
                 width: Math.min(parent.width, Theme.alertWidth)
-                details: root.viewModel.progressText
-                fraction: root.viewModel.progressFraction
-                title: root.viewModel.title
+                viewModel: root.viewModel
                 visible: root.scanning
-
-                PlainButton {
-                    text: "Cancel"
-
-                    onClicked: root.viewModel.cancelScan()
-                }
             }
         }
     }

@@ -64,23 +64,28 @@ QString scanInvitation(const std::optional<QString>& selectedPrefixPath) {
 }
 
 InstalledPackagesViewModel::InstalledPackagesViewModel(Clock clock, QObject* parent)
-    : QObject(parent), clock_(std::move(clock)) {
+    : LocalInventoryViewModel(std::move(clock), parent) {
+  connect(&search_, &PackageSearch::changed, this, [this] {
+    filter();
+    tellChanges();
+  });
 }
 
 auto InstalledPackagesViewModel::state() const -> State {
-  const auto& value = inputs_.state.value;
-  if (!inputs_.selectedPrefixPath ||
-      std::holds_alternative<InstalledPackagesState::AccessNeeded>(value)) {
-    return AccessNeeded;
+  if (!inputs().selectedPrefixPath) {
+    return NeedsAccess;
   }
-  if (std::holds_alternative<InstalledPackagesState::Idle>(value)) {
-    return NotScanned;
-  }
-  if (std::holds_alternative<InstalledPackagesState::Loading>(value)) {
-    return Scanning;
-  }
-  if (std::holds_alternative<InstalledPackagesState::Failed>(value)) {
-    return Failed;
+  switch (phase()) {
+    case AccessNeeded:
+      return NeedsAccess;
+    case Idle:
+      return NotScanned;
+    case Loading:
+      return Scanning;
+    case Failed:
+      return CouldNotScan;
+    case Loaded:
+      break;
   }
   if (inventory()->empty()) {
     return NothingFound;
@@ -90,11 +95,11 @@ auto InstalledPackagesViewModel::state() const -> State {
 
 QString InstalledPackagesViewModel::symbolName() const {
   switch (state()) {
-    case Failed:
+    case CouldNotScan:
       return u"externaldrive.badge.exclamationmark"_s;
     case NoMatch:
       return u"magnifyingglass"_s;
-    case AccessNeeded:
+    case NeedsAccess:
     case NotScanned:
     case Scanning:
     case NothingFound:
@@ -106,13 +111,13 @@ QString InstalledPackagesViewModel::symbolName() const {
 
 QString InstalledPackagesViewModel::title() const {
   switch (state()) {
-    case AccessNeeded:
+    case NeedsAccess:
       return u"Local Access Needed"_s;
     case NotScanned:
       return u"Scan Installed Packages"_s;
     case Scanning:
       return u"Scanning selected Homebrew prefix..."_s;
-    case Failed:
+    case CouldNotScan:
       return u"Could Not Scan Installed Packages"_s;
     case NothingFound:
       return u"No Installed Packages Found"_s;
@@ -126,13 +131,13 @@ QString InstalledPackagesViewModel::title() const {
 
 QString InstalledPackagesViewModel::text() const {
   switch (state()) {
-    case AccessNeeded:
+    case NeedsAccess:
       return u"Installed packages require access to your selected Homebrew prefix. Quillmere scans "
              "local package metadata without writing to Homebrew files."_s;
     case NotScanned:
-      return scanInvitation(inputs_.selectedPrefixPath);
-    case Failed:
-      return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+      return scanInvitation(inputs().selectedPrefixPath);
+    case CouldNotScan:
+      return failure();
     case NothingFound:
       return u"Quillmere did not find readable formulae or casks in the selected prefix. Catalog "
              "browsing is still available."_s;
@@ -145,20 +150,6 @@ QString InstalledPackagesViewModel::text() const {
   Q_UNREACHABLE();
 }
 
-QString InstalledPackagesViewModel::progressText() const {
-  if (state() != Scanning || inputs_.knownPackages == 0) {
-    return {};
-  }
-  return u"%1 of %2 packages scanned"_s.arg(QString::number(inputs_.scannedPackages),
-                                            QString::number(inputs_.knownPackages));
-}
-
-double InstalledPackagesViewModel::progressFraction() const {
-  return state() == Scanning && inputs_.knownPackages > 0
-             ? static_cast<double>(inputs_.scannedPackages) / inputs_.knownPackages
-             : -1;
-}
-
 QString InstalledPackagesViewModel::summary() const {
   const auto packages = inventory();
   return packages ? u"Showing %1 of %2 packages"_s.arg(QString::number(packages_.rowCount()),
@@ -168,40 +159,17 @@ QString InstalledPackagesViewModel::summary() const {
 
 QString InstalledPackagesViewModel::accessibleSummary() const {
   return summary() + " - "_L1 +
-         inventoryFreshness(inputs_.lastScanDate, clock_()).shortText(freshnessLabel());
+         inventoryFreshness(inputs().lastScanDate, now()).shortText(freshnessLabel());
 }
 
 QString InstalledPackagesViewModel::freshnessText() const {
-  return inventoryFreshness(inputs_.lastScanDate, clock_()).longText(freshnessLabel());
+  return inventoryFreshness(inputs().lastScanDate, now()).longText(freshnessLabel());
 }
 
-void InstalledPackagesViewModel::setSearchText(const QString& text) {
-  if (searchText_ == text) {
-    return;
-  }
-  searchText_ = text;
-  Q_EMIT searchTextChanged();
-  filter();
-}
-
-void InstalledPackagesViewModel::setPackageFilter(PackageCatalogFilter filter) {
-  if (packageFilter_ == filter) {
-    return;
-  }
-  packageFilter_ = filter;
-  Q_EMIT packageFilterChanged();
-  this->filter();
-}
-
-void InstalledPackagesViewModel::setInputs(const LocalInventoryInputs& inputs) {
-  const InstalledPackagesSnapshot before = inventory();
-  inputs_ = inputs;
-  if (inventory() != before) {
+void InstalledPackagesViewModel::follow(const LocalInventoryInputs& before) {
+  if (!(inputs().state == before.state)) {
     filter();
   }
-  Q_EMIT inputsChanged();
-  Q_EMIT stateChanged();
-  announce();
 }
 
 void InstalledPackagesViewModel::open(int row) {
@@ -214,17 +182,15 @@ void InstalledPackagesViewModel::open(int row) {
 
 /// What was found, wherever else the screen is; null before.
 InstalledPackagesSnapshot InstalledPackagesViewModel::inventory() const {
-  const auto* const loaded = std::get_if<InstalledPackagesState::Loaded>(&inputs_.state.value);
+  const auto* const loaded = std::get_if<InstalledPackagesState::Loaded>(&inputs().state.value);
   return loaded != nullptr ? loaded->packages : nullptr;
 }
 
 void InstalledPackagesViewModel::filter() {
   const InstalledPackagesSnapshot packages = inventory();
-  packages_.show(packages, packages
-                               ? matchingPackages(*packages, searchText_.trimmed(), packageFilter_)
-                               : std::vector<std::size_t>());
-  Q_EMIT stateChanged();
-  announce();
+  packages_.show(packages, packages ? matchingPackages(*packages, search_.searchText().trimmed(),
+                                                       search_.packageFilter())
+                                    : std::vector<std::size_t>());
 }
 
 QString InstalledPackagesViewModel::spokenState() const {
@@ -233,23 +199,15 @@ QString InstalledPackagesViewModel::spokenState() const {
     case NothingFound:
     case NoMatch:
       return title();
-    case Failed:
+    case CouldNotScan:
       return title() + ". "_L1 + text();
     case Listed:
       return summary();
-    case AccessNeeded:
+    case NeedsAccess:
     case NotScanned:
       return {};
   }
   Q_UNREACHABLE();
-}
-
-/// Says each thing once, however often its details change.
-void InstalledPackagesViewModel::announce() {
-  const QString text = spokenState();
-  if (std::exchange(announced_, text) != text && !text.isEmpty()) {
-    Q_EMIT announced(text);
-  }
 }
 
 }  // namespace quillmere

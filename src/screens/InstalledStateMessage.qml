@@ -9,8 +9,8 @@ StateMessage {
     required property InstalledPackagesViewModel viewModel
 
     readonly property int phase: viewModel.state
-    readonly property bool accessNeeded: phase === InstalledPackagesViewModel.AccessNeeded
-    readonly property bool failed: phase === InstalledPackagesViewModel.Failed
+    readonly property bool accessNeeded: phase === InstalledPackagesViewModel.NeedsAccess
+    readonly property bool failed: phase === InstalledPackagesViewModel.CouldNotScan
     readonly property bool nothingFound: phase === InstalledPackagesViewModel.NothingFound
 
     // The search was emptied: the next one may begin.
@@ -24,51 +24,51 @@ StateMessage {
         text: "Select Homebrew Prefix"
         visible: root.accessNeeded
 
-        onClicked: root.viewModel.selectPrefix()
+        onClicked: root.viewModel.selectPrefixWanted()
     }
 
     PlainButton {
         text: "Browse Catalog Instead"
         visible: root.accessNeeded
 
-        onClicked: root.viewModel.browseCatalog()
+        onClicked: root.viewModel.browseCatalogWanted()
     }
 
     PrimaryButton {
         text: "Scan Read-Only Inventory"
         visible: root.phase === InstalledPackagesViewModel.NotScanned
 
-        onClicked: root.viewModel.scan()
+        onClicked: root.viewModel.scanWanted()
     }
 
     PrimaryButton {
         text: "Scan Again"
         visible: root.failed || root.nothingFound
 
-        onClicked: root.viewModel.scan()
+        onClicked: root.viewModel.scanWanted()
     }
 
     PlainButton {
         text: "Check Prefix"
         visible: root.failed
 
-        onClicked: root.viewModel.selectPrefix()
+        onClicked: root.viewModel.selectPrefixWanted()
     }
 
     PlainButton {
         text: "Browse Catalog"
         visible: root.nothingFound
 
-        onClicked: root.viewModel.browseCatalog()
+        onClicked: root.viewModel.browseCatalogWanted()
     }
 
     PlainButton {
-        enabled: root.viewModel.searchText.length > 0
+        enabled: root.viewModel.search.searchText.length > 0
         text: "Clear Search"
         visible: root.phase === InstalledPackagesViewModel.NoMatch
 
         onClicked: {
-            root.viewModel.clearSearch();
+            root.viewModel.search.clear();
             root.searchCleared();
         }
     }

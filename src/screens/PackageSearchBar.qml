@@ -1,18 +1,14 @@
 import QtQuick
 import QtQuick.Layouts
 import Quillmere.Components
+import Quillmere.Screens
 
 // What narrows a list of packages: a search and a type. The shortcut for finding leads here.
 RowLayout {
     id: root
 
-    required property string searchText
+    required property PackageSearch search
     required property string placeholder
-    required property list<string> filterTitles
-    required property int filterIndex
-
-    signal searchWanted(string text)
-    signal filterWanted(int index)
 
     spacing: Theme.normal
 
@@ -32,16 +28,16 @@ RowLayout {
 
         Layout.fillWidth: true
         placeholder: root.placeholder
-        text: root.searchText
+        text: root.search.searchText
 
-        onCommitted: text => root.searchWanted(text)
+        onCommitted: text => root.search.searchText = text
     }
 
     SegmentedPicker {
-        current: root.filterIndex
-        options: root.filterTitles
+        current: root.search.filterIndex
+        options: root.search.filterTitles
         title: "Package type"
 
-        onPicked: index => root.filterWanted(index)
+        onPicked: index => root.search.filterIndex = index
     }
 }

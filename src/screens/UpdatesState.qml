@@ -8,15 +8,14 @@ StateMessage {
 
     required property UpdatesViewModel viewModel
 
-    readonly property bool idle: viewModel.state === UpdatesViewModel.Idle
-    readonly property bool accessNeeded: viewModel.state === UpdatesViewModel.AccessNeeded
-    readonly property bool loading: viewModel.state === UpdatesViewModel.Loading
-    readonly property bool loaded: viewModel.state === UpdatesViewModel.Loaded
+    readonly property bool idle: viewModel.phase === UpdatesViewModel.Idle
+    readonly property bool accessNeeded: viewModel.phase === UpdatesViewModel.AccessNeeded
+    readonly property bool loaded: viewModel.phase === UpdatesViewModel.Loaded
 
     note: idle ? viewModel.catalogFreshnessText : ""
-    symbolName: viewModel.stateSymbolName
-    text: viewModel.stateText
-    title: viewModel.stateTitle
+    symbolName: viewModel.symbolName
+    text: viewModel.text
+    title: viewModel.title
 
     PrimaryButton {
         focus: root.accessNeeded
@@ -36,7 +35,7 @@ StateMessage {
     PrimaryButton {
         focus: visible
         text: root.viewModel.scanTitle
-        visible: !root.accessNeeded && !root.loading
+        visible: !root.accessNeeded
 
         onClicked: root.viewModel.scanWanted()
     }
@@ -50,7 +49,7 @@ StateMessage {
 
     PlainButton {
         text: "Run brew update"
-        visible: !root.accessNeeded && !root.loading
+        visible: !root.accessNeeded
 
         onClicked: root.viewModel.previewUpdate()
     }
@@ -60,14 +59,5 @@ StateMessage {
         visible: root.loaded
 
         onClicked: root.viewModel.browseCatalogWanted()
-    }
-
-    PlainButton {
-        focus: root.loading
-        help: "Stops the scan and shows again what was shown before."
-        text: "Cancel"
-        visible: root.loading
-
-        onClicked: root.viewModel.cancelScanWanted()
     }
 }

@@ -8,7 +8,8 @@ FocusScope {
 
     required property UpdatesViewModel viewModel
 
-    readonly property bool loaded: viewModel.state === UpdatesViewModel.Loaded
+    readonly property bool loaded: viewModel.phase === UpdatesViewModel.Loaded
+    readonly property bool scanning: viewModel.phase === UpdatesViewModel.Loading
 
     Announcement {
         id: announcement
@@ -23,6 +24,14 @@ FocusScope {
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.large, Theme.sheetWidth)
             viewModel: root.viewModel
+            visible: !root.scanning
+        }
+
+        ScanProgress {
+            anchors.centerIn: parent
+            width: Math.min(parent.width - 2 * Theme.large, Theme.alertWidth)
+            viewModel: root.viewModel
+            visible: root.scanning
         }
     }
 
@@ -34,8 +43,8 @@ FocusScope {
     }
 
     Connections {
-        function onScanEnded(outcome: string): void {
-            announcement.say(outcome);
+        function onAnnounced(text: string): void {
+            announcement.say(text);
         }
 
         target: root.viewModel

@@ -1,12 +1,10 @@
 #include "screens/UpdatesViewModel.h"
 
-#include <array>
 #include <utility>
 
 #include "commands/BrewCommandBuilder.h"
 #include "guidance/FreshnessIndicator.h"
 #include "screens/PackageTarget.h"
-#include "screens/ScanTexts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,36 +32,36 @@ QString noUpdatesText(int reviewCount) {
 }  // namespace
 
 UpdatesViewModel::UpdatesViewModel(PreviewRequest previewRequest, Clock clock, QObject* parent)
-    : QObject(parent), previewRequest_(std::move(previewRequest)), clock_(std::move(clock)) {
+    : LocalInventoryViewModel(std::move(clock), parent),
+      previewRequest_(std::move(previewRequest)) {
 }
 
-void UpdatesViewModel::setInputs(const LocalInventoryInputs& inputs) {
-  const State before = state();
+void UpdatesViewModel::follow(const LocalInventoryInputs& before) {
   // A scan reports its progress many times a second: only another list is worth comparing again.
-  const bool otherPackages = !(inputs.state == inputs_.state);
-  inputs_ = inputs;
-  if (otherPackages) {
-    const auto* const packages = inputs_.state.packages();
+  if (!(inputs().state == before.state)) {
+    const auto* const packages = inputs().state.packages();
     packages_.show(packages != nullptr ? packageUpdateSummaries(*packages)
                                        : std::vector<PackageUpdateSummary>());
   }
-  Q_EMIT inputsChanged();
-  if (before == Loading && state() == Loaded) {
-    Q_EMIT scanEnded("Scan finished. "_L1 + updatesText() + ", "_L1 + reviewText());
-  } else if (before == Loading && state() == Failed) {
-    Q_EMIT scanEnded(stateTitle() + ". "_L1 + stateText());
+}
+
+QString UpdatesViewModel::spokenState() const {
+  switch (phase()) {
+    case Loading:
+      return title();
+    case Failed:
+      return title() + ". "_L1 + text();
+    case Loaded:
+      return "Scan finished. "_L1 + updatesText() + ", "_L1 + reviewText();
+    case Idle:
+    case AccessNeeded:
+      break;
   }
+  return {};
 }
 
-UpdatesViewModel::State UpdatesViewModel::state() const {
-  // In the order of the alternatives.
-  constexpr std::array states{Idle, AccessNeeded, Loading, Loaded, Failed};
-  static_assert(states.size() == std::variant_size_v<decltype(inputs_.state.value)>);
-  return states[inputs_.state.value.index()];
-}
-
-QString UpdatesViewModel::stateTitle() const {
-  switch (state()) {
+QString UpdatesViewModel::title() const {
+  switch (phase()) {
     case Idle:
       return u"Scan For Updates"_s;
     case AccessNeeded:
@@ -78,26 +76,26 @@ QString UpdatesViewModel::stateTitle() const {
   return reviewCount() > 0 ? u"No Comparable Updates Found"_s : u"No Updates Found"_s;
 }
 
-QString UpdatesViewModel::stateText() const {
-  switch (state()) {
+QString UpdatesViewModel::text() const {
+  switch (phase()) {
     case Idle:
-      return idleText(inputs_.selectedPrefixPath);
+      return idleText(inputs().selectedPrefixPath);
     case AccessNeeded:
       return u"Update guidance needs read-only local inventory plus latest-known public catalog "
              "metadata. Quillmere Direct can run approved update and upgrade commands after prefix "
              "selection and required confirmation."_s;
     case Loading:
-      return scanProgressText(inputs_);
+      return {};
     case Failed:
-      return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+      return failure();
     case Loaded:
       break;
   }
   return noUpdatesText(reviewCount());
 }
 
-QString UpdatesViewModel::stateSymbolName() const {
-  switch (state()) {
+QString UpdatesViewModel::symbolName() const {
+  switch (phase()) {
     case Failed:
       return u"externaldrive.badge.exclamationmark"_s;
     case Loaded:
@@ -111,7 +109,7 @@ QString UpdatesViewModel::stateSymbolName() const {
 }
 
 QString UpdatesViewModel::scanTitle() const {
-  switch (state()) {
+  switch (phase()) {
     case Idle:
       return u"Scan Read-Only Inventory"_s;
     case Failed:
@@ -125,15 +123,15 @@ QString UpdatesViewModel::scanTitle() const {
 }
 
 QString UpdatesViewModel::catalogFreshnessText() const {
-  return catalogFreshness(inputs_.catalogLastRefreshDate, clock_())
+  return catalogFreshness(inputs().catalogLastRefreshDate, now())
       .longText(u"Latest-known catalog metadata"_s);
 }
 
 QString UpdatesViewModel::sourcesText() const {
-  const QDateTime now = clock_();
-  return inventoryFreshness(inputs_.lastScanDate, now).shortText(u"Local inventory"_s) +
+  const QDateTime date = now();
+  return inventoryFreshness(inputs().lastScanDate, date).shortText(u"Local inventory"_s) +
          u"  \u00b7  "_s +
-         catalogFreshness(inputs_.catalogLastRefreshDate, now)
+         catalogFreshness(inputs().catalogLastRefreshDate, date)
              .shortText(u"Latest-known catalog metadata"_s);
 }
 

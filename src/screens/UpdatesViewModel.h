@@ -1,11 +1,8 @@
 #pragma once
 
-#include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
-
-#include "screens/LocalInventoryInputs.h"
+#include "screens/LocalInventoryViewModel.h"
 #include "screens/PackageUpdateListModel.h"
 #include "screens/PreviewRequest.h"
 
@@ -13,45 +10,30 @@ namespace quillmere {
 
 /// The Updates screen: which installed packages look outdated. Owned by `ContentViewModel`; UI
 /// thread only.
-class UpdatesViewModel : public QObject {
+class UpdatesViewModel : public LocalInventoryViewModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")
-  Q_PROPERTY(State state READ state NOTIFY inputsChanged)
-  Q_PROPERTY(QString stateTitle READ stateTitle NOTIFY inputsChanged)
-  Q_PROPERTY(QString stateText READ stateText NOTIFY inputsChanged)
-  Q_PROPERTY(QString stateSymbolName READ stateSymbolName NOTIFY inputsChanged)
-  Q_PROPERTY(QString scanTitle READ scanTitle NOTIFY inputsChanged)
-  Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText NOTIFY inputsChanged)
-  Q_PROPERTY(QString sourcesText READ sourcesText NOTIFY inputsChanged)
-  Q_PROPERTY(QString updatesText READ updatesText NOTIFY inputsChanged)
-  Q_PROPERTY(QString reviewText READ reviewText NOTIFY inputsChanged)
-  Q_PROPERTY(QString upToDateText READ upToDateText NOTIFY inputsChanged)
-  Q_PROPERTY(int updateCount READ updateCount NOTIFY inputsChanged)
-  Q_PROPERTY(int reviewCount READ reviewCount NOTIFY inputsChanged)
-  Q_PROPERTY(int upToDateCount READ upToDateCount NOTIFY inputsChanged)
+  Q_PROPERTY(QString scanTitle READ scanTitle NOTIFY changed)
+  Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText NOTIFY changed)
+  Q_PROPERTY(QString sourcesText READ sourcesText NOTIFY changed)
+  Q_PROPERTY(QString updatesText READ updatesText NOTIFY changed)
+  Q_PROPERTY(QString reviewText READ reviewText NOTIFY changed)
+  Q_PROPERTY(QString upToDateText READ upToDateText NOTIFY changed)
+  Q_PROPERTY(int updateCount READ updateCount NOTIFY changed)
+  Q_PROPERTY(int reviewCount READ reviewCount NOTIFY changed)
+  Q_PROPERTY(int upToDateCount READ upToDateCount NOTIFY changed)
   Q_PROPERTY(quillmere::PackageUpdateListModel* packages READ packages CONSTANT)
 
  public:
-  using Clock = std::function<QDateTime()>;
-
-  enum State { Idle, AccessNeeded, Loading, Failed, Loaded };
-  Q_ENUM(State)
-
   explicit UpdatesViewModel(PreviewRequest previewRequest,
                             Clock clock = &QDateTime::currentDateTimeUtc,
                             QObject* parent = nullptr);
 
-  [[nodiscard]] const LocalInventoryInputs& inputs() const { return inputs_; }
-
-  void setInputs(const LocalInventoryInputs& inputs);
-
-  [[nodiscard]] State state() const;
-  // What is said in place of the lists; of a loaded inventory, in place of the updates when there
-  // are none.
-  [[nodiscard]] QString stateTitle() const;
-  [[nodiscard]] QString stateText() const;
-  [[nodiscard]] QString stateSymbolName() const;
+  /// Of a loaded inventory, what is said in place of the updates when there are none.
+  [[nodiscard]] QString title() const override;
+  [[nodiscard]] QString text() const override;
+  [[nodiscard]] QString symbolName() const override;
   /// What the action is called that scans.
   [[nodiscard]] QString scanTitle() const;
   [[nodiscard]] QString catalogFreshnessText() const;
@@ -78,19 +60,14 @@ class UpdatesViewModel : public QObject {
   Q_INVOKABLE void previewUpdate();
 
  Q_SIGNALS:
-  void inputsChanged();
-  /// A scan has ended; `outcome` says how, for assistive technology.
-  void scanEnded(const QString& outcome);
-  // What the user wants of the main window.
-  void scanWanted();
-  void cancelScanWanted();
-  void selectPrefixWanted();
+  /// The user wants to see the catalog.
   void browseCatalogWanted();
 
  private:
+  void follow(const LocalInventoryInputs& before) override;
+  [[nodiscard]] QString spokenState() const override;
+
   PreviewRequest previewRequest_;
-  Clock clock_;
-  LocalInventoryInputs inputs_;
   PackageUpdateListModel packages_;
 };
 

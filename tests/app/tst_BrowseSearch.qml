@@ -12,10 +12,10 @@ PackageCase {
         keyClick(Qt.Key_F, Qt.ControlModifier);
         type("wget");
         wait(20);
-        compare(stage.content.browse.searchText, "");
+        compare(stage.content.browse.search.searchText, "");
         compare(list().count, 10);
         keyClick(Qt.Key_Return);
-        compare(stage.content.browse.searchText, "wget");
+        compare(stage.content.browse.search.searchText, "wget");
         tryVerify(() => list() !== null && list().count === 1);
         shows(wget);
         announces("Showing 1 of 1 matches from 10 packages");
@@ -26,7 +26,7 @@ PackageCase {
         keyClick(Qt.Key_F, Qt.ControlModifier);
         type("image");
         press("Search packages");
-        compare(stage.content.browse.searchText, "image");
+        compare(stage.content.browse.search.searchText, "image");
         compare(field().text, "image");
         tryVerify(() => list() !== null && list().count === 1);
     }
@@ -35,11 +35,11 @@ PackageCase {
         loadCatalog();
         keyClick(Qt.Key_F, Qt.ControlModifier);
         type("wg");
-        stage.content.browse.searchText = "curl";
+        stage.content.browse.search.searchText = "curl";
         compare(field().text, "wg");
         keyClick(Qt.Key_Return);
-        compare(stage.content.browse.searchText, "wg");
-        stage.content.browse.searchText = "curl";
+        compare(stage.content.browse.search.searchText, "wg");
+        stage.content.browse.search.searchText = "curl";
         compare(field().text, "curl");
     }
 
@@ -87,7 +87,7 @@ PackageCase {
         shows("Try a different search term or package type filter.");
         announces("No Packages Found");
         press("Clear Search");
-        compare(stage.content.browse.searchText, "");
+        compare(stage.content.browse.search.searchText, "");
         compare(field().text, "");
         verify(field().activeFocus);
         tryVerify(() => list() !== null && list().count === 10);

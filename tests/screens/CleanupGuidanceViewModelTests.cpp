@@ -66,7 +66,7 @@ class Cleanup : public testing::Test {
 
 struct Message {
   LocalInventoryInputs inputs;
-  CleanupGuidanceViewModel::State state;
+  CleanupGuidanceViewModel::Phase state;
   QString title;
   QString symbolName;
   QString text;
@@ -86,10 +86,10 @@ class CleanupMessages : public Cleanup, public testing::WithParamInterface<Messa
 
 TEST_P(CleanupMessages, SayWhereTheInventoryStands) {
   cleanup_.setInputs(GetParam().inputs);
-  EXPECT_EQ(cleanup_.state(), GetParam().state);
-  EXPECT_EQ(cleanup_.stateTitle(), GetParam().title);
-  EXPECT_EQ(cleanup_.stateSymbolName(), GetParam().symbolName);
-  EXPECT_EQ(cleanup_.stateText(), GetParam().text);
+  EXPECT_EQ(cleanup_.phase(), GetParam().state);
+  EXPECT_EQ(cleanup_.title(), GetParam().title);
+  EXPECT_EQ(cleanup_.symbolName(), GetParam().symbolName);
+  EXPECT_EQ(cleanup_.text(), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "cleanup only after showing the command and asking for stronger confirmation."_s},
         Message{inputsOf(State::Loading{}), CleanupGuidanceViewModel::Loading,
                 u"Scanning installed packages before deriving cleanup guidance..."_s, u"sparkles"_s,
-                u"Looking for installed packages..."_s},
+                u""_s},
         Message{inputsOf(State::Failed{u"Gone."_s}), CleanupGuidanceViewModel::Failed,
                 u"Could Not Derive Cleanup Guidance"_s, u"externaldrive.badge.exclamationmark"_s,
                 u"Gone."_s}));
@@ -280,16 +280,18 @@ TEST(CleanupPreview, IsOfTheCleanup) {
                        u"Asks Homebrew to remove old downloads and outdated package versions."_s}));
 }
 
-TEST_F(Cleanup, SaysHowAScanEnded) {
-  const QSignalSpy ended(&cleanup_, &CleanupGuidanceViewModel::scanEnded);
+TEST_F(Cleanup, SaysHowAScanGoes) {
+  const QSignalSpy said(&cleanup_, &CleanupGuidanceViewModel::announced);
   cleanup_.setInputs(inputsOf(State::Loading{}));
   cleanup_.setInputs(loaded({installed("formula:a", {"1", "2"})}));
   cleanup_.setInputs(inputsOf(State::Loading{}));
   cleanup_.setInputs(inputsOf(State::Failed{u"Gone."_s}));
-  ASSERT_EQ(ended.size(), 2);
-  EXPECT_EQ(ended[0][0].toString(),
+  ASSERT_EQ(said.size(), 4);
+  EXPECT_EQ(said[0][0].toString(),
+            u"Scanning installed packages before deriving cleanup guidance..."_s);
+  EXPECT_EQ(said[1][0].toString(),
             u"Scan finished. Detected 1 older installed version across 1 package."_s);
-  EXPECT_EQ(ended[1][0].toString(), u"Could Not Derive Cleanup Guidance. Gone."_s);
+  EXPECT_EQ(said[3][0].toString(), u"Could Not Derive Cleanup Guidance. Gone."_s);
 }
 
 }  // namespace

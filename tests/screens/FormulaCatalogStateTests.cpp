@@ -61,12 +61,12 @@ class FormulaCatalogStateTest : public testing::Test {
   }
 
   void search(const QString& text) {
-    model_.setSearchText(text);
+    model_.search()->setSearchText(text);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !model_.isFiltering(); }));
   }
 
   void narrow(PackageCatalogFilter filter) {
-    model_.setPackageFilter(filter);
+    model_.search()->setPackageFilter(filter);
     ASSERT_TRUE(QTest::qWaitFor([this] { return !model_.isFiltering(); }));
   }
 
@@ -121,7 +121,7 @@ TEST_F(FormulaCatalogStateTest, ShowsNoRowsOfTheCatalogBeforeAFailure) {
 TEST_F(FormulaCatalogStateTest, SaysThatItSearches) {
   load(smallCatalog());
   const test::HeldThreads held;
-  model_.setSearchText(u"wget"_s);
+  model_.search()->setSearchText(u"wget"_s);
   expectMessage(ViewModel::Filtering, u"magnifyingglass"_s, u"Searching packages..."_s, QString());
   EXPECT_EQ(model_.longSummary(), u"Showing first 0 matches from 3 packages"_s);
 }
@@ -131,8 +131,8 @@ TEST_F(FormulaCatalogStateTest, SaysThatNothingMatchesAndBeginsAnew) {
   search(u"nothing is called so"_s);
   expectMessage(ViewModel::NoMatch, u"magnifyingglass"_s, u"No Packages Found"_s,
                 u"Try a different search term or package type filter."_s);
-  model_.clearSearch();
-  EXPECT_EQ(model_.searchText(), QString());
+  model_.search()->clear();
+  EXPECT_EQ(model_.search()->searchText(), QString());
   EXPECT_EQ(model_.state(), ViewModel::Listed);
 }
 
@@ -300,11 +300,11 @@ TEST_F(FormulaCatalogStateTest, AnnouncesEachChangeOnce) {
 }
 
 TEST_F(FormulaCatalogStateTest, OffersTheTypesInOrder) {
-  EXPECT_THAT(model_.filterTitles(), ElementsAre(u"All"_s, u"Formulae"_s, u"Casks"_s));
-  EXPECT_EQ(model_.filterIndex(), 0);
-  model_.setFilterIndex(2);
-  EXPECT_EQ(model_.packageFilter(), PackageCatalogFilter::casks);
-  EXPECT_EQ(model_.filterIndex(), 2);
+  EXPECT_THAT(model_.search()->filterTitles(), ElementsAre(u"All"_s, u"Formulae"_s, u"Casks"_s));
+  EXPECT_EQ(model_.search()->filterIndex(), 0);
+  model_.search()->setFilterIndex(2);
+  EXPECT_EQ(model_.search()->packageFilter(), PackageCatalogFilter::casks);
+  EXPECT_EQ(model_.search()->filterIndex(), 2);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ class FormulaCatalogViewModelTest : public testing::Test {
 
 TEST_F(FormulaCatalogViewModelTest, ShowsNothingWithoutACatalog) {
   EXPECT_EQ(model_.filteredResults(), std::nullopt);
-  model_.setSearchText(u"wget"_s);
+  model_.search()->setSearchText(u"wget"_s);
   EXPECT_EQ(model_.filteredResults(), std::nullopt);
   EXPECT_FALSE(model_.isFiltering());
 }
@@ -66,7 +66,7 @@ TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
   setCatalog(catalogOf(someFormulae, someCasks));
   {
     const test::HeldThreads held;
-    model_.setSearchText(u" wget "_s);
+    model_.search()->setSearchText(u" wget "_s);
     EXPECT_TRUE(model_.isFiltering());
     EXPECT_EQ(model_.filteredResults(),
               FilteredPackageResults::provisional(
@@ -81,12 +81,12 @@ TEST_F(FormulaCatalogViewModelTest, NarrowsToOneType) {
   setCatalog(catalogOf(someFormulae, someCasks));
   {
     const test::HeldThreads held;
-    model_.setPackageFilter(PackageCatalogFilter::casks);
+    model_.search()->setPackageFilter(PackageCatalogFilter::casks);
     EXPECT_TRUE(model_.isFiltering());
   }
   waitForResults();
   EXPECT_THAT(visible(), ElementsAre(2));
-  model_.setPackageFilter(PackageCatalogFilter::all);
+  model_.search()->setPackageFilter(PackageCatalogFilter::all);
   EXPECT_THAT(visible(), ElementsAre(0, 1, 2));
 }
 
@@ -94,12 +94,12 @@ TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
   setCatalog(catalogOf(someFormulae, someCasks));
   // An answer may be there before the next question, but never after it.
   QObject::connect(&model_, &FormulaCatalogViewModel::resultsChanged, &model_, [&] {
-    EXPECT_EQ(model_.filteredResults()->request.searchQuery, model_.searchText());
+    EXPECT_EQ(model_.filteredResults()->request.searchQuery, model_.search()->searchText());
   });
   {
     const test::HeldThreads held;
     for (const QString& text : {u"c"_s, u"cu"_s, u"w"_s, u"wge"_s}) {
-      model_.setSearchText(text);
+      model_.search()->setSearchText(text);
     }
   }
   waitForResults();
@@ -109,16 +109,16 @@ TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
 
 TEST_F(FormulaCatalogViewModelTest, DoesNotSearchAgainForTheSameRequest) {
   setCatalog(catalogOf(someFormulae));
-  model_.setSearchText(u"wget"_s);
+  model_.search()->setSearchText(u"wget"_s);
   waitForResults();
   const QSignalSpy results(&model_, &FormulaCatalogViewModel::resultsChanged);
-  model_.setSearchText(u"wget  "_s);
+  model_.search()->setSearchText(u"wget  "_s);
   EXPECT_TRUE(results.isEmpty());
 }
 
 TEST_F(FormulaCatalogViewModelTest, SearchesAgainInANewCatalog) {
   setCatalog(catalogOf(someFormulae));
-  model_.setSearchText(u"wget"_s);
+  model_.search()->setSearchText(u"wget"_s);
   waitForResults();
   EXPECT_THAT(visible(), ElementsAre(1));
   setCatalog(catalogOf(R"([{"name": "wget", "versions": {}},
@@ -133,7 +133,7 @@ TEST_F(FormulaCatalogViewModelTest, DropsTheAnswerOfACatalogThatIsGone) {
   setCatalog(catalogOf(someFormulae));
   {
     const test::HeldThreads held;
-    model_.setSearchText(u"wget"_s);
+    model_.search()->setSearchText(u"wget"_s);
     setCatalog(nullptr);
   }
   EXPECT_FALSE(model_.isFiltering());
@@ -146,7 +146,7 @@ TEST_F(FormulaCatalogViewModelTest, MayGoInTheMiddleOfASearch) {
   model->setInputs(inputsOf(catalogOf(someFormulae)));
   {
     const test::HeldThreads held;
-    model->setSearchText(u"wget"_s);
+    model->search()->setSearchText(u"wget"_s);
     model.reset();
   }
   QTest::qWait(20);

@@ -90,7 +90,7 @@ TEST_F(InstalledPackagesViewModelTest, AsksForAccessWhateverElseIsKnownWhileNoPr
   for (const auto& value : std::initializer_list<decltype(State::value)>{
            State::Idle{}, State::AccessNeeded{}, State::Loading{}, State::Failed{u"No."_s}}) {
     give(value);
-    expectMessage(ViewModel::AccessNeeded, u"shippingbox"_s, u"Local Access Needed"_s,
+    expectMessage(ViewModel::NeedsAccess, u"shippingbox"_s, u"Local Access Needed"_s,
                   u"Installed packages require access to your selected Homebrew prefix. Quillmere "
                   "scans local package metadata without writing to Homebrew files."_s);
   }
@@ -99,7 +99,7 @@ TEST_F(InstalledPackagesViewModelTest, AsksForAccessWhateverElseIsKnownWhileNoPr
 TEST_F(InstalledPackagesViewModelTest, AsksForAccessToAPrefixThatCannotBeReadAnyMore) {
   selectPrefix();
   give(State::AccessNeeded{});
-  EXPECT_EQ(model_.state(), ViewModel::AccessNeeded);
+  EXPECT_EQ(model_.state(), ViewModel::NeedsAccess);
 }
 
 TEST_F(InstalledPackagesViewModelTest, OffersAScanOfTheSelectedPrefix) {
@@ -132,7 +132,7 @@ TEST_F(InstalledPackagesViewModelTest, SaysThatItScansAndHowFarItHasCome) {
 TEST_F(InstalledPackagesViewModelTest, SaysWhyAScanFailed) {
   selectPrefix();
   give(State::Failed{u"Local inventory could not be scanned: No."_s});
-  expectMessage(ViewModel::Failed, u"externaldrive.badge.exclamationmark"_s,
+  expectMessage(ViewModel::CouldNotScan, u"externaldrive.badge.exclamationmark"_s,
                 u"Could Not Scan Installed Packages"_s,
                 u"Local inventory could not be scanned: No."_s);
 }
@@ -141,7 +141,7 @@ TEST_F(InstalledPackagesViewModelTest, ShowsNoRowsOfTheScanBeforeAFailure) {
   selectPrefix();
   load(someFormulae);
   give(State::Failed{u"No."_s});
-  EXPECT_EQ(model_.state(), ViewModel::Failed);
+  EXPECT_EQ(model_.state(), ViewModel::CouldNotScan);
   EXPECT_THAT(names(), IsEmpty());
 }
 
@@ -156,18 +156,18 @@ TEST_F(InstalledPackagesViewModelTest, SaysThatAPrefixHoldsNothing) {
 TEST_F(InstalledPackagesViewModelTest, SaysThatNothingMatches) {
   selectPrefix();
   load(someFormulae);
-  model_.setSearchText(u"nothing is called so"_s);
+  model_.search()->setSearchText(u"nothing is called so"_s);
   expectMessage(ViewModel::NoMatch, u"magnifyingglass"_s, u"No Installed Packages Match"_s,
                 u"Try a different search term or package type filter."_s);
-  model_.clearSearch();
+  model_.search()->clear();
   EXPECT_EQ(model_.state(), ViewModel::Listed);
-  EXPECT_EQ(model_.searchText(), QString());
+  EXPECT_EQ(model_.search()->searchText(), QString());
 }
 
 TEST_F(InstalledPackagesViewModelTest, TellsThatNoCaskMatchesFromThatNothingIsInstalled) {
   selectPrefix();
   load(someFormulae);
-  model_.setPackageFilter(Filter::casks);
+  model_.search()->setPackageFilter(Filter::casks);
   EXPECT_EQ(model_.state(), ViewModel::NoMatch);
 }
 
@@ -182,7 +182,7 @@ TEST_F(InstalledPackagesViewModelTest, ListsInTheOrderOfTheScan) {
 TEST_F(InstalledPackagesViewModelTest, FiltersAgainWhatAnotherScanFinds) {
   selectPrefix();
   load(someFormulae);
-  model_.setSearchText(u" wget "_s);
+  model_.search()->setSearchText(u" wget "_s);
   EXPECT_THAT(names(), ElementsAre(u"wget"_s));
   EXPECT_EQ(model_.summary(), u"Showing 1 of 2 packages"_s);
   load({package(u"wget2"_s, Kind::formula, u"Successor"_s)});
@@ -282,7 +282,7 @@ TEST_F(InstalledPackagesViewModelTest, AnnouncesEachChangeOnce) {
   inputs_.knownPackages = 2;
   model_.setInputs(inputs_);
   load(someFormulae);
-  model_.setSearchText(u"nothing is called so"_s);
+  model_.search()->setSearchText(u"nothing is called so"_s);
   give(State::Failed{u"No."_s});
   load({});
   EXPECT_THAT(

@@ -35,7 +35,7 @@ class Updates : public testing::Test {
 
 struct Message {
   LocalInventoryInputs inputs;
-  UpdatesViewModel::State state;
+  UpdatesViewModel::Phase state;
   QString title;
   QString symbolName;
   QString text;
@@ -62,10 +62,10 @@ class UpdatesMessages : public Updates, public testing::WithParamInterface<Messa
 
 TEST_P(UpdatesMessages, SayWhereTheInventoryStands) {
   updates_.setInputs(GetParam().inputs);
-  EXPECT_EQ(updates_.state(), GetParam().state);
-  EXPECT_EQ(updates_.stateTitle(), GetParam().title);
-  EXPECT_EQ(updates_.stateSymbolName(), GetParam().symbolName);
-  EXPECT_EQ(updates_.stateText(), GetParam().text);
+  EXPECT_EQ(updates_.phase(), GetParam().state);
+  EXPECT_EQ(updates_.title(), GetParam().title);
+  EXPECT_EQ(updates_.symbolName(), GetParam().symbolName);
+  EXPECT_EQ(updates_.text(), GetParam().text);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -85,10 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "prefix selection and required confirmation."_s},
         Message{scanning(0, 0), UpdatesViewModel::Loading,
                 u"Scanning installed packages before deriving update guidance..."_s,
-                u"arrow.triangle.2.circlepath"_s, u"Looking for installed packages..."_s},
-        Message{scanning(12, 40), UpdatesViewModel::Loading,
-                u"Scanning installed packages before deriving update guidance..."_s,
-                u"arrow.triangle.2.circlepath"_s, u"12 of 40 packages scanned"_s},
+                u"arrow.triangle.2.circlepath"_s, u""_s},
         Message{inputsOf(State::Failed{u"Local inventory could not be scanned: gone"_s}),
                 UpdatesViewModel::Failed, u"Could Not Derive Updates"_s,
                 u"externaldrive.badge.exclamationmark"_s,
@@ -193,19 +190,31 @@ TEST_F(Updates, SayHowFreshTheCatalogIs) {
             u"Local inventory unavailable  \u00b7  Latest-known catalog metadata unavailable"_s);
 }
 
-TEST_F(Updates, SayHowAScanEnded) {
-  const QSignalSpy ended(&updates_, &UpdatesViewModel::scanEnded);
-  updates_.setInputs(loaded({}));
-  EXPECT_EQ(ended.size(), 0) << "nobody saw a scan";
+TEST_F(Updates, SayHowAScanGoes) {
+  const QSignalSpy said(&updates_, &UpdatesViewModel::announced);
   updates_.setInputs(scanning(0, 0));
+  updates_.setInputs(scanning(12, 40));
   updates_.setInputs(loaded({installed("formula:a", {"1"}, "2")}));
   updates_.setInputs(scanning(0, 0));
   updates_.setInputs(inputsOf(State::Failed{u"Gone."_s}));
-  updates_.setInputs(scanning(0, 0));
   updates_.setInputs(inputsOf(State::Idle{}));
-  ASSERT_EQ(ended.size(), 2);
-  EXPECT_EQ(ended[0][0].toString(), u"Scan finished. 1 update, 0 need review"_s);
-  EXPECT_EQ(ended[1][0].toString(), u"Could Not Derive Updates. Gone."_s);
+  ASSERT_EQ(said.size(), 4);
+  EXPECT_EQ(said[0][0].toString(),
+            u"Scanning installed packages before deriving update guidance..."_s);
+  EXPECT_EQ(said[1][0].toString(), u"Scan finished. 1 update, 0 need review"_s);
+  EXPECT_EQ(said[3][0].toString(), u"Could Not Derive Updates. Gone."_s);
+}
+
+TEST_F(Updates, SayHowFarAScanHasCome) {
+  EXPECT_EQ(updates_.progressText(), u""_s);
+  updates_.setInputs(scanning(0, 0));
+  EXPECT_EQ(updates_.progressText(), u""_s);
+  EXPECT_LT(updates_.progressFraction(), 0);
+  updates_.setInputs(scanning(12, 40));
+  EXPECT_EQ(updates_.progressText(), u"12 of 40 packages scanned"_s);
+  EXPECT_DOUBLE_EQ(updates_.progressFraction(), 0.3);
+  updates_.setInputs(loaded({}));
+  EXPECT_EQ(updates_.progressText(), u""_s);
 }
 
 TEST_F(Updates, KeepTheRowsWhileOnlyADateChanges) {

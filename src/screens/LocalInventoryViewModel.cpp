@@ -1,0 +1,53 @@
+#include "screens/LocalInventoryViewModel.h"
+
+#include <utility>
+#include <variant>
+
+namespace quillmere {
+
+LocalInventoryViewModel::LocalInventoryViewModel(Clock clock, QObject* parent)
+    : QObject(parent), clock_(std::move(clock)) {
+}
+
+void LocalInventoryViewModel::setInputs(const LocalInventoryInputs& inputs) {
+  const LocalInventoryInputs before = std::exchange(inputs_, inputs);
+  follow(before);
+  tellChanges();
+}
+
+LocalInventoryViewModel::Phase LocalInventoryViewModel::phase() const {
+  static_assert(std::variant_size_v<decltype(inputs_.state.value)> == Failed + 1);
+  return static_cast<Phase>(inputs_.state.value.index());
+}
+
+QString LocalInventoryViewModel::progressText() const {
+  return phase() == Loading && inputs_.knownPackages > 0
+             ? QStringLiteral("%1 of %2 packages scanned")
+                   .arg(QString::number(inputs_.scannedPackages),
+                        QString::number(inputs_.knownPackages))
+             : QString();
+}
+
+double LocalInventoryViewModel::progressFraction() const {
+  return phase() == Loading && inputs_.knownPackages > 0
+             ? static_cast<double>(inputs_.scannedPackages) / inputs_.knownPackages
+             : -1;
+}
+
+const QString& LocalInventoryViewModel::failure() const {
+  return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+}
+
+void LocalInventoryViewModel::tellChanges() {
+  Q_EMIT changed();
+  const QString spoken = spokenState();
+  if (spoken_.isNews(spoken)) {
+    Q_EMIT announced(spoken);
+  }
+}
+
+QString counted(qsizetype count, const QString& noun) {
+  return QString::number(count) + u' ' + noun + (count == 1 ? QString() : QStringLiteral("s"));
+}
+
+}  // namespace quillmere
