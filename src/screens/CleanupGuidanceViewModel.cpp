@@ -158,6 +158,14 @@ int CleanupGuidanceViewModel::currentVersionCount() const {
   return packages != nullptr ? static_cast<int>(packages->size()) : 0;
 }
 
+QString CleanupGuidanceViewModel::oldShareText() const {
+  return QString::number(oldVersionCount()) + " older"_L1;
+}
+
+QString CleanupGuidanceViewModel::currentShareText() const {
+  return QString::number(currentVersionCount()) + " current"_L1;
+}
+
 QString CleanupGuidanceViewModel::cachePath() const {
   return cacheState_ ? std::visit(PathOf(), cacheState_->value) : QString();
 }

@@ -24,6 +24,8 @@ class CleanupGuidanceViewModel : public LocalInventoryViewModel {
   Q_PROPERTY(QString oldVersionsText READ oldVersionsText NOTIFY changed)
   Q_PROPERTY(int oldVersionCount READ oldVersionCount NOTIFY changed)
   Q_PROPERTY(int currentVersionCount READ currentVersionCount NOTIFY changed)
+  Q_PROPERTY(QString oldShareText READ oldShareText NOTIFY changed)
+  Q_PROPERTY(QString currentShareText READ currentShareText NOTIFY changed)
   Q_PROPERTY(quillmere::OldVersionListModel* oldVersions READ oldVersions CONSTANT)
   Q_PROPERTY(bool isMeasuringCache READ isMeasuringCache NOTIFY cacheChanged)
   Q_PROPERTY(QString cachePath READ cachePath NOTIFY cacheChanged)
@@ -49,6 +51,9 @@ class CleanupGuidanceViewModel : public LocalInventoryViewModel {
   [[nodiscard]] int oldVersionCount() const;
   /// How many installed versions are the only or the newest of their package.
   [[nodiscard]] int currentVersionCount() const;
+  // Both in words, for the picture.
+  [[nodiscard]] QString oldShareText() const;
+  [[nodiscard]] QString currentShareText() const;
 
   [[nodiscard]] OldVersionListModel* oldVersions() { return &oldVersions_; }
 

@@ -82,6 +82,21 @@ FocusScope {
                 title: root.viewModel.title
                 visible: !root.listed && !root.waiting
 
+                // The large window has them above, in a row.
+                PrimaryButton {
+                    text: "Fetch All"
+                    visible: root.compact && !root.searchable
+
+                    onClicked: root.viewModel.fetchAll()
+                }
+
+                PlainButton {
+                    text: "Load Cached All"
+                    visible: root.compact && !root.searchable && root.viewModel.hasCachedCatalog
+
+                    onClicked: root.viewModel.loadCachedAll()
+                }
+
                 PlainButton {
                     enabled: root.viewModel.search.searchText.length > 0
                     text: "Clear Search"

@@ -32,6 +32,23 @@ SectionBlock {
         visible: root.viewModel.oldVersionCount > 0
     }
 
+    // What the colours mean. The sentence above says as much to whoever does not see them.
+    RowLayout {
+        spacing: Theme.small
+        visible: root.viewModel.oldVersionCount > 0
+
+        Pill {
+            spoken: false
+            text: root.viewModel.oldShareText
+            tint: "orange"
+        }
+
+        Pill {
+            spoken: false
+            text: root.viewModel.currentShareText
+        }
+    }
+
     Item {
         id: room
 

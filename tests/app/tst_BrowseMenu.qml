@@ -12,7 +12,7 @@ PackageCase {
 
     function test_aNarrowWindowOffersTheSameInAMenu() {
         beginBrowse(900);
-        tryVerify(() => button("Fetch All") === null && named("Load") !== null);
+        tryVerify(() => button("Fetch Casks") === null && named("Load") !== null);
         stage.serveCatalog();
         const load = named("Load");
         load.forceActiveFocus(Qt.TabFocusReason);
@@ -25,6 +25,24 @@ PackageCase {
         keyClick(Qt.Key_Return);
         tryVerify(() => list() !== null && list().count === 8, 10000);
         compare(item("Catalog"), null);
+    }
+
+    function test_anEmptyNarrowWindowOffersTheFirstStep() {
+        beginBrowse(900);
+        tryVerify(() => button("Fetch All") !== null && named("Load") !== null);
+        compare(button("Load Cached All"), null);
+        press("Fetch All");
+        shows("Could Not Load Catalog");
+        stage.cacheFormulae();
+        stage.cacheCasks();
+        press("Load Cached All");
+        tryVerify(() => list() !== null && list().count === 10);
+        compare(button("Fetch All"), null);
+    }
+
+    function test_aLargeWindowOffersItOnce() {
+        beginBrowse();
+        compare(spoken().filter(item => item.Accessible.name === "Fetch All").length, 1);
     }
 
     function test_escapeClosesTheMenu() {

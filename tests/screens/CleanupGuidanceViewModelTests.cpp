@@ -127,6 +127,8 @@ TEST_F(Cleanup, CountsWithAnSUnlessItIsOne) {
             u"Detected 2 older installed versions across 2 packages."_s);
   EXPECT_EQ(cleanup_.oldVersionCount(), 2);
   EXPECT_EQ(cleanup_.currentVersionCount(), 3);
+  EXPECT_EQ(cleanup_.oldShareText(), u"2 older"_s);
+  EXPECT_EQ(cleanup_.currentShareText(), u"3 current"_s);
 }
 
 TEST_F(Cleanup, ListsWhatKeepsOldVersions) {
