@@ -10,6 +10,7 @@
 #include <chrono>
 #include <utility>
 
+#include "execution/FailureAdvice.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/DateTexts.h"
 
@@ -224,11 +225,25 @@ void DirectExecutionSessionViewModel::show(Read read) {
   summaryRows_.setRows(read.presentation.rows);
   presentation_ = std::move(read.presentation);
   hasOutput_ = read.hasOutput;
+  if (read.isLast) {
+    advise();
+  }
   Q_EMIT presentationChanged();
   showSteps();
   if (read.isLast) {
     isSettled_ = true;
     Q_EMIT outputSettled();
+  }
+}
+
+void DirectExecutionSessionViewModel::advise() {
+  const auto& result = controller_.result();
+  if (!result || !std::holds_alternative<SessionFailed>(controller_.status())) {
+    return;
+  }
+  adviceText_ = failureAdvice(*result);
+  if (!adviceText_.isEmpty()) {
+    Q_EMIT announced(adviceText_);
   }
 }
 

@@ -35,6 +35,7 @@ class DirectExecutionSessionViewModel : public QObject {
   Q_PROPERTY(QString summaryTitle READ summaryTitle NOTIFY presentationChanged)
   Q_PROPERTY(QString summarySymbol READ summarySymbol NOTIFY presentationChanged)
   Q_PROPERTY(QString summaryEmptyText READ summaryEmptyText NOTIFY presentationChanged)
+  Q_PROPERTY(QString adviceText READ adviceText NOTIFY presentationChanged)
   Q_PROPERTY(quillmere::OutputSummaryModel* summaryRows READ summaryRows CONSTANT)
   Q_PROPERTY(quillmere::ProgressStepsModel* progressSteps READ progressSteps CONSTANT)
   Q_PROPERTY(
@@ -68,6 +69,9 @@ class DirectExecutionSessionViewModel : public QObject {
   [[nodiscard]] QString summarySymbol() const { return presentation_.symbolName; }
 
   [[nodiscard]] QString summaryEmptyText() const { return presentation_.emptyText; }
+
+  /// What can be done about a run that failed; empty where nothing is known.
+  [[nodiscard]] QString adviceText() const { return adviceText_; }
 
   [[nodiscard]] OutputSummaryModel* summaryRows() { return &summaryRows_; }
 
@@ -109,6 +113,7 @@ class DirectExecutionSessionViewModel : public QObject {
   QCoro::Task<> readOutput();
   [[nodiscard]] QFuture<std::shared_ptr<Read>> startReading();
   void show(Read read);
+  void advise();
 
   DirectExecutionSessionController& controller_;
   std::shared_ptr<OutputTranscript> transcript_;
@@ -117,6 +122,7 @@ class DirectExecutionSessionViewModel : public QObject {
   bool isSettled_ = false;
   QTimer readTimer_;
   DirectCommandOutputPresentation presentation_;
+  QString adviceText_;
   bool hasOutput_ = false;
   OutputSummaryModel summaryRows_;
   ProgressStepsModel progressSteps_;

@@ -162,6 +162,12 @@ class Stage : public QObject {
 
   Q_INVOKABLE void releaseThreads() { world_->heldThreads.reset(); }
 
+  /// From now on, another brew works on whatever is asked for.
+  Q_INVOKABLE void lockPackages() {
+    world_->prefix.withBrew(
+        "#!/bin/sh\necho 'Error: A `brew upgrade` process has already locked wget.' >&2\nexit 1\n");
+  }
+
   /// From now on, brew does not end when it is asked to, but only when it is released.
   Q_INVOKABLE void ignoreRequestsToEnd() {
     world_->prefix.withBrew(

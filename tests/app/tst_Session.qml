@@ -40,6 +40,18 @@ SessionCase {
         tryCompare(stage.content, "preview", null);
     }
 
+    function test_aFailureComesWithTheNextStep() {
+        const advice = "Another brew process is working on this. Wait until it has ended, then run the command again.";
+        stage.lockPackages();
+        stage.selectPrefix();
+        stage.previewUpgrade();
+        press("Run Command");
+        press("Confirm brew upgrade");
+        shows("Command exited with status 1.");
+        shows(advice);
+        announces(advice);
+    }
+
     function test_aCancelledRunSaysSo() {
         stage.ignoreRequestsToEnd();
         start();

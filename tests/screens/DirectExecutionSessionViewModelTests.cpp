@@ -112,6 +112,23 @@ TEST_F(SessionView, MarksWhatFailed) {
             QStringLiteral("red"));
 }
 
+TEST_F(SessionView, AdvisesOnAFailureThatItKnows) {
+  const auto& session = view(
+      "#!/bin/sh\necho 'Error: wget: A `brew install wget` process has already locked x.' >&2\n"
+      "exit 1\n",
+      upgrade);
+  const QSignalSpy said(model.get(), &DirectExecutionSessionViewModel::announced);
+  runToEnd();
+  EXPECT_TRUE(session.adviceText().startsWith(QStringLiteral("Another brew process is working")));
+  EXPECT_EQ(said.last()[0].toString(), session.adviceText());
+}
+
+TEST_F(SessionView, AdvisesOnNothingThatWentWell) {
+  const auto& session = view("#!/bin/sh\necho 'x process has already locked y'\n", upgrade);
+  runToEnd();
+  EXPECT_EQ(session.adviceText(), QString());
+}
+
 TEST_F(SessionView, ShowsOutputWhileTheRunGoesOn) {
   const auto& session = view(
       "#!/bin/sh\ncd \"${0%/*}/..\"\necho '==> Pouring'\n"

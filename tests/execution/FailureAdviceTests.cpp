@@ -1,0 +1,77 @@
+#include <gtest/gtest.h>
+
+#include "execution/FailureAdvice.h"
+#include "support/Printers.h"
+
+namespace quillmere {
+namespace {
+
+QString adviceFor(const QByteArray& standardError, const QByteArray& standardOutput = {}) {
+  DirectCommandResult result;
+  result.standardError = standardError;
+  result.standardOutput = standardOutput;
+  result.exitCode = 1;
+  return failureAdvice(result);
+}
+
+struct Failure {
+  const char* printed;
+  const char* begin;
+};
+
+class KnownFailures : public testing::TestWithParam<Failure> {};
+
+TEST_P(KnownFailures, NameTheNextStep) {
+  EXPECT_TRUE(adviceFor(GetParam().printed).startsWith(QLatin1String(GetParam().begin)))
+      << GetParam().printed;
+  EXPECT_EQ(adviceFor({}, GetParam().printed), adviceFor(GetParam().printed));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Signs, KnownFailures,
+    testing::Values(
+        Failure{"Error: wget: A `brew install wget` process has already locked /opt/x.\n"
+                "Please wait for it to finish or terminate it to continue.\n",
+                "Another brew process is working on this."},
+        Failure{"Error: Another `brew update` process is already running.\n",
+                "Another brew process is running."},
+        Failure{"Error: Running Homebrew as root is extremely dangerous\n",
+                "Homebrew refuses to run as root."},
+        Failure{"Error: /opt/homebrew/Cellar is not writable. You should change the ownership\n",
+                "Homebrew may not write to its own folders."},
+        Failure{"sudo: a terminal is required to read the password\n",
+                "The command needs an administrator's password"},
+        Failure{"Error: Refusing to load formula me/tap/tool from untrusted tap me/tap.\n",
+                "The package comes from a tap that Homebrew does not trust."},
+        Failure{"Error: tool has been disabled because it is not maintained upstream!\n",
+                "The package was disabled by its maintainers."},
+        Failure{"Error: SHA-256 mismatch\n", "A download is not what Homebrew expects."},
+        Failure{"Error: No available formula with the name \"x\".\n",
+                "Homebrew knows no package of this name."},
+        Failure{"Error: No available formula or cask with the name \"x\".\n",
+                "Homebrew knows no package of this name."},
+        Failure{"Error: No available cask with the name \"x\".\n",
+                "Homebrew knows no package of this name."},
+        Failure{"Error: Failed to download resource \"libidn2 (2.3.8)\"\n", "A download failed."},
+        Failure{"Error: Fetching /opt/homebrew failed!\n", "A download failed."},
+        Failure{"curl: (6) Could not resolve host: ghcr.io\n", "A download failed."}));
+
+TEST(FailureAdvice, SaysNothingOfWhatItDoesNotKnow) {
+  EXPECT_EQ(adviceFor("Error: something else\n"), QString());
+  EXPECT_EQ(adviceFor({}), QString());
+}
+
+TEST(FailureAdvice, NamesTheCauseAndNotItsConsequence) {
+  EXPECT_TRUE(adviceFor("curl: (23) Failed writing\nError: Failed to download resource \"x\"\n"
+                        "Error: /opt/homebrew is not writable. You should change the owner\n")
+                  .startsWith(QLatin1String("Homebrew may not write")));
+}
+
+TEST(FailureAdvice, LooksAtTheEndOfALongOutput) {
+  QByteArray output = "curl: (6)\n" + QByteArray(1 << 20, 'x');
+  EXPECT_EQ(adviceFor(output), QString());
+  EXPECT_FALSE(adviceFor(output + "\ncurl: (6)\n").isEmpty());
+}
+
+}  // namespace
+}  // namespace quillmere
