@@ -83,19 +83,8 @@ void CleanupGuidanceViewModel::follow(const LocalInventoryInputs& before) {
   }
 }
 
-QString CleanupGuidanceViewModel::spokenState() const {
-  switch (phase()) {
-    case Loading:
-      return title();
-    case Failed:
-      return title() + ". "_L1 + text();
-    case Loaded:
-      return "Scan finished. "_L1 + oldVersionsText();
-    case Idle:
-    case AccessNeeded:
-      break;
-  }
-  return {};
+QString CleanupGuidanceViewModel::spokenResult() const {
+  return "Scan finished. "_L1 + oldVersionsText();
 }
 
 QString CleanupGuidanceViewModel::title() const {

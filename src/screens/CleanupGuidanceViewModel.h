@@ -79,7 +79,7 @@ class CleanupGuidanceViewModel : public LocalInventoryViewModel {
 
  private:
   void follow(const LocalInventoryInputs& before) override;
-  [[nodiscard]] QString spokenState() const override;
+  [[nodiscard]] QString spokenResult() const override;
   QCoro::Task<> measureCache(std::optional<QUrl> prefixURL);
   void setCacheState(std::optional<CacheState> state);
 

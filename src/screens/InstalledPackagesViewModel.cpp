@@ -193,21 +193,8 @@ void InstalledPackagesViewModel::filter() {
                                     : std::vector<std::size_t>());
 }
 
-QString InstalledPackagesViewModel::spokenState() const {
-  switch (state()) {
-    case Scanning:
-    case NothingFound:
-    case NoMatch:
-      return title();
-    case CouldNotScan:
-      return title() + ". "_L1 + text();
-    case Listed:
-      return summary();
-    case NeedsAccess:
-    case NotScanned:
-      return {};
-  }
-  Q_UNREACHABLE();
+QString InstalledPackagesViewModel::spokenResult() const {
+  return state() == Listed ? summary() : title();
 }
 
 }  // namespace quillmere

@@ -65,7 +65,7 @@ class InstalledPackagesViewModel : public LocalInventoryViewModel {
 
  private:
   void follow(const LocalInventoryInputs& before) override;
-  [[nodiscard]] QString spokenState() const override;
+  [[nodiscard]] QString spokenResult() const override;
   [[nodiscard]] InstalledPackagesSnapshot inventory() const;
   void filter();
 

@@ -38,6 +38,22 @@ const QString& LocalInventoryViewModel::failure() const {
   return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
 }
 
+/// Empty where nothing came about.
+QString LocalInventoryViewModel::spokenState() const {
+  switch (phase()) {
+    case Loading:
+      return title();
+    case Loaded:
+      return spokenResult();
+    case Failed:
+      return title() + QStringLiteral(". ") + text();
+    case Idle:
+    case AccessNeeded:
+      break;
+  }
+  return {};
+}
+
 void LocalInventoryViewModel::tellChanges() {
   Q_EMIT changed();
   const QString spoken = spokenState();

@@ -68,12 +68,14 @@ class LocalInventoryViewModel : public QObject {
 
   /// The inputs were others `before`: what is made from them is made anew.
   virtual void follow(const LocalInventoryInputs& before) = 0;
-  /// What stands now, as it is said aloud; empty where nothing need be.
-  [[nodiscard]] virtual QString spokenState() const = 0;
+  /// What a loaded inventory comes to, as it is said aloud.
+  [[nodiscard]] virtual QString spokenResult() const = 0;
 
   void tellChanges();
 
  private:
+  [[nodiscard]] QString spokenState() const;
+
   Clock clock_;
   LocalInventoryInputs inputs_;
   SpokenOnce spoken_;

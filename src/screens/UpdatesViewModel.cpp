@@ -45,19 +45,8 @@ void UpdatesViewModel::follow(const LocalInventoryInputs& before) {
   }
 }
 
-QString UpdatesViewModel::spokenState() const {
-  switch (phase()) {
-    case Loading:
-      return title();
-    case Failed:
-      return title() + ". "_L1 + text();
-    case Loaded:
-      return "Scan finished. "_L1 + updatesText() + ", "_L1 + reviewText();
-    case Idle:
-    case AccessNeeded:
-      break;
-  }
-  return {};
+QString UpdatesViewModel::spokenResult() const {
+  return "Scan finished. "_L1 + updatesText() + ", "_L1 + reviewText();
 }
 
 QString UpdatesViewModel::title() const {

@@ -65,7 +65,7 @@ class UpdatesViewModel : public LocalInventoryViewModel {
 
  private:
   void follow(const LocalInventoryInputs& before) override;
-  [[nodiscard]] QString spokenState() const override;
+  [[nodiscard]] QString spokenResult() const override;
 
   PreviewRequest previewRequest_;
   PackageUpdateListModel packages_;
