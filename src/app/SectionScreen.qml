@@ -18,6 +18,9 @@ FocusScope {
         required property string name
 
         model: root.section === name ? 1 : 0
+
+        // The screen before may still be there and have the keyboard.
+        onItemAdded: (index, item) => item.focus = true
     }
 
     FocusScope {
@@ -30,7 +33,6 @@ FocusScope {
 
             delegate: DashboardView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.dashboard
             }
         }
@@ -40,7 +42,6 @@ FocusScope {
 
             delegate: InstalledPackagesView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.installed
             }
         }
@@ -50,7 +51,6 @@ FocusScope {
 
             delegate: FormulaCatalogView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.browse
             }
         }
@@ -60,7 +60,6 @@ FocusScope {
 
             delegate: UpdatesView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.updates
             }
         }
@@ -70,7 +69,6 @@ FocusScope {
 
             delegate: CleanupGuidanceView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.cleanup
             }
         }
@@ -80,7 +78,6 @@ FocusScope {
 
             delegate: ServicesGuidanceView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.services
             }
         }
@@ -90,7 +87,6 @@ FocusScope {
 
             delegate: CommandHistoryView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.history
             }
         }
@@ -100,7 +96,6 @@ FocusScope {
 
             delegate: SettingsView {
                 anchors.fill: parent
-                focus: true
                 viewModel: root.viewModel.settings
             }
         }
@@ -110,7 +105,6 @@ FocusScope {
 
             delegate: AboutLegalView {
                 anchors.fill: parent
-                focus: true
             }
         }
     }

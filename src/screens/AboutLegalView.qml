@@ -39,7 +39,7 @@ ScreenPage {
         }
 
         LinkButton {
-            focus: true
+            leads: true
             page: ExternalLinks.privacyPolicy
             text: "Privacy Policy"
         }

@@ -11,7 +11,14 @@ RowLayout {
 
     spacing: Theme.small
 
+    // The keyboard begins here.
+    function begin(): void {
+        first.focus = true;
+    }
+
     PrimaryButton {
+        id: first
+
         text: "Fetch All"
 
         onClicked: root.viewModel.fetchAll()

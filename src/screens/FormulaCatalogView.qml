@@ -16,11 +16,12 @@ FocusScope {
     readonly property int phase: viewModel.state
     readonly property bool listed: phase === FormulaCatalogViewModel.Listed
     readonly property bool loading: phase === FormulaCatalogViewModel.Loading
-    readonly property bool matchless: phase === FormulaCatalogViewModel.NoMatch
     readonly property bool searchable: phase >= FormulaCatalogViewModel.Filtering
-    readonly property bool waiting: phase === FormulaCatalogViewModel.Loading
-                                    || phase === FormulaCatalogViewModel.Filtering
+    readonly property bool waiting: loading || phase === FormulaCatalogViewModel.Filtering
     readonly property bool compact: column.width < actions.implicitWidth
+
+    // A catalog has to come from somewhere before there is a list.
+    Component.onCompleted: if (!searchable && !compact) actions.begin()
 
     ColumnLayout {
         id: column
@@ -84,6 +85,7 @@ FocusScope {
 
                 // The large window has them above, in a row.
                 PrimaryButton {
+                    focus: visible
                     text: "Fetch All"
                     visible: root.compact && !root.searchable
 
@@ -99,8 +101,9 @@ FocusScope {
 
                 PlainButton {
                     enabled: root.viewModel.search.searchText.length > 0
+                    focus: visible
                     text: "Clear Search"
-                    visible: root.matchless
+                    visible: root.phase === FormulaCatalogViewModel.NoMatch
 
                     onClicked: {
                         root.viewModel.search.clear();
@@ -118,6 +121,7 @@ FocusScope {
                 visible: root.waiting
 
                 PlainButton {
+                    focus: visible
                     text: "Cancel"
                     visible: root.loading
 

@@ -41,6 +41,7 @@ ColumnLayout {
         spacing: Theme.small
 
         PrimaryButton {
+            focus: true
             symbolName: "externaldrive"
             text: root.viewModel.chooseTitle
 

@@ -21,6 +21,7 @@ StateMessage {
     title: viewModel.title
 
     PrimaryButton {
+        focus: visible
         text: "Select Homebrew Prefix"
         visible: root.accessNeeded
 
@@ -35,6 +36,7 @@ StateMessage {
     }
 
     PrimaryButton {
+        focus: visible
         text: "Scan Read-Only Inventory"
         visible: root.phase === InstalledPackagesViewModel.NotScanned
 
@@ -42,6 +44,7 @@ StateMessage {
     }
 
     PrimaryButton {
+        focus: visible
         text: "Scan Again"
         visible: root.failed || root.nothingFound
 
@@ -64,6 +67,7 @@ StateMessage {
 
     PlainButton {
         enabled: root.viewModel.search.searchText.length > 0
+        focus: visible
         text: "Clear Search"
         visible: root.phase === InstalledPackagesViewModel.NoMatch
 

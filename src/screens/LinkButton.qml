@@ -12,10 +12,13 @@ ColumnLayout {
 
     property string symbolName: "arrow.up.right.square"
     property bool failed: false
+    // Whether the keyboard begins here.
+    property bool leads: false
 
     spacing: Theme.small
 
     ActionButton {
+        focus: root.leads
         help: "Opens " + root.page + " in the browser"
         ink: Theme.accent
         symbolName: root.symbolName

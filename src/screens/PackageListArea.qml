@@ -19,8 +19,9 @@ FocusScope {
 
     signal opened(int row)
 
-    Item {
+    FocusScope {
         anchors.fill: parent
+        focus: root.listed
         visible: root.listed
 
         CaptionText {
@@ -54,9 +55,10 @@ FocusScope {
         }
     }
 
-    Item {
+    FocusScope {
         id: statePlace
 
         anchors.fill: parent
+        focus: !root.listed
     }
 }

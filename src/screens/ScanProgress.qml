@@ -12,7 +12,7 @@ Progress {
     title: viewModel.title
 
     PlainButton {
-        focus: true
+        focus: visible
         help: "Stops the scan and shows again what was shown before."
         text: "Cancel"
 
