@@ -58,9 +58,13 @@ FocusScope {
             enabled: root.searchable
             placeholder: "Search formulae and casks"
             search: root.viewModel.search
+
+            onLeftDownwards: area.enter()
         }
 
         PackageListArea {
+            id: area
+
             Layout.fillHeight: true
             Layout.fillWidth: true
             accessibleSummary: root.viewModel.accessibleSummary

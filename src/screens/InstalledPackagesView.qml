@@ -49,9 +49,13 @@ FocusScope {
             placeholder: "Search installed packages"
             search: root.viewModel.search
             visible: root.headed
+
+            onLeftDownwards: area.enter()
         }
 
         PackageListArea {
+            id: area
+
             Layout.fillHeight: true
             Layout.fillWidth: true
             accessibleSummary: root.viewModel.accessibleSummary

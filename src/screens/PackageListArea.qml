@@ -19,6 +19,12 @@ FocusScope {
 
     signal opened(int row)
 
+    // The keyboard comes in, if there is anything.
+    function enter(): void {
+        if (listed)
+            forceActiveFocus(Qt.TabFocusReason);
+    }
+
     FocusScope {
         anchors.fill: parent
         focus: root.listed

@@ -10,6 +10,8 @@ RowLayout {
     required property PackageSearch search
     required property string placeholder
 
+    signal leftDownwards
+
     spacing: Theme.normal
 
     function edit(): void {
@@ -31,6 +33,7 @@ RowLayout {
         text: root.search.searchText
 
         onCommitted: text => root.search.searchText = text
+        onLeftDownwards: root.leftDownwards()
     }
 
     SegmentedPicker {

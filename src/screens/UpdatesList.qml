@@ -53,6 +53,7 @@ FocusScope {
         UpdatesState {
             Layout.fillWidth: true
             Layout.topMargin: list.count > 0 ? 0 : Theme.huge
+            leads: false
             viewModel: root.viewModel
             visible: root.viewModel.updateCount === 0
         }

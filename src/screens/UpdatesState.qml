@@ -8,6 +8,9 @@ StateMessage {
 
     required property UpdatesViewModel viewModel
 
+    // Whether the keyboard begins here: not where there is a list as well.
+    property bool leads: true
+
     readonly property bool idle: viewModel.phase === UpdatesViewModel.Idle
     readonly property bool accessNeeded: viewModel.phase === UpdatesViewModel.AccessNeeded
     readonly property bool loaded: viewModel.phase === UpdatesViewModel.Loaded
@@ -18,7 +21,7 @@ StateMessage {
     title: viewModel.title
 
     PrimaryButton {
-        focus: root.accessNeeded
+        focus: root.leads && root.accessNeeded
         text: "Select Homebrew Prefix"
         visible: root.accessNeeded
 
@@ -33,7 +36,7 @@ StateMessage {
     }
 
     PrimaryButton {
-        focus: visible
+        focus: root.leads && visible
         text: root.viewModel.scanTitle
         visible: !root.accessNeeded
 

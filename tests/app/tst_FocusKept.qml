@@ -21,6 +21,31 @@ PackageCase {
         tryVerify(() => list().currentItem !== null && list().currentItem.activeFocus, 3000, focused());
     }
 
+    function test_downLeadsFromTheSearchToWhatItFound() {
+        loadCatalog();
+        search("nothing is called so");
+        shows("No Packages Found");
+        keyClick(Qt.Key_Down);
+        verify(field().activeFocus);
+        keyClick(Qt.Key_A, Qt.ControlModifier);
+        type("wget");
+        keyClick(Qt.Key_Return);
+        tryVerify(() => list() !== null);
+        keyClick(Qt.Key_Down);
+        compare(focused(), "wget, Formula, version 1.25.0, Internet file retriever");
+    }
+
+    function test_aScanOfUpdatesLeadsToTheFirst() {
+        stage.content.selectIndex(3);
+        stage.showInventory("idle-prefix");
+        shows("Scan Read-Only Inventory");
+        keyClick(Qt.Key_Tab);
+        stage.showInventory("scanning");
+        tryVerify(() => focused() === "Cancel", 3000, focused());
+        stage.showInventory("updates");
+        tryVerify(() => focused() === "Preview upgrade command for Firefox", 3000, focused());
+    }
+
     function test_fromEverySectionTheKeyboardGoesAlong_data() {
         const data = [];
         for (const width of [900, 1400])

@@ -17,6 +17,8 @@ FocusScope {
     property bool editing: false
 
     signal committed(string text)
+    // What was found is wanted, which lies below.
+    signal leftDownwards
 
     implicitWidth: 2 * Theme.sidebarWidth
     implicitHeight: Math.max(Theme.huge, 2 * Theme.bodySize + Theme.tiny)
@@ -83,6 +85,7 @@ FocusScope {
 
         Keys.onReturnPressed: root.commit()
         Keys.onEnterPressed: root.commit()
+        Keys.onDownPressed: root.leftDownwards()
 
         onActiveFocusChanged: if (!activeFocus) root.editing = false
         onTextEdited: root.editing = true
