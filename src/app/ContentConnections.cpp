@@ -78,6 +78,7 @@ void ContentViewModel::tellInventory() {
   const auto& path = store_.selectedHomebrewPrefixPath();
   const LocalInventoryInputs inputs{
       .state = inventory_.state(),
+      .isOvertaken = inventory_.isOvertaken(),
       .scannedPackages = progress.scannedPackages,
       .knownPackages = progress.knownPackages,
       .selectedPrefixPath = path,

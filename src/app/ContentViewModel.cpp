@@ -92,6 +92,10 @@ void ContentViewModel::openPreview(const BrewCommand& command, const QString& so
       CommandPreviewContext{appCapabilities_, store_, resolver_, executionStarter_}, command,
       sourceScreen, [this, command, sourceScreen] { copy(command, sourceScreen); });
   connect(preview_.get(), &CommandPreviewSheetModel::closed, this, &ContentViewModel::closePreview);
+  if (command.riskLevel != BrewCommandRiskLevel::informational) {
+    connect(preview_.get(), &CommandPreviewSheetModel::runEnded, &inventory_,
+            &InventoryWorkflows::noteRun);
+  }
   quitGuard_.watch(preview_.get());
   Q_EMIT previewChanged();
 }

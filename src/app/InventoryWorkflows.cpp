@@ -44,6 +44,7 @@ QCoro::Task<> InventoryWorkflows::scan() {
     co_return;
   }
   const int generation = generation_;
+  const int runs = runs_;
   setState({State::Loading{}});
   setProgress(Progress{});
   const CachedCatalogFiles cachedCatalog{.formulae = store_.formulaCacheURL(),
@@ -66,7 +67,13 @@ QCoro::Task<> InventoryWorkflows::scan() {
   if (inventory.scannedAt) {
     store_.setLocalInventoryLastScanDate(inventory.scannedAt);
   }
+  scannedRuns_ = runs;
   settle(inventory.state);
+}
+
+void InventoryWorkflows::noteRun() {
+  ++runs_;
+  Q_EMIT stateChanged();
 }
 
 void InventoryWorkflows::cancelScans() {

@@ -33,6 +33,15 @@ class InventoryWorkflows : public QObject {
 
   [[nodiscard]] const InstalledPackagesState& state() const { return state_; }
 
+  /// Whether a run that may have changed the prefix ended since the state was found.
+  [[nodiscard]] bool isOvertaken() const {
+    return std::holds_alternative<InstalledPackagesState::Loaded>(state_.value) &&
+           scannedRuns_ != runs_;
+  }
+
+  /// Such a run has ended.
+  void noteRun();
+
   /// Absent when no scan is under way.
   [[nodiscard]] const std::optional<Progress>& scanProgress() const { return scanProgress_; }
 
@@ -43,6 +52,7 @@ class InventoryWorkflows : public QObject {
   void cancelScans();
 
  Q_SIGNALS:
+  /// `state` or `isOvertaken` has.
   void stateChanged();
   void scanProgressChanged();
 
@@ -58,6 +68,9 @@ class InventoryWorkflows : public QObject {
   /// What a cancelled scan leaves behind: the last state that was not loading.
   InstalledPackagesState settledState_;
   std::optional<Progress> scanProgress_;
+  int runs_ = 0;
+  /// How many of them had ended when the scan began that found the settled state.
+  int scannedRuns_ = 0;
   /// Counts what makes the scans that are under way useless: another prefix, or nobody waits.
   int generation_ = 0;
 };

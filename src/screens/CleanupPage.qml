@@ -13,6 +13,7 @@ ScreenPage {
         Layout.fillWidth: true
         freshness: root.viewModel.inventoryFreshnessText
         subtitle: "Quillmere Direct can prepare `brew cleanup` and run it only after stronger confirmation. Review cleanup carefully because Homebrew may delete cache files and old versions."
+        notice: root.viewModel.overtakenText
         symbolName: "sparkles"
         title: "Cleanup Guidance"
 

@@ -30,6 +30,7 @@ FocusScope {
         ScreenHeader {
             Layout.fillWidth: true
             freshness: root.viewModel.freshnessText
+            notice: root.viewModel.overtakenText
             symbolName: "shippingbox"
             title: "Local inventory"
             visible: root.headed

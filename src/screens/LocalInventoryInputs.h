@@ -13,6 +13,8 @@ namespace quillmere {
 /// What the main window tells a screen of the local inventory, anew whenever any of it changes.
 struct LocalInventoryInputs {
   InstalledPackagesState state;
+  /// Whether a command that may have changed the prefix ran since what is known was scanned.
+  bool isOvertaken = false;
   /// Of the scan that is under way.
   int scannedPackages = 0;
   int knownPackages = 0;

@@ -20,6 +20,10 @@ LocalInventoryViewModel::Phase LocalInventoryViewModel::phase() const {
   return static_cast<Phase>(inputs_.state.value.index());
 }
 
+QString LocalInventoryViewModel::overtakenText() const {
+  return inputs_.isOvertaken ? QStringLiteral("A command ran since this scan") : QString();
+}
+
 QString LocalInventoryViewModel::progressText() const {
   return phase() == Loading && inputs_.knownPackages > 0
              ? QStringLiteral("%1 of %2 packages scanned")

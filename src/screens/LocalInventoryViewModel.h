@@ -22,6 +22,7 @@ class LocalInventoryViewModel : public QObject {
   Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(QString text READ text NOTIFY changed)
   Q_PROPERTY(QString symbolName READ symbolName NOTIFY changed)
+  Q_PROPERTY(QString overtakenText READ overtakenText NOTIFY changed)
   Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
   Q_PROPERTY(double progressFraction READ progressFraction NOTIFY changed)
 
@@ -37,6 +38,9 @@ class LocalInventoryViewModel : public QObject {
   void setInputs(const LocalInventoryInputs& inputs);
 
   [[nodiscard]] Phase phase() const;
+
+  /// That what is shown may be less than what a command has made of the prefix; empty otherwise.
+  [[nodiscard]] QString overtakenText() const;
 
   // What the screen says in place of its list.
   [[nodiscard]] virtual QString title() const = 0;

@@ -22,6 +22,7 @@ FocusScope {
 
         ScreenHeader {
             Layout.fillWidth: true
+            notice: root.viewModel.overtakenText
             symbolName: "arrow.triangle.2.circlepath"
             title: "Updates"
 

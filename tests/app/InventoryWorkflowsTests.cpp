@@ -113,6 +113,39 @@ TEST_F(InventoryWorkflowsTest, RecordWhenTheScanHadFinished) {
   EXPECT_LE(*store_.localInventoryLastScanDate(), QDateTime::currentDateTimeUtc());
 }
 
+TEST_F(InventoryWorkflowsTest, AreOvertakenByARunUntilTheNextScan) {
+  workflows_->noteRun();
+  EXPECT_FALSE(workflows_->isOvertaken()) << "nothing is known yet";
+  scan();
+  EXPECT_FALSE(workflows_->isOvertaken());
+  const QSignalSpy changed(&*workflows_, &InventoryWorkflows::stateChanged);
+  workflows_->noteRun();
+  EXPECT_TRUE(workflows_->isOvertaken());
+  EXPECT_EQ(changed.size(), 1);
+  scan();
+  EXPECT_FALSE(workflows_->isOvertaken());
+}
+
+TEST_F(InventoryWorkflowsTest, AreOvertakenByARunThatEndsDuringTheScan) {
+  hold();
+  auto scanning = workflows_->scan();
+  workflows_->noteRun();
+  disk_->released.release();
+  QCoro::waitFor(std::move(scanning));
+  EXPECT_TRUE(workflows_->isOvertaken());
+}
+
+TEST_F(InventoryWorkflowsTest, AreStillOvertakenAfterAScanThatWasCancelled) {
+  scan();
+  workflows_->noteRun();
+  hold();
+  auto scanning = workflows_->scan();
+  workflows_->cancelScans();
+  disk_->released.release();
+  QCoro::waitFor(std::move(scanning));
+  EXPECT_TRUE(workflows_->isOvertaken());
+}
+
 TEST_F(InventoryWorkflowsTest, NeedASelectedPrefix) {
   store_.resetPrefix();
   scan();

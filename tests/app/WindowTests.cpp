@@ -275,6 +275,10 @@ class Stage : public QObject {
                                 QStringLiteral("Installed"));
   }
 
+  Q_INVOKABLE void previewServicesList() {
+    world_->content.openPreview(BrewCommandBuilder().servicesList(), QStringLiteral("Services"));
+  }
+
   Q_INVOKABLE void previewUpgrade() {
     world_->content.openPreview(BrewCommandBuilder().upgrade(std::nullopt).value(),
                                 QStringLiteral("Updates"));

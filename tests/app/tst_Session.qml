@@ -52,6 +52,31 @@ SessionCase {
         announces(advice);
     }
 
+    function test_aRunThatMayChangeThePrefixOvertakesTheScan_data() {
+        return [{tag: "installed", section: 1}, {tag: "updates", section: 3},
+                {tag: "cleanup", section: 4}];
+    }
+
+    function test_aRunThatMayChangeThePrefixOvertakesTheScan(data) {
+        const notice = "A command ran since this scan";
+        stage.selectPrefix();
+        stage.content.installed.scanWanted();
+        stage.content.selectIndex(data.section);
+        tryVerify(() => button("Scan Again") !== null);
+        stage.lockPackages();
+        stage.previewServicesList();
+        press("Run Command");
+        press("Close");
+        compare(named(notice), null);
+        stage.previewUpgrade();
+        press("Run Command");
+        press("Confirm brew upgrade");
+        press("Close");
+        shows(notice);
+        press("Scan Again");
+        hides(notice);
+    }
+
     function test_aCancelledRunSaysSo() {
         stage.ignoreRequestsToEnd();
         start();

@@ -10,6 +10,8 @@ RowLayout {
 
     property string subtitle: ""
     property string freshness: ""
+    // What to think of before what is shown is believed.
+    property string notice: ""
     default property alias actions: actionRow.data
 
     spacing: Theme.medium
@@ -48,6 +50,13 @@ RowLayout {
         CaptionText {
             Layout.fillWidth: true
             text: root.freshness
+            visible: text.length > 0
+        }
+
+        Pill {
+            symbolName: "exclamationmark.triangle"
+            text: root.notice
+            tint: "orange"
             visible: text.length > 0
         }
     }
