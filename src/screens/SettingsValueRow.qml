@@ -23,8 +23,10 @@ RowLayout {
     }
 
     PlainText {
+        Layout.alignment: Qt.AlignTop
         color: Theme.secondaryText
         text: root.value
+        wrapMode: Text.NoWrap
 
         Accessible.ignored: true
     }

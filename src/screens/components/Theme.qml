@@ -18,7 +18,7 @@ QtObject {
     readonly property color window: dark ? "#222327" : "#f9f9fb"
     readonly property color card: dark ? "#2a2b30" : "#ffffff"
     readonly property color well: dark ? "#1b1c20" : "#f3f4f7"
-    readonly property color scrim: dark ? "#a0000000" : "#590f1119"
+    readonly property color scrim: dark ? "#78000000" : "#590f1119"
     readonly property color hairline: dark ? "#3a3c43" : "#e1e3e9"
     readonly property color controlBorder: dark ? "#4d5059" : "#cfd2db"
 
