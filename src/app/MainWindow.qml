@@ -16,6 +16,7 @@ ApplicationWindow {
     color: Theme.window
     minimumWidth: 900
     minimumHeight: 600
+    palette: Theme.controls
     title: "Quillmere"
     visibility: memory.maximized ? Window.Maximized : Window.Windowed
     visible: true

@@ -34,6 +34,7 @@ Item {
                 maximumWidth: width
                 minimumHeight: height
                 minimumWidth: width
+                palette: Theme.controls
                 title: "Quillmere Settings"
                 visible: true
 
