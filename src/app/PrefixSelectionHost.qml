@@ -14,7 +14,7 @@ Item {
 
         currentFolder: root.workflow.startFolder
 
-        onAccepted: root.workflow.choose(selectedFolder)
+        onAccepted: root.workflow.choose(selectedFolder, currentFolder)
     }
 
     Alert {

@@ -34,11 +34,11 @@ void PrefixSelectionWorkflow::begin() {
   Q_EMIT chooserWanted();
 }
 
-QCoro::Task<> PrefixSelectionWorkflow::selectPrefix(QUrl folder) {
+QCoro::Task<> PrefixSelectionWorkflow::selectPrefix(QUrl folder, QUrl shown) {
   const QPointer<PrefixSelectionWorkflow> self(this);
   const int choice = ++choice_;
   const QFuture<HomebrewPrefixProbeSummary> probing =
-      QtConcurrent::run(backgroundThreads(), probe_, folder);
+      QtConcurrent::run(backgroundThreads(), &probeChosenFolder, probe_, folder, shown);
   const HomebrewPrefixProbeSummary summary = co_await probing;
   if (!self || choice != choice_) {
     co_return;

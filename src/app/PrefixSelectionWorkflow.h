@@ -45,10 +45,13 @@ class PrefixSelectionWorkflow : public QObject {
   /// Asks the window for its chooser.
   Q_INVOKABLE void begin();
 
-  /// Selects a folder that the user chose, if it is a prefix; the selection stays if it is not.
-  Q_INVOKABLE void choose(const QUrl& folder) { selectPrefix(folder); }
+  /// Selects a folder that the user chose, or the one that the chooser showed, if it is a prefix;
+  /// the selection stays if neither is.
+  Q_INVOKABLE void choose(const QUrl& folder, const QUrl& shown = QUrl()) {
+    selectPrefix(folder, shown);
+  }
 
-  QCoro::Task<> selectPrefix(QUrl folder);
+  QCoro::Task<> selectPrefix(QUrl folder, QUrl shown = QUrl());
 
   /// The user has been told.
   Q_INVOKABLE void acknowledge();

@@ -67,4 +67,15 @@ HomebrewPrefixProbeSummary probeHomebrewPrefix(const QUrl& folder) {
   return summary;
 }
 
+HomebrewPrefixProbeSummary probeChosenFolder(
+    const std::function<HomebrewPrefixProbeSummary(const QUrl&)>& probe, const QUrl& chosen,
+    const QUrl& shown) {
+  HomebrewPrefixProbeSummary summary = probe(chosen);
+  if (summary.looksLikeHomebrewPrefix() || shown.isEmpty() || shown == chosen) {
+    return summary;
+  }
+  HomebrewPrefixProbeSummary around = probe(shown);
+  return around.looksLikeHomebrewPrefix() ? around : summary;
+}
+
 }  // namespace quillmere

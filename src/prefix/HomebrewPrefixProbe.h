@@ -5,6 +5,7 @@
 #include <QtCore/QUrl>
 #include <QtCore/QUuid>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -48,5 +49,12 @@ struct HomebrewPrefixProbeSummary {
 /// Looks at a folder of this machine. Blocks on the disk for seven look-ups and listings; any
 /// thread.
 [[nodiscard]] HomebrewPrefixProbeSummary probeHomebrewPrefix(const QUrl& folder);
+
+/// Looks at the folder that a chooser returned and, where that is no prefix, at the folder that the
+/// chooser showed: some return what is highlighted inside the folder that the user went into. The
+/// first that is a prefix, else the look at `chosen`. Blocks like `probe`; any thread.
+[[nodiscard]] HomebrewPrefixProbeSummary probeChosenFolder(
+    const std::function<HomebrewPrefixProbeSummary(const QUrl&)>& probe, const QUrl& chosen,
+    const QUrl& shown);
 
 }  // namespace quillmere

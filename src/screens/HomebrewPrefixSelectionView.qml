@@ -91,6 +91,6 @@ ColumnLayout {
 
         currentFolder: root.viewModel.startFolder
 
-        onAccepted: root.viewModel.chooseFolder(selectedFolder)
+        onAccepted: root.viewModel.chooseFolder(selectedFolder, currentFolder)
     }
 }

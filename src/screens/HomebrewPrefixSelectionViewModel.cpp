@@ -56,8 +56,8 @@ QString HomebrewPrefixSelectionViewModel::verdict() const {
                                  "containing `bin/brew`.");
 }
 
-void HomebrewPrefixSelectionViewModel::chooseFolder(const QUrl& folder) {
-  look(folder, Purpose::choose);
+void HomebrewPrefixSelectionViewModel::chooseFolder(const QUrl& folder, const QUrl& shown) {
+  look(folder, shown, Purpose::choose);
 }
 
 void HomebrewPrefixSelectionViewModel::recheck() {
@@ -67,7 +67,7 @@ void HomebrewPrefixSelectionViewModel::recheck() {
     showReport(probeSummary_, QStringLiteral("No Homebrew prefix is selected."));
     return;
   }
-  look(*prefix, Purpose::recheck);
+  look(*prefix, QUrl(), Purpose::recheck);
 }
 
 void HomebrewPrefixSelectionViewModel::reset() {
@@ -79,11 +79,11 @@ void HomebrewPrefixSelectionViewModel::reset() {
   showReport(std::nullopt, std::nullopt);
 }
 
-QCoro::Task<> HomebrewPrefixSelectionViewModel::look(QUrl folder, Purpose purpose) {
+QCoro::Task<> HomebrewPrefixSelectionViewModel::look(QUrl folder, QUrl shown, Purpose purpose) {
   const int request = ++request_;
   const QPointer<HomebrewPrefixSelectionViewModel> self(this);
   const QFuture<HomebrewPrefixProbeSummary> probing =
-      QtConcurrent::run(backgroundThreads(), probe_, folder);
+      QtConcurrent::run(backgroundThreads(), &probeChosenFolder, probe_, folder, shown);
   const HomebrewPrefixProbeSummary summary = co_await probing;
   if (!self || request != request_) {
     co_return;

@@ -60,7 +60,7 @@ class HomebrewPrefixSelectionViewModel : public QObject {
 
   /// Looks at a folder that the user chose and selects it if it is a prefix. A chooser that was
   /// cancelled does not call this.
-  Q_INVOKABLE void chooseFolder(const QUrl& folder);
+  Q_INVOKABLE void chooseFolder(const QUrl& folder, const QUrl& shown = QUrl());
   /// Looks at the selected prefix again.
   Q_INVOKABLE void recheck();
   /// Forgets the selection and the report.
@@ -74,7 +74,7 @@ class HomebrewPrefixSelectionViewModel : public QObject {
   /// What a look at a folder is for.
   enum class Purpose { choose, recheck };
 
-  QCoro::Task<> look(QUrl folder, Purpose purpose);
+  QCoro::Task<> look(QUrl folder, QUrl shown, Purpose purpose);
   void chosen(const HomebrewPrefixProbeSummary& summary);
   void rechecked(const HomebrewPrefixProbeSummary& summary);
   void followSelection();

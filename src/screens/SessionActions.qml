@@ -3,8 +3,8 @@ import QtQuick.Layouts
 import Quillmere.Components
 import Quillmere.Screens
 
-// What can be done with a run. The keyboard goes from the button that cancels, once that can be
-// done no more, to one that still does something.
+// What can be done with a run. The keyboard begins where a second Return, meant for the question
+// before, does no harm, and goes to the button that closes when the run has ended.
 FocusScope {
     id: root
 
@@ -18,7 +18,7 @@ FocusScope {
 
     implicitHeight: row.implicitHeight
 
-    onRunningChanged: if (!running && cancel.activeFocus) close.forceActiveFocus()
+    onRunningChanged: if (!running && activeFocus) close.forceActiveFocus()
 
     RowLayout {
         id: row
@@ -30,6 +30,7 @@ FocusScope {
             id: toggle
 
             accessibleName: root.viewModel.rawOutputToggleAccessibleName
+            focus: true
             text: root.viewModel.rawOutputToggleTitle
 
             onClicked: {
@@ -56,7 +57,6 @@ FocusScope {
             id: cancel
 
             enabled: !root.viewModel.cancellationPending
-            focus: true
             text: root.viewModel.cancelTitle
             visible: root.running
 

@@ -61,6 +61,17 @@ TEST_F(PrefixSelectionWorkflowTest, RefusesAFolderThatIsNoPrefixAndKeepsTheSelec
             "folder that contains `bin/brew`."_s);
 }
 
+TEST_F(PrefixSelectionWorkflowTest, TakesThePrefixThatTheUserWentInto) {
+  prefix_.withFile(u"bin/brew"_s);
+  QCoro::waitFor(
+      workflow_.selectPrefix(QUrl::fromLocalFile(prefix_.pathOf(u"bin"_s)), prefix_.url()));
+  EXPECT_EQ(store_.selectedHomebrewPrefixPath(), prefix_.path());
+  EXPECT_FALSE(workflow_.isRefused());
+  QCoro::waitFor(
+      workflow_.selectPrefix(QUrl::fromLocalFile(prefix_.pathOf(u"bin"_s)), emptyFolder_.url()));
+  EXPECT_TRUE(workflow_.isRefused());
+}
+
 TEST_F(PrefixSelectionWorkflowTest, SaysSoOnce) {
   choose(emptyFolder_.url());
   workflow_.acknowledge();

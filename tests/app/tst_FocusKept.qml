@@ -35,6 +35,43 @@ PackageCase {
         compare(focused(), "wget, Formula, version 1.25.0, Internet file retriever");
     }
 
+    function test_aSectionIsChosenFromAValueThatCanBeCopied() {
+        stage.openPackage("installed");
+        named("Latest known: 1.25.0").forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_4, Qt.ControlModifier);
+        compare(stage.content.selectedSection, "updates");
+    }
+
+    function test_aPageIsScrolledByItsKeys() {
+        stage.content.selectIndex(7);
+        shows("Settings");
+        button("Select Homebrew Prefix").forceActiveFocus(Qt.TabFocusReason);
+        const top = () => named("Local Inventory Refresh").mapToItem(null, 0, 0).y;
+        wait(50);
+        const before = top();
+        keyClick(Qt.Key_PageDown);
+        verify(top() < before);
+        keyClick(Qt.Key_Home);
+        compare(top(), before);
+        keyClick(Qt.Key_End);
+        const last = top();
+        verify(last < before);
+        keyClick(Qt.Key_PageUp);
+        verify(top() > last);
+    }
+
+    function test_aSecondReturnDoesNotCancelTheRun() {
+        stage.selectPrefix();
+        stage.previewUpgrade();
+        press("Run Command");
+        tryVerify(() => button("Confirm brew upgrade") !== null);
+        button("Confirm brew upgrade").forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_Return);
+        tryVerify(() => focused() === "Show command-line output", 3000, focused());
+        keyClick(Qt.Key_Return);
+        shows("Completed with exit code 0");
+    }
+
     function test_aScanOfUpdatesLeadsToTheFirst() {
         stage.content.selectIndex(3);
         stage.showInventory("idle-prefix");

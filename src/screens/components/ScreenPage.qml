@@ -46,6 +46,15 @@ FocusScope {
 
         Keys.onUpPressed: wheel.scrollBy(-Theme.rowHeight)
         Keys.onDownPressed: wheel.scrollBy(Theme.rowHeight)
+        Keys.onPressed: event => {
+            const distance = event.key === Qt.Key_PageUp ? Theme.rowHeight - height
+                           : event.key === Qt.Key_PageDown ? height - Theme.rowHeight
+                           : event.key === Qt.Key_Home ? -contentHeight
+                           : event.key === Qt.Key_End ? contentHeight : 0;
+            event.accepted = distance !== 0;
+            if (event.accepted)
+                wheel.scrollBy(distance);
+        }
 
         ColumnLayout {
             id: column

@@ -22,9 +22,18 @@ TextEdit {
 
     onActiveFocusChanged: if (!activeFocus) deselect()
 
+    ShortcutPassage {
+        target: root
+    }
 
-    FocusRing {
-        shown: root.activeFocus
+    // As high as the text is now: a layout may still think of another height.
+    Item {
+        width: root.width
+        height: root.contentHeight
+
+        FocusRing {
+            shown: root.activeFocus
+        }
     }
 
     HoverHandler {

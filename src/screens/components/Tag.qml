@@ -43,7 +43,7 @@ Rectangle {
         anchors.leftMargin: Theme.small
         anchors.rightMargin: Theme.small
         anchors.topMargin: Theme.tiny
-        color: root.leads ? Theme.text : Theme.secondaryText
+        color: root.leads ? Theme.accent : Theme.secondaryText
         elide: Text.ElideRight
         text: root.text
         verticalAlignment: Text.AlignVCenter
