@@ -16,8 +16,12 @@ FocusScope {
     property bool leads: false
     property string accessibleName: ""
 
+    // Wide enough for the longest name within reason: what is cut off cannot be told apart.
+    readonly property int letterCount: items.reduce((most, name) => Math.max(most, name.length), 0)
+    readonly property real tagWidth: Math.max(Theme.tagWidth, Math.min(
+        2 * Theme.tagWidth, letterCount * letters.averageCharacterWidth + 2 * Theme.small))
     readonly property int columns: Math.max(1, Math.floor((width + Theme.small)
-                                                          / (Theme.tagWidth + Theme.small)))
+                                                          / (tagWidth + Theme.small)))
     readonly property int rows: Math.ceil(items.length / columns)
     readonly property int tagHeight: Math.ceil(letters.height) + 2 * Theme.tiny
 

@@ -85,7 +85,7 @@ QtObject {
     readonly property int twoLineRowHeight: bodySize * 2 + captionSize + large
     readonly property int sidebarWidth: 220
     readonly property int textWidth: 980
-    readonly property int tagWidth: 150
+    readonly property int tagWidth: 120
     readonly property int labelWidth: 140
     readonly property int barWidth: 200
     readonly property int versionWidth: 110
