@@ -115,7 +115,6 @@ TEST_F(MetadataClient, FollowsRedirectsToHttps) {
     Answer moved = redirect(server.url("/moved"), status);
     moved.body = "[\"not this\"]";
     EXPECT_EQ(fetch(moved), "[2]");
-    EXPECT_EQ(requestedPaths().back(), "/moved");
   }
 }
 
