@@ -6,6 +6,7 @@
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
+#include <QtCore/QRunnable>
 #include <QtCore/QStandardPaths>
 
 #include <cstdio>
@@ -250,7 +251,7 @@ void LocalPersistenceStore::removeCacheFile(const QString& path) {
   const QString aside = path + ".cleared"_L1;
   // One that stays is written over by the next.
   if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0) {
-    cacheWriter_.start([aside] { (void)QFile::remove(aside); });
+    cacheWriter_.start(QRunnable::create([aside] { (void)QFile::remove(aside); }));
   }
 }
 
