@@ -1,11 +1,10 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls.Basic
 import Quillmere.App
 import Quillmere.Components
 
-ApplicationWindow {
+ThemedWindow {
     id: root
 
     required property ContentViewModel content
@@ -13,10 +12,8 @@ ApplicationWindow {
 
     width: memory.size.width
     height: memory.size.height
-    color: Theme.window
     minimumWidth: 900
     minimumHeight: 600
-    palette: Theme.controls
     title: "Quillmere"
     visibility: memory.maximized ? Window.Maximized : Window.Windowed
     visible: true

@@ -1,8 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls.Basic
-import Quillmere.Components
+import Quillmere.App
 import Quillmere.Screens
 
 // The settings in a window of their own, made when they are first asked for.
@@ -24,17 +23,15 @@ Item {
         model: root.wanted ? 1 : 0
 
         delegate: Item {
-            ApplicationWindow {
+            ThemedWindow {
                 id: window
 
                 width: view.fixedFrame.width
                 height: view.fixedFrame.height
-                color: Theme.window
                 maximumHeight: height
                 maximumWidth: width
                 minimumHeight: height
                 minimumWidth: width
-                palette: Theme.controls
                 title: "Quillmere Settings"
                 visible: true
 

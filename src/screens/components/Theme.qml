@@ -44,22 +44,6 @@ QtObject {
     readonly property color redFill: dark ? "#452424" : "#fce8e6"
     readonly property color neutralFill: dark ? "#34363d" : "#ebecf1"
 
-    // For what Qt draws by itself: the folder chooser, where the desktop has none.
-    readonly property Palette controls: Palette {
-        base: root.card
-        button: root.controlBorder
-        buttonText: root.text
-        dark: root.controlBorder
-        highlight: root.selection
-        highlightedText: root.selectionText
-        light: root.neutralFill
-        mid: root.pressed
-        midlight: root.hover
-        text: root.text
-        window: root.window
-        windowText: root.text
-    }
-
     readonly property int tiny: 4
     readonly property int small: 8
     readonly property int medium: 12
