@@ -68,14 +68,33 @@ QVariant toVariant(const std::optional<T>& value) {
   return value ? QVariant(*value) : QVariant();
 }
 
+/// Where the settings are, for a thread that opens them for itself.
+struct SettingsFile {
+  QString name;
+  QSettings::Format format;
+};
+
 /// On a disk that fills up while the settings are written their old file is lost with the new one
 /// and nothing is reported, so that this asks beforehand.
-bool hasRoomFor(const QSettings& settings, const QVariant& value) {
+bool hasRoomFor(const QString& fileName, const QVariant& value) {
   constexpr qint64 longestEscape = 4;
   constexpr qint64 keyAndDate = 1024;
-  const QFileInfo file(settings.fileName());
+  const QFileInfo file(fileName);
   const qint64 size = file.size() + longestEscape * value.toByteArray().size() + keyAndDate;
   return !file.exists() || hasRoomBeside(file.filePath(), size);
+}
+
+void writeSetting(const SettingsFile& file, QLatin1StringView key, const QVariant& value) {
+  if (!hasRoomFor(file.name, value)) {
+    return;
+  }
+  QSettings settings(file.name, file.format);
+  if (value.isValid()) {
+    settings.setValue(key, value);
+  } else {
+    settings.remove(key);
+  }
+  settings.sync();
 }
 
 bool isReadableFile(const QString& path) {
@@ -100,6 +119,7 @@ LocalPersistenceStore::LocalPersistenceStore(
       cacheDirectoryURL_(std::move(cacheDirectoryURL)),
       bookmarks_(std::move(bookmarks)) {
   cacheWriter_.setMaxThreadCount(1);
+  settingsWriter_.setMaxThreadCount(1);
   // What the user has reset must not come back out of settings of the whole machine.
   defaults_->setFallbacksEnabled(false);
   load();
@@ -126,26 +146,26 @@ void LocalPersistenceStore::load() {
   commandHistory_ = historyOf(*defaults_);
 }
 
+template <typename T>
+void LocalPersistenceStore::write(QLatin1StringView key, const T& value) {
+  const SettingsFile file{.name = defaults_->fileName(), .format = defaults_->format()};
+  settingsWriter_.start(
+      QRunnable::create([file, key, value] { writeSetting(file, key, toVariant(value)); }));
+}
+
 void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file) {
   const auto document = valueOf<QByteArray>(*defaults_, oldKey);
   if (document && !isReadableFile(filePath(file))) {
     writeCacheFile(document, file);
   }
   if (defaults_->contains(oldKey)) {
-    write(oldKey, QVariant());
+    write(oldKey, std::optional<QByteArray>());
   }
 }
 
-void LocalPersistenceStore::write(QLatin1StringView key, const QVariant& value) {
-  if (!hasRoomFor(*defaults_, value)) {
-    return;
-  }
-  if (value.isValid()) {
-    defaults_->setValue(key, value);
-  } else {
-    defaults_->remove(key);
-  }
-  defaults_->sync();
+QCoro::Task<> LocalPersistenceStore::settled() {
+  const QFuture<void> last = QtConcurrent::run(&settingsWriter_, [] {});
+  co_await last;
 }
 
 template <typename T>
@@ -153,7 +173,7 @@ void LocalPersistenceStore::set(T& property, const T& value, QLatin1StringView k
                                 ChangeSignal changed) {
   const bool isChange = property != value;
   property = value;
-  write(key, toVariant(property));
+  write(key, property);
   if (isChange) {
     Q_EMIT(this->*changed)();
   }
@@ -310,7 +330,7 @@ void LocalPersistenceStore::resetOnboarding() {
 
 void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
   commandHistory_.prepend(record);
-  write(keys::history, toVariant(commandHistory_));
+  write(keys::history, commandHistory_);
   Q_EMIT commandHistoryChanged();
 }
 

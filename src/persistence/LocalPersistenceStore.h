@@ -18,9 +18,10 @@
 namespace quillmere {
 
 /// The one owner of everything that the program remembers between launches. Made once at start and
-/// shared by all windows; every setter writes through to the settings, synced to the disk before it
-/// returns, and reports no error: a failed write is lost, the old value on the disk is not. UI
-/// thread only.
+/// shared by all windows; every setter writes through to the settings at once, on a thread of the
+/// store's own, since a disk that is busy must keep no window waiting. Writes keep the order of
+/// their calls, and those under way are finished before the store is gone. None reports an error: a
+/// failed write is lost, the old value on the disk is not. UI thread only.
 class LocalPersistenceStore : public QObject {
   Q_OBJECT
  public:
@@ -100,6 +101,9 @@ class LocalPersistenceStore : public QObject {
   void clearHistory();
   void resetOnboarding();
 
+  /// Ends when everything that was set so far has been written.
+  QCoro::Task<> settled();
+
   /// Puts `record` at the front of the history, which has no maximum length.
   void appendHistory(const CommandHistoryRecord& record);
   /// Appends the record of a finished run.
@@ -127,7 +131,8 @@ class LocalPersistenceStore : public QObject {
   template <typename T>
   void set(T& property, const T& value, QLatin1StringView key, ChangeSignal changed);
   /// Syncs `value` to the disk, or the removal of the key where there is none.
-  void write(QLatin1StringView key, const QVariant& value);
+  template <typename T>
+  void write(QLatin1StringView key, const T& value);
 
   std::unique_ptr<QSettings> defaults_;
   QUrl cacheDirectoryURL_;
@@ -140,8 +145,10 @@ class LocalPersistenceStore : public QObject {
   CommandHistory commandHistory_;
   /// Counts how often the cache was cleared.
   int clearedCaches_ = 0;
-  /// One thread, so that writes keep their order; its end waits for them.
+  /// One thread each, so that writes keep their order; their ends wait for them. A setting does not
+  /// wait for a document of many megabytes.
   QThreadPool cacheWriter_;
+  QThreadPool settingsWriter_;
 };
 
 }  // namespace quillmere

@@ -60,6 +60,8 @@ TEST(SettingsFile, KeepsTheKeysOfTwoStoresThatWriteInTurn) {
   first->appendHistory(copyOf(u"brew update"_s));
   second->setSelectedHomebrewPrefixPath(std::nullopt);
   second->setSelectedHomebrewPrefixBookmarkData("bookmark");
+  QCoro::waitFor(first->settled());
+  QCoro::waitFor(second->settled());
   const auto restarted = startOverTheBytesOf(settings);
   EXPECT_TRUE(restarted->hasCompletedOnboarding());
   EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), std::nullopt);
@@ -71,12 +73,14 @@ TEST(SettingsFile, KeepsTheKeysOfAnotherProcessThatWasOpenAllTheTime) {
   const test::TemporarySettings settings;
   const auto store = startOver(settings);
   store->setHasCompletedOnboarding(true);
+  QCoro::waitFor(store->settled());
   ASSERT_TRUE(hasEndedWell(inAnotherProcess([&] {
     const auto other = startOver(settings);
     other->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
     other->appendHistory(copyOf(u"brew update"_s));
   })));
   store->setSelectedHomebrewPrefixBookmarkData("bookmark");
+  QCoro::waitFor(store->settled());
   const auto restarted = startOverTheBytesOf(settings);
   EXPECT_TRUE(restarted->hasCompletedOnboarding());
   EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/opt/homebrew"_s);
@@ -113,6 +117,7 @@ TEST(SettingsFile, KeepsTheOldValuesOnAFullDisk) {
   const auto store = startOver(settings);
   store->setCommandHistory(history);
   store->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
+  QCoro::waitFor(store->settled());
   const qint64 size = QFile(settings.file()).size();
   for (const qint64 room : {qint64(0), size / 2, size - 1, size, size + 50}) {
     for (const qsizetype length : {10, 5'000, 20'000, 100'000, 1'000'000}) {

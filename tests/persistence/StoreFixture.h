@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QCoroTask>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
+#include <QtCore/QPointer>
 
 #include <gtest/gtest.h>
 #include <memory>
+#include <vector>
 
 #include "persistence/LocalPersistenceStore.h"
 #include "support/Printers.h"
@@ -31,8 +34,20 @@ class StoreFixture : public testing::Test {
  protected:
   std::unique_ptr<LocalPersistenceStore> start(
       std::shared_ptr<const SecurityScopedBookmarks> bookmarks = platformBookmarks()) const {
-    return std::make_unique<LocalPersistenceStore>(settings_.open(), settings_.cacheDirectoryURL(),
-                                                   bookmarks);
+    settle();
+    auto store = std::make_unique<LocalPersistenceStore>(settings_.open(),
+                                                         settings_.cacheDirectoryURL(), bookmarks);
+    stores_.emplace_back(store.get());
+    return store;
+  }
+
+  /// What the stores wrote is on the disk now.
+  void settle() const {
+    for (const QPointer<LocalPersistenceStore>& store : stores_) {
+      if (store) {
+        QCoro::waitFor(store->settled());
+      }
+    }
   }
 
   void given(const QString& key, const QVariant& value) const {
@@ -41,7 +56,10 @@ class StoreFixture : public testing::Test {
     settings->sync();
   }
 
-  [[nodiscard]] QVariant stored(const QString& key) const { return settings_.open()->value(key); }
+  [[nodiscard]] QVariant stored(const QString& key) const {
+    settle();
+    return settings_.open()->value(key);
+  }
 
   [[nodiscard]] QString cacheFile(const QString& name) const {
     return settings_.cacheDirectoryURL().toLocalFile() + u'/' + name;
@@ -59,6 +77,9 @@ class StoreFixture : public testing::Test {
   }
 
   TemporarySettings settings_;
+
+ private:
+  mutable std::vector<QPointer<LocalPersistenceStore>> stores_;
 };
 
 }  // namespace quillmere::test
