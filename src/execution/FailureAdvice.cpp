@@ -9,7 +9,7 @@
 namespace quillmere {
 namespace {
 
-constexpr qsizetype endBytes = 64 * 1024;
+constexpr qsizetype endBytes = 65'536;
 
 struct Advice {
   /// What Homebrew prints.

@@ -74,7 +74,7 @@ HomebrewPrefixProbeSummary probeChosenFolder(
   if (summary.looksLikeHomebrewPrefix() || shown.isEmpty() || shown == chosen) {
     return summary;
   }
-  HomebrewPrefixProbeSummary around = probe(shown);
+  const HomebrewPrefixProbeSummary around = probe(shown);
   return around.looksLikeHomebrewPrefix() ? around : summary;
 }
 
