@@ -16,7 +16,7 @@ namespace quillmere {
 /// The Cleanup screen: what a cleanup would be about. The cache is measured on another thread, and
 /// only while the screen is shown: it may hold very many files. Owned by `ContentViewModel`; UI
 /// thread only.
-class CleanupGuidanceViewModel : public LocalInventoryViewModel {
+class CleanupGuidanceViewModel : public quillmere::LocalInventoryViewModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")

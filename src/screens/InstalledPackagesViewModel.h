@@ -11,7 +11,7 @@
 namespace quillmere {
 
 /// The Installed screen: the local inventory, searched and filtered. UI thread only.
-class InstalledPackagesViewModel : public LocalInventoryViewModel {
+class InstalledPackagesViewModel : public quillmere::LocalInventoryViewModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")

@@ -13,7 +13,8 @@
 namespace quillmere {
 
 /// What the screens of the local inventory have in common: they are told what is known of it, say
-/// what stands in place of a list, and ask for scans. UI thread only.
+/// what stands in place of a list, and ask for scans. Those who derive from it name it with its
+/// namespace, by which alone qmllint finds it. UI thread only.
 class LocalInventoryViewModel : public QObject {
   Q_OBJECT
   QML_ELEMENT

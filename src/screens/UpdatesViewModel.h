@@ -10,7 +10,7 @@ namespace quillmere {
 
 /// The Updates screen: which installed packages look outdated. Owned by `ContentViewModel`; UI
 /// thread only.
-class UpdatesViewModel : public LocalInventoryViewModel {
+class UpdatesViewModel : public quillmere::LocalInventoryViewModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")

@@ -1,8 +1,10 @@
 #include "screens/components/ShortcutPassage.h"
 
+#include <QtCore/QEvent>
+
 namespace quillmere {
 
-void ShortcutPassage::setTarget(QQuickItem* target) {
+void ShortcutPassage::setTarget(QObject* target) {
   if (target_ == target) {
     return;
   }

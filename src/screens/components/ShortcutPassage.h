@@ -1,24 +1,24 @@
 #pragma once
 
+#include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
-#include <QtQuick/QQuickItem>
 
 namespace quillmere {
 
-/// Lets the window's shortcuts work while `target` has the keyboard. A text of Qt's that can be
-/// read only claims every key for itself, those that it has no use for as well. Made by the text;
-/// UI thread only.
+/// Lets the window's shortcuts work while the item `target` has the keyboard. A text of Qt's that
+/// can be read only claims every key for itself, those that it has no use for as well. Made by the
+/// text; UI thread only.
 class ShortcutPassage : public QObject {
   Q_OBJECT
   QML_ELEMENT
-  Q_PROPERTY(QQuickItem* target READ target WRITE setTarget NOTIFY targetChanged)
+  Q_PROPERTY(QObject* target READ target WRITE setTarget NOTIFY targetChanged)
 
  public:
   using QObject::QObject;
 
-  [[nodiscard]] QQuickItem* target() const { return target_; }
+  [[nodiscard]] QObject* target() const { return target_; }
 
-  void setTarget(QQuickItem* target);
+  void setTarget(QObject* target);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -26,7 +26,7 @@ class ShortcutPassage : public QObject {
   void targetChanged();
 
  private:
-  QQuickItem* target_ = nullptr;
+  QObject* target_ = nullptr;
 };
 
 }  // namespace quillmere

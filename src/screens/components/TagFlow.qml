@@ -17,7 +17,8 @@ FocusScope {
     property string accessibleName: ""
 
     // Wide enough for the longest name within reason: what is cut off cannot be told apart.
-    readonly property int letterCount: items.reduce((most, name) => Math.max(most, name.length), 0)
+    readonly property int letterCount: Array.from(items).reduce(
+        (most, name) => Math.max(most, name.length), 0)
     readonly property real tagWidth: Math.max(Theme.tagWidth, Math.min(
         2 * Theme.tagWidth, letterCount * letters.averageCharacterWidth + 2 * Theme.small))
     readonly property int columns: Math.max(1, Math.floor((width + Theme.small)
