@@ -28,6 +28,12 @@ const CatalogBytes& realCatalog() {
   return documents;
 }
 
+const CatalogBytes& catalogAtHand() {
+  static const CatalogBytes documents =
+      realCatalog().isEmpty() ? generatedCatalog(1) : realCatalog();
+  return documents;
+}
+
 CatalogBytes generatedCatalog(int times) {
   return {.formulae = generatedFormulaDocument(8554 * times),
           .casks = generatedCaskDocument(7701 * times)};

@@ -17,6 +17,9 @@ struct CatalogBytes {
 /// or `xz` are not at hand. The environment variable QUILLMERE_REAL_DATA names their folder.
 [[nodiscard]] const CatalogBytes& realCatalog();
 
+/// The real documents, or, where they are not at hand, made-up ones of as many packages.
+[[nodiscard]] const CatalogBytes& catalogAtHand();
+
 /// As many made-up packages, `times` over.
 [[nodiscard]] CatalogBytes generatedCatalog(int times);
 

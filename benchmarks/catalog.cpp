@@ -15,14 +15,10 @@
 namespace quillmere {
 namespace {
 
-/// Runs `task` on the real documents, or says that they are absent.
+/// Runs `task` on the real documents, or on as many generated packages.
 template <typename Task>
-void onRealDocuments(benchmark::State& state, const Task& task) {
-  const CatalogBytes& documents = realCatalog();
-  if (documents.isEmpty()) {
-    state.SkipWithError("no real documents; QUILLMERE_REAL_DATA names their folder");
-    return;
-  }
+void onDocuments(benchmark::State& state, const Task& task) {
+  const CatalogBytes& documents = catalogAtHand();
   for (auto _ : state) {
     task(documents);
   }
@@ -42,14 +38,14 @@ void parse(const QByteArray& document) {
 
 /// As the program does it: side by side, to summaries with their search index.
 void decodeBothToCatalog(benchmark::State& state) {
-  onRealDocuments(
+  onDocuments(
       state, [](const CatalogBytes& documents) { benchmark::DoNotOptimize(catalogOf(documents)); });
 }
 
 BENCHMARK(decodeBothToCatalog)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 void parseBothWithSimdjsonDom(benchmark::State& state) {
-  onRealDocuments(state, [](const CatalogBytes& documents) {
+  onDocuments(state, [](const CatalogBytes& documents) {
     parse(documents.formulae);
     parse(documents.casks);
   });
@@ -58,7 +54,7 @@ void parseBothWithSimdjsonDom(benchmark::State& state) {
 BENCHMARK(parseBothWithSimdjsonDom)->Unit(benchmark::kMillisecond);
 
 void parseBothWithQJsonDocument(benchmark::State& state) {
-  onRealDocuments(state, [](const CatalogBytes& documents) {
+  onDocuments(state, [](const CatalogBytes& documents) {
     benchmark::DoNotOptimize(QJsonDocument::fromJson(documents.formulae));
     benchmark::DoNotOptimize(QJsonDocument::fromJson(documents.casks));
   });
@@ -123,7 +119,7 @@ double allocated() {
 void keepCatalog(benchmark::State& state) {
   double kept = 0;
   std::size_t texts = 0;
-  onRealDocuments(state, [&](const CatalogBytes& documents) {
+  onDocuments(state, [&](const CatalogBytes& documents) {
     const double before = allocated();
     const PackageCatalogSnapshot catalog = catalogOf(documents);
     kept = allocated() - before;
@@ -139,12 +135,9 @@ void keepCatalog(benchmark::State& state) {
 
 BENCHMARK(keepCatalog)->Unit(benchmark::kMillisecond);
 
-/// The catalog that searches are measured on: the real one, or as many generated packages.
+/// The catalog that searches are measured on.
 const PackageCatalog& searchedCatalog() {
-  static const PackageCatalogSnapshot catalog = [] {
-    const CatalogBytes& real = realCatalog();
-    return catalogOf(real.isEmpty() ? generatedCatalog(1) : real);
-  }();
+  static const PackageCatalogSnapshot catalog = catalogOf(catalogAtHand());
   return *catalog;
 }
 

@@ -1,8 +1,6 @@
-#include <QtCore/QElapsedTimer>
 #include <QtCore/QEventLoop>
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
-#include <QtCore/QTimer>
 #include <QtGui/QGuiApplication>
 
 #include <algorithm>
@@ -11,6 +9,7 @@
 #include <sys/wait.h>
 #include <vector>
 
+#include "LongestGap.h"
 #include "commands/BrewCommandBuilder.h"
 #include "execution/ChildProcess.h"
 #include "execution/DirectCommandRunner.h"
@@ -62,33 +61,13 @@ void readInAPlainLoop(benchmark::State& state) {
   state.SetBytesProcessed(state.iterations() * state.range(0) * megabyte);
 }
 
-/// The longest time that the thread of this object was away from its event loop, told by a timer
-/// that is due every millisecond.
-class LoopWatch : public QObject {
- public:
-  LoopWatch() {
-    timer_.setTimerType(Qt::PreciseTimer);
-    connect(&timer_, &QTimer::timeout, this,
-            [this] { longest_ = std::max(longest_, clock_.restart()); });
-    clock_.start();
-    timer_.start(1);
-  }
-
-  [[nodiscard]] double longestMilliseconds() const { return static_cast<double>(longest_); }
-
- private:
-  QTimer timer_;
-  QElapsedTimer clock_;
-  qint64 longest_ = 0;
-};
-
 void runIntoTheModels(benchmark::State& state) {
   const ChattyPrefix prefix(state.range(0) * megabyte);
   const auto runner = std::make_shared<DirectCommandRunner>();
   const BrewCommand command = BrewCommandBuilder().upgrade(std::nullopt).value();
   double longestAway = 0;
   for (auto _ : state) {
-    const LoopWatch watch;
+    LongestGap gap;
     DirectExecutionSessionController controller(command, {}, prefix.resolution(), runner);
     DirectExecutionSessionViewModel model(controller);
     QEventLoop loop;
@@ -96,13 +75,13 @@ void runIntoTheModels(benchmark::State& state) {
                      &QEventLoop::quit);
     controller.start();
     loop.exec();
-    longestAway = std::max(longestAway, watch.longestMilliseconds());
+    longestAway = std::max(longestAway, gap.milliseconds());
     if (controller.result()->standardOutput.size() < state.range(0) * megabyte ||
         model.rawOutput()->rowCount() < 1000) {
       state.SkipWithError("output was lost");
     }
   }
-  state.counters["longest_away_ms"] = longestAway;
+  state.counters["longestGapMs"] = longestAway;
   state.SetBytesProcessed(state.iterations() * state.range(0) * megabyte);
 }
 
