@@ -6,4 +6,5 @@ target_compile_definitions(benchmark_real_catalog PRIVATE
 
 quillmere_benchmark(catalog
   SOURCES catalog.cpp
+  LARGE "/(3|10)"
   LINK quillmere_catalog benchmark_real_catalog simdjson::simdjson)
