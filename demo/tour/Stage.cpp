@@ -7,7 +7,6 @@
 
 #include <algorithm>
 
-#include "execution/DirectCommandRunner.h"
 #include "platform/FileUrl.h"
 
 namespace quillmere::demo {
@@ -72,21 +71,16 @@ Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
   // Where the folder chooser begins.
   qputenv("HOME", QFile::encodeName(home_.folder));
   disk_->released.release();
-  const auto settings = [this] {
-    return std::make_unique<QSettings>(home_.settingsFile(), QSettings::NativeFormat);
-  };
-  store_ = std::make_unique<LocalPersistenceStore>(settings(), fileUrl(home_.catalogFolder()));
-  memory_ = std::make_unique<WindowMemory>(settings());
-  content_ = std::make_unique<ContentViewModel>(
-      *store_, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
-      CatalogWorkflows::Clients{.formulae = {.apiURL = nowhere(), .session = &session_},
-                                .casks = {.apiURL = nowhere(), .session = &session_}},
-      BrewExecutableResolver(disk_));
-  engine_.addImportPath(u"qrc:/qt/qml"_s);
-  engine_.setInitialProperties({{u"content"_s, QVariant::fromValue(content_.get())},
-                                {u"memory"_s, QVariant::fromValue(memory_.get())}});
-  engine_.load(QUrl(u"qrc:/qt/qml/Quillmere/App/MainWindow.qml"_s));
-  if (engine_.rootObjects().isEmpty()) {
+  app_ = std::make_unique<QuillmereApp>(AppSurroundings{
+      .settings =
+          [file = home_.settingsFile()] {
+            return std::make_unique<QSettings>(file, QSettings::NativeFormat);
+          },
+      .cacheDirectoryURL = fileUrl(home_.catalogFolder()),
+      .formulaeURL = nowhere(),
+      .casksURL = nowhere(),
+      .resolver = BrewExecutableResolver(disk_)});
+  if (!app_->open()) {
     throw TourError(u"The window does not open"_s);
   }
   window()->resize(size);
@@ -96,10 +90,6 @@ Stage::~Stage() = default;
 
 QUrl Stage::prefix() const {
   return fileUrl(home_.prefix());
-}
-
-QQuickWindow* Stage::window() const {
-  return qobject_cast<QQuickWindow*>(engine_.rootObjects().constFirst());
 }
 
 void Stage::setPace(int percent) const {
@@ -172,39 +162,39 @@ void Stage::scrollToBeginning() const {
 }
 
 void Stage::loadCatalog(const QString& nextPicture) {
-  FormulaCatalogViewModel& browse = *content_->browse();
+  FormulaCatalogViewModel& browse = *content().browse();
   browse.loadCachedAll();
   waitFor(nextPicture, [&] { return browse.state() == FormulaCatalogViewModel::Listed; });
 }
 
 void Stage::scan(const QString& nextPicture) {
-  content_->installed()->scanWanted();
+  content().installed()->scanWanted();
   waitFor(nextPicture, [this] {
-    return content_->inventory().state().packages() != nullptr &&
-           !content_->inventory().scanProgress();
+    return content().inventory().state().packages() != nullptr &&
+           !content().inventory().scanProgress();
   });
 }
 
 void Stage::show(AppSection section) {
-  content_->details()->clear();
-  content_->select(section);
+  content().details()->clear();
+  content().select(section);
 }
 
 void Stage::openPreview(const BrewCommand& command, const QString& screen) {
-  content_->openPreview(command, screen);
+  content().openPreview(command, screen);
 }
 
 void Stage::run(const QString& nextPicture) {
-  content_->preview()->run();
-  if (content_->preview()->confirmationPending()) {
-    content_->preview()->confirmRun();
+  content().preview()->run();
+  if (content().preview()->confirmationPending()) {
+    content().preview()->confirmRun();
   }
-  waitFor(nextPicture, [this] { return content_->preview()->session() != nullptr; });
+  waitFor(nextPicture, [this] { return content().preview()->session() != nullptr; });
 }
 
-void Stage::waitForEndOfRun(const QString& nextPicture) const {
+void Stage::waitForEndOfRun(const QString& nextPicture) {
   waitFor(nextPicture, [this] {
-    return content_->preview()->session() != nullptr && !content_->preview()->isRunning();
+    return content().preview()->session() != nullptr && !content().preview()->isRunning();
   });
 }
 

@@ -1,17 +1,13 @@
 #pragma once
 
 #include <QtCore/QTemporaryDir>
-#include <QtNetwork/QNetworkAccessManager>
-#include <QtQml/QQmlApplicationEngine>
 
 #include <functional>
 #include <memory>
 
-#include "app/ContentViewModel.h"
-#include "app/WindowMemory.h"
+#include "app/QuillmereApp.h"
 #include "demo/DemoHome.h"
 #include "demo/tour/Album.h"
-#include "persistence/LocalPersistenceStore.h"
 #include "support/HeldFileSystem.h"
 
 namespace quillmere::demo {
@@ -23,15 +19,15 @@ class Stage {
   ~Stage();
   Q_DISABLE_COPY_MOVE(Stage)
 
-  [[nodiscard]] ContentViewModel& content() { return *content_; }
+  [[nodiscard]] ContentViewModel& content() { return app_->content(); }
 
-  [[nodiscard]] LocalPersistenceStore& store() { return *store_; }
+  [[nodiscard]] LocalPersistenceStore& store() { return app_->store(); }
 
   [[nodiscard]] const DemoHome& home() const { return home_; }
 
   [[nodiscard]] QUrl prefix() const;
 
-  [[nodiscard]] QQuickWindow* window() const;
+  [[nodiscard]] QQuickWindow* window() const { return app_->window(); }
 
   /// How fast the home's `brew` is, in percent of the usual.
   void setPace(int percent) const;
@@ -70,7 +66,7 @@ class Stage {
   void openPreview(const BrewCommand& command, const QString& screen);
   /// Runs what the open preview shows, and confirms it where that is asked for.
   void run(const QString& nextPicture);
-  void waitForEndOfRun(const QString& nextPicture) const;
+  void waitForEndOfRun(const QString& nextPicture);
 
   /// Lets the program find the way to `brew`, or keeps it looking.
   void holdDisk() const { disk_->released.acquire(); }
@@ -84,11 +80,7 @@ class Stage {
   QTemporaryDir folder_{QDir::tempPath() + QStringLiteral("/demo-XXXXXX")};
   DemoHome home_;
   std::shared_ptr<test::HeldFileSystem> disk_ = std::make_shared<test::HeldFileSystem>();
-  QNetworkAccessManager session_;
-  std::unique_ptr<LocalPersistenceStore> store_;
-  std::unique_ptr<WindowMemory> memory_;
-  std::unique_ptr<ContentViewModel> content_;
-  QQmlApplicationEngine engine_;
+  std::unique_ptr<QuillmereApp> app_;
 };
 
 }  // namespace quillmere::demo

@@ -7,6 +7,7 @@
 #include <QtQuickControls2/QQuickStyle>
 
 #include <memory>
+#include <utility>
 
 #include "execution/DirectCommandRunner.h"
 
@@ -21,12 +22,14 @@ void QuillmereApp::prepare() {
   QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 }
 
-QuillmereApp::QuillmereApp()
-    : localPersistenceStore_(std::make_unique<QSettings>()),
-      windowMemory_(std::make_unique<QSettings>()),
+QuillmereApp::QuillmereApp(AppSurroundings surroundings)
+    : localPersistenceStore_(surroundings.settings(), std::move(surroundings.cacheDirectoryURL)),
+      windowMemory_(surroundings.settings()),
       content_(localPersistenceStore_, AppCapabilities::all(),
                std::make_shared<DirectCommandRunner>(),
-               {.formulae = {.session = &session_}, .casks = {.session = &session_}}) {
+               {.formulae = {.apiURL = std::move(surroundings.formulaeURL), .session = &session_},
+                .casks = {.apiURL = std::move(surroundings.casksURL), .session = &session_}},
+               std::move(surroundings.resolver)) {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
 }
 
@@ -34,7 +37,12 @@ bool QuillmereApp::open() {
   engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)},
                                 {QStringLiteral("memory"), QVariant::fromValue(&windowMemory_)}});
   engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/App/MainWindow.qml")));
-  return !engine_.rootObjects().isEmpty();
+  return window() != nullptr;
+}
+
+QQuickWindow* QuillmereApp::window() const {
+  const QObjectList windows = engine_.rootObjects();
+  return windows.isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(windows.constFirst());
 }
 
 }  // namespace quillmere

@@ -4,11 +4,28 @@
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtQml/QQmlApplicationEngine>
 
+#include <functional>
+#include <memory>
+
 #include "app/ContentViewModel.h"
 #include "app/WindowMemory.h"
 #include "persistence/LocalPersistenceStore.h"
 
+class QQuickWindow;
+
 namespace quillmere {
+
+/// What the program works with; by default what it finds on the machine.
+struct AppSurroundings {
+  /// Opens the settings, once for each that remembers something.
+  std::function<std::unique_ptr<QSettings>()> settings = [] {
+    return std::make_unique<QSettings>();
+  };
+  QUrl cacheDirectoryURL = LocalPersistenceStore::defaultCacheDirectoryURL();
+  QUrl formulaeURL = HomebrewFormulaMetadataClient::defaultApiURL();
+  QUrl casksURL = HomebrewCaskMetadataClient::defaultApiURL();
+  BrewExecutableResolver resolver;
+};
 
 /// The program: the one store that all windows share, what this build may do, and the windows.
 /// Lives on the stack of `main`; UI thread only.
@@ -17,10 +34,17 @@ class QuillmereApp {
   /// Names the program and fixes its look; before the application object is made.
   static void prepare();
 
-  QuillmereApp();
+  explicit QuillmereApp(AppSurroundings surroundings = AppSurroundings());
 
   /// Opens the main window. Returns whether there is one.
   [[nodiscard]] bool open();
+
+  [[nodiscard]] LocalPersistenceStore& store() { return localPersistenceStore_; }
+
+  [[nodiscard]] ContentViewModel& content() { return content_; }
+
+  /// The main window; null until it is open.
+  [[nodiscard]] QQuickWindow* window() const;
 
  private:
   LocalPersistenceStore localPersistenceStore_;

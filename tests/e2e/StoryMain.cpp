@@ -3,7 +3,6 @@
 #include <QtGui/QGuiApplication>
 #include <QtNetwork/QSslCertificate>
 #include <QtNetwork/QSslConfiguration>
-#include <QtQuick/QQuickWindow>
 
 #include "StoryProbe.h"
 #include "app/QuillmereApp.h"
@@ -50,7 +49,7 @@ int run(WatchedApplication& application, const QString& reportFile) {
   {
     QuillmereApp app;
     if (app.open()) {
-      probe.watch(qobject_cast<QQuickWindow*>(QGuiApplication::topLevelWindows().constFirst()));
+      probe.watch(app.window());
       status = QGuiApplication::exec();
     }
   }
