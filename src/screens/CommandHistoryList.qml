@@ -27,12 +27,15 @@ Card {
         Layout.fillWidth: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
+        // A row is made in no time: none is begun beforehand, to be given up when the list changes.
+        cacheBuffer: 0
         clip: true
         focus: true
         interactive: wheel.touched
         // Also under the pointer, where nothing may be dragged.
         keyNavigationEnabled: true
         model: root.viewModel.records
+        reuseItems: true
 
         Accessible.role: Accessible.List
         Accessible.name: "Command history"
@@ -48,6 +51,16 @@ Card {
             id: wheel
 
             flickable: list
+        }
+
+        // Another search begins at its first answer.
+        Connections {
+            function onReplaced(): void {
+                list.currentIndex = 0;
+                list.positionViewAtBeginning();
+            }
+
+            target: root.viewModel.records
         }
     }
 }

@@ -91,7 +91,7 @@ QString accessibleLabel(const CommandHistoryRecord& record) {
 
 CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& store,
                                                  QObject* parent)
-    : QAbstractListModel(parent), store_(store), records_(store.commandHistory()) {
+    : ReplacedRowsModel(parent), store_(store), records_(store.commandHistory()) {
   connect(&store_, &LocalPersistenceStore::commandHistoryChanged, this,
           &CommandHistoryListModel::follow);
 }
@@ -164,11 +164,11 @@ void CommandHistoryListModel::follow() {
     return;
   }
   ++history_;
-  beginResetModel();
-  records_ = now;
   folded_.clear();
-  isNarrowed_ = false;
-  endResetModel();
+  replaceRows(static_cast<int>(now.size()), [this, &now] {
+    records_ = now;
+    isNarrowed_ = false;
+  });
   update();
 }
 
@@ -182,7 +182,7 @@ void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
     beginInsertRows({}, 0, 0);
   }
   records_ = now;
-  findRows();
+  rows_ = isNarrowed_ ? foundRows() : std::vector<int>();
   if (isShown) {
     endInsertRows();
   }
@@ -198,23 +198,23 @@ void CommandHistoryListModel::update() {
   if (narrows && !isFolded()) {
     folded_ = foldedSearchTexts(records_);
   }
-  beginResetModel();
-  isNarrowed_ = narrows;
-  findRows();
-  endResetModel();
+  std::vector<int> rows = narrows ? foundRows() : std::vector<int>();
+  const int count = narrows ? static_cast<int>(rows.size()) : recordCount();
+  replaceRows(count, [&] {
+    isNarrowed_ = narrows;
+    rows_ = std::move(rows);
+  });
   Q_EMIT changed();
 }
 
-void CommandHistoryListModel::findRows() {
-  rows_.clear();
-  if (!isNarrowed_) {
-    return;
-  }
+std::vector<int> CommandHistoryListModel::foundRows() const {
+  std::vector<int> rows;
   for (int row = 0; row < recordCount(); ++row) {
     if (containsSearchable(folded_[static_cast<std::size_t>(row)], query_)) {
-      rows_.push_back(row);
+      rows.push_back(row);
     }
   }
+  return rows;
 }
 
 QCoro::Task<> CommandHistoryListModel::fold() {

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QCoroTask>
-#include <QtCore/QAbstractListModel>
 #include <QtQml/qqmlregistration.h>
 
 #include <string>
 #include <vector>
 
 #include "persistence/CommandHistory.h"
+#include "screens/ReplacedRowsModel.h"
 
 namespace quillmere {
 
@@ -16,7 +16,7 @@ class LocalPersistenceStore;
 /// The rows of the history that match the search, in the store's order. Follows the store; owned by
 /// `CommandHistoryViewModel`. Lives on the UI thread; a large history is made ready for its first
 /// search on another one.
-class CommandHistoryListModel : public QAbstractListModel {
+class CommandHistoryListModel : public ReplacedRowsModel {
   Q_OBJECT
   QML_ANONYMOUS
 
@@ -56,7 +56,7 @@ class CommandHistoryListModel : public QAbstractListModel {
   void follow();
   void insertInFront(const CommandHistory& now);
   void update();
-  void findRows();
+  [[nodiscard]] std::vector<int> foundRows() const;
   QCoro::Task<> fold();
   [[nodiscard]] bool isFolded() const;
   [[nodiscard]] const CommandHistoryRecord& at(int row) const;

@@ -29,10 +29,11 @@ void InstalledPackageListModel::show(InstalledPackagesSnapshot packages,
   if (packages_ == packages && places_ == places) {
     return;
   }
-  beginResetModel();
-  packages_ = std::move(packages);
-  places_ = std::move(places);
-  endResetModel();
+  const int count = static_cast<int>(places.size());
+  replaceRows(count, [&] {
+    packages_ = std::move(packages);
+    places_ = std::move(places);
+  });
 }
 
 const InstalledPackageSummary& InstalledPackageListModel::package(int row) const {

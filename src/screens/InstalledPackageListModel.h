@@ -1,12 +1,10 @@
 #pragma once
 
-#include <QtCore/QAbstractListModel>
-#include <QtQml/qqmlregistration.h>
-
 #include <memory>
 #include <vector>
 
 #include "guidance/InstalledPackageSummary.h"
+#include "screens/ReplacedRowsModel.h"
 
 namespace quillmere {
 
@@ -14,7 +12,7 @@ using InstalledPackagesSnapshot = std::shared_ptr<const std::vector<InstalledPac
 
 /// Rows of the local inventory, as places in the shared list: their texts are made when a row comes
 /// into view. Owned by `InstalledPackagesViewModel`; UI thread only.
-class InstalledPackageListModel : public QAbstractListModel {
+class InstalledPackageListModel : public ReplacedRowsModel {
   Q_OBJECT
   QML_ANONYMOUS
 
@@ -29,7 +27,7 @@ class InstalledPackageListModel : public QAbstractListModel {
     AccessibleLabelRole,
   };
 
-  using QAbstractListModel::QAbstractListModel;
+  using ReplacedRowsModel::ReplacedRowsModel;
 
   /// Shows the packages at these places of `packages`, which may be null only where there are none.
   void show(InstalledPackagesSnapshot packages, std::vector<std::size_t> places);

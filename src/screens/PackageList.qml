@@ -67,7 +67,7 @@ ListView {
 
     // Another search begins at its first answer.
     Connections {
-        function onModelReset(): void {
+        function onReplaced(): void {
             root.currentIndex = 0;
             root.positionViewAtBeginning();
         }

@@ -21,10 +21,11 @@ void PackageListModel::show(PackageCatalogSnapshot catalog, std::vector<std::siz
   if (catalog_ == catalog && places_ == places) {
     return;
   }
-  beginResetModel();
-  catalog_ = std::move(catalog);
-  places_ = std::move(places);
-  endResetModel();
+  const int count = static_cast<int>(places.size());
+  replaceRows(count, [&] {
+    catalog_ = std::move(catalog);
+    places_ = std::move(places);
+  });
 }
 
 const HomebrewPackageSummary& PackageListModel::package(int row) const {

@@ -1,17 +1,15 @@
 #pragma once
 
-#include <QtCore/QAbstractListModel>
-#include <QtQml/qqmlregistration.h>
-
 #include <vector>
 
 #include "catalog/PackageCatalog.h"
+#include "screens/ReplacedRowsModel.h"
 
 namespace quillmere {
 
 /// Rows of the catalog, as places in the shared snapshot: their texts are made when a row comes
 /// into view. Owned by `FormulaCatalogViewModel`; UI thread only.
-class PackageListModel : public QAbstractListModel {
+class PackageListModel : public ReplacedRowsModel {
   Q_OBJECT
   QML_ANONYMOUS
 
@@ -24,7 +22,7 @@ class PackageListModel : public QAbstractListModel {
     AccessibleLabelRole,
   };
 
-  using QAbstractListModel::QAbstractListModel;
+  using ReplacedRowsModel::ReplacedRowsModel;
 
   /// Shows the packages at these places of `catalog`, which may be null only where there are none.
   void show(PackageCatalogSnapshot catalog, std::vector<std::size_t> places);

@@ -69,11 +69,39 @@ TEST_F(PackageListModelTest, GivesThePackageOfARow) {
 TEST_F(PackageListModelTest, StaysAsItIsWhenTheSameIsShownAgain) {
   const PackageCatalogSnapshot catalog = someCatalog();
   model_.show(catalog, {0, 2});
-  const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
+  const QSignalSpy replaced(&model_, &PackageListModel::replaced);
   model_.show(catalog, {0, 2});
-  EXPECT_TRUE(resets.isEmpty());
+  EXPECT_TRUE(replaced.isEmpty());
   model_.show(catalog, {0});
-  EXPECT_EQ(resets.size(), 1);
+  EXPECT_EQ(replaced.size(), 1);
+}
+
+TEST_F(PackageListModelTest, ChangesTheRowsInViewInsteadOfMakingThemAnew) {
+  const PackageCatalogSnapshot catalog = someCatalog();
+  model_.show(catalog, {0, 1, 2});
+  const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
+  const QSignalSpy changed(&model_, &QAbstractItemModel::dataChanged);
+  const QSignalSpy removed(&model_, &QAbstractItemModel::rowsRemoved);
+  const QSignalSpy inserted(&model_, &QAbstractItemModel::rowsInserted);
+
+  model_.show(catalog, {2});
+  EXPECT_EQ(at(0, Role::NameRole), u"Mozilla Firefox"_s);
+  ASSERT_EQ(removed.size(), 1);
+  EXPECT_EQ(removed[0][1], 1);
+  EXPECT_EQ(removed[0][2], 2);
+  ASSERT_EQ(changed.size(), 1);
+  EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
+  EXPECT_EQ(changed[0][1].toModelIndex().row(), 0);
+
+  model_.show(catalog, {0, 1});
+  ASSERT_EQ(inserted.size(), 1);
+  EXPECT_EQ(inserted[0][1], 1);
+  EXPECT_EQ(inserted[0][2], 1);
+  EXPECT_EQ(changed.size(), 2);
+
+  model_.show(catalog, {});
+  EXPECT_EQ(changed.size(), 2);
+  EXPECT_TRUE(resets.isEmpty());
 }
 
 TEST_F(PackageListModelTest, NamesItsRolesForTheRows) {
