@@ -5,6 +5,7 @@
 #include <QtCore/QPointer>
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "guidance/FreshnessIndicator.h"
@@ -13,6 +14,9 @@
 
 namespace quillmere {
 namespace {
+
+/// What is answered within it feels immediate.
+constexpr std::chrono::milliseconds feltWait{100};
 
 QString freshnessLabel() {
   return QStringLiteral("Catalog");
@@ -23,6 +27,9 @@ QString freshnessLabel() {
 FormulaCatalogViewModel::FormulaCatalogViewModel(Clock clock, QObject* parent)
     : QObject(parent), clock_(std::move(clock)) {
   connect(&search_, &PackageSearch::changed, this, [this] { filter(); });
+  waitIsFelt_.setSingleShot(true);
+  waitIsFelt_.setInterval(feltWait);
+  connect(&waitIsFelt_, &QTimer::timeout, this, &FormulaCatalogViewModel::showResults);
 }
 
 auto FormulaCatalogViewModel::state() const -> State {
@@ -35,7 +42,7 @@ auto FormulaCatalogViewModel::state() const -> State {
   if (!catalog_ || catalog_->packages().empty()) {
     return NotLoaded;
   }
-  if (isFiltering_) {
+  if (showsFiltering_) {
     return Filtering;
   }
   return packages_.rowCount() == 0 ? NoMatch : Listed;
@@ -102,11 +109,11 @@ double FormulaCatalogViewModel::progressFraction() const {
 }
 
 QString FormulaCatalogViewModel::longSummary() const {
-  return filteredResults_ ? filteredResults_->longSummary() : QString();
+  return shownResults_ ? shownResults_->longSummary() : QString();
 }
 
 QString FormulaCatalogViewModel::shortSummary() const {
-  return filteredResults_ ? filteredResults_->shortSummary() : QString();
+  return shownResults_ ? shownResults_->shortSummary() : QString();
 }
 
 QString FormulaCatalogViewModel::accessibleSummary() const {
@@ -140,8 +147,9 @@ void FormulaCatalogViewModel::setCatalog(PackageCatalogSnapshot catalog) {
     return;
   }
   catalog_ = std::move(catalog);
-  // What is shown are places in the catalog before.
+  // Results are places in the catalog before.
   filteredResults_.reset();
+  shownResults_.reset();
   Q_EMIT catalogChanged();
   filter();
 }
@@ -149,7 +157,7 @@ void FormulaCatalogViewModel::setCatalog(PackageCatalogSnapshot catalog) {
 QCoro::Task<> FormulaCatalogViewModel::filter() {
   if (!catalog_) {
     ++question_;
-    show(std::nullopt, false);
+    setResults(std::nullopt, false);
     co_return;
   }
   const FilterRequest request =
@@ -159,27 +167,40 @@ QCoro::Task<> FormulaCatalogViewModel::filter() {
   }
   const int question = ++question_;
   if (request.isUnfiltered()) {
-    show(filteredPackages(*catalog_, request), false);
+    setResults(filteredPackages(*catalog_, request), false);
     co_return;
   }
-  show(FilteredPackageResults::provisional(request), true);
+  setResults(FilteredPackageResults::provisional(request), true);
   const QPointer<FormulaCatalogViewModel> self(this);
   const QFuture<FilteredPackageResults> filtering = QtConcurrent::run(
       backgroundThreads(),
       [catalog = catalog_, request] { return filteredPackages(*catalog, request); });
   const FilteredPackageResults results = co_await filtering;
   if (self && question == question_) {
-    show(results, false);
+    setResults(results, false);
   }
 }
 
-void FormulaCatalogViewModel::show(std::optional<FilteredPackageResults> results,
-                                   bool isFiltering) {
+void FormulaCatalogViewModel::setResults(std::optional<FilteredPackageResults> results,
+                                         bool isFiltering) {
   filteredResults_ = std::move(results);
   isFiltering_ = isFiltering;
-  packages_.show(catalog_,
-                 filteredResults_ ? filteredResults_->visiblePackages : std::vector<std::size_t>());
   Q_EMIT resultsChanged();
+  // Nearly every answer is there before the next frame: a list that went and came back would only
+  // flicker.
+  if (!isFiltering_ || !shownResults_) {
+    showResults();
+  } else if (!waitIsFelt_.isActive()) {
+    waitIsFelt_.start();
+  }
+}
+
+void FormulaCatalogViewModel::showResults() {
+  waitIsFelt_.stop();
+  shownResults_ = filteredResults_;
+  showsFiltering_ = isFiltering_;
+  packages_.show(catalog_,
+                 shownResults_ ? shownResults_->visiblePackages : std::vector<std::size_t>());
   Q_EMIT stateChanged();
   announce();
 }

@@ -3,6 +3,7 @@
 #include <QCoroTask>
 #include <QtCore/QObject>
 #include <QtCore/QString>
+#include <QtCore/QTimer>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
@@ -92,7 +93,8 @@ class FormulaCatalogViewModel : public QObject {
   /// The catalog that is loaded; null when none is.
   [[nodiscard]] const PackageCatalogSnapshot& catalog() const { return catalog_; }
 
-  /// What is shown: while a search goes on, provisionally nothing; absent without a catalog.
+  /// The answer to the last question: while it is looked for, provisionally nothing; absent
+  /// without a catalog.
   [[nodiscard]] const std::optional<FilteredPackageResults>& filteredResults() const {
     return filteredResults_;
   }
@@ -137,7 +139,8 @@ class FormulaCatalogViewModel : public QObject {
  private:
   void setCatalog(PackageCatalogSnapshot catalog);
   QCoro::Task<> filter();
-  void show(std::optional<FilteredPackageResults> results, bool isFiltering);
+  void setResults(std::optional<FilteredPackageResults> results, bool isFiltering);
+  void showResults();
   void announce();
   [[nodiscard]] QString spokenState() const;
 
@@ -146,6 +149,10 @@ class FormulaCatalogViewModel : public QObject {
   PackageSearch search_;
   PackageCatalogSnapshot catalog_;
   std::optional<FilteredPackageResults> filteredResults_;
+  /// What is in view: the answer before stays until the next is there or the wait is felt.
+  std::optional<FilteredPackageResults> shownResults_;
+  bool showsFiltering_ = false;
+  QTimer waitIsFelt_;
   PackageListModel packages_;
   SpokenOnce spoken_;
   bool isFiltering_ = false;

@@ -122,8 +122,39 @@ TEST_F(FormulaCatalogStateTest, SaysThatItSearches) {
   load(smallCatalog());
   const test::HeldThreads held;
   model_.search()->setSearchText(u"wget"_s);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return model_.state() == ViewModel::Filtering; }));
+  EXPECT_EQ(model_.packages()->rowCount(), 0);
   expectMessage(ViewModel::Filtering, u"magnifyingglass"_s, u"Searching packages..."_s, QString());
   EXPECT_EQ(model_.longSummary(), u"Showing first 0 matches from 3 packages"_s);
+}
+
+TEST_F(FormulaCatalogStateTest, KeepsTheListUntilTheWaitIsFelt) {
+  load(smallCatalog());
+  std::vector<ViewModel::State> states;
+  QObject::connect(&model_, &ViewModel::stateChanged, &model_,
+                   [&] { states.push_back(model_.state()); });
+  const QString before = model_.longSummary();
+  {
+    const test::HeldThreads held;
+    model_.search()->setSearchText(u"wget"_s);
+    EXPECT_TRUE(model_.isFiltering());
+    EXPECT_EQ(model_.state(), ViewModel::Listed);
+    EXPECT_EQ(model_.packages()->rowCount(), 3);
+    EXPECT_EQ(model_.longSummary(), before);
+    EXPECT_THAT(states, testing::IsEmpty());
+  }
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !model_.isFiltering(); }));
+  EXPECT_EQ(model_.state(), ViewModel::Listed);
+  EXPECT_NE(model_.longSummary(), before);
+}
+
+TEST_F(FormulaCatalogStateTest, SearchesANewCatalogWithoutTheRowsOfTheOldOne) {
+  load(smallCatalog());
+  search(u"wget"_s);
+  const test::HeldThreads held;
+  load(smallCatalog());
+  EXPECT_EQ(model_.state(), ViewModel::Filtering);
+  EXPECT_EQ(model_.packages()->rowCount(), 0);
 }
 
 TEST_F(FormulaCatalogStateTest, SaysThatNothingMatchesAndBeginsAnew) {
