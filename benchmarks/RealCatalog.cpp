@@ -3,6 +3,9 @@
 #include <QtCore/QProcess>
 #include <QtCore/QString>
 
+#include <benchmark/benchmark.h>
+#include <simdjson.h>
+
 #include "platform/RegularFile.h"
 #include "support/GeneratedCatalog.h"
 
@@ -37,6 +40,12 @@ const CatalogBytes& catalogAtHand() {
 CatalogBytes generatedCatalog(int times) {
   return {.formulae = generatedFormulaDocument(8554 * times),
           .casks = generatedCaskDocument(7701 * times)};
+}
+
+void parsePlainly(const QByteArray& document) {
+  simdjson::dom::parser parser;
+  benchmark::DoNotOptimize(
+      parser.parse(document.constData(), static_cast<std::size_t>(document.size())).error());
 }
 
 }  // namespace quillmere

@@ -23,4 +23,7 @@ struct CatalogBytes {
 /// As many made-up packages, `times` over.
 [[nodiscard]] CatalogBytes generatedCatalog(int times);
 
+/// The floor of every decoding: the document is parsed and nothing of it kept.
+void parsePlainly(const QByteArray& document);
+
 }  // namespace quillmere

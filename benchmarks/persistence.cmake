@@ -1,1 +1,6 @@
-quillmere_benchmark(persistence SOURCES persistence.cpp LINK quillmere_persistence)
+add_library(benchmark_long_history STATIC LongHistory.cpp)
+target_link_libraries(benchmark_long_history PUBLIC quillmere_persistence PRIVATE quillmere_compiler)
+
+quillmere_benchmark(persistence
+  SOURCES persistence.cpp
+  LINK quillmere_persistence benchmark_long_history)

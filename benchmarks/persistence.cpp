@@ -7,48 +7,11 @@
 #include <benchmark/benchmark.h>
 #include <cstdio>
 
+#include "LongHistory.h"
 #include "persistence/LocalPersistenceStore.h"
 
 namespace quillmere {
 namespace {
-
-constexpr int recordCount = 10'000;
-
-/// Every second record a run with a summary of 120 characters, the others copies.
-CommandHistoryRecord recordOf(int number) {
-  const QDateTime now = QDateTime::fromMSecsSinceEpoch(1'795'207'320'125 + number, Qt::UTC);
-  CommandHistoryRecord record = {
-      .id = QUuid::createUuid(),
-      .command = QStringLiteral("brew upgrade --cask package-%1").arg(number),
-      .copiedAt = now,
-      .operationType = QStringLiteral("upgrade"),
-      .packageTarget = QStringLiteral("package-%1").arg(number),
-      .sourceScreen = QStringLiteral("Updates"),
-      .copied = number % 2 == 0,
-      .executed = number % 2 != 0,
-      .executionStartedAt = std::nullopt,
-      .executionEndedAt = std::nullopt,
-      .executionExitCode = std::nullopt,
-      .executionCancelled = std::nullopt,
-      .executionOutputSummary = std::nullopt,
-  };
-  if (record.executed) {
-    record.executionStartedAt = now.addMSecs(-4321);
-    record.executionEndedAt = now;
-    record.executionExitCode = 0;
-    record.executionCancelled = false;
-    record.executionOutputSummary = QStringLiteral("==> Upgrading 1 package \u2714\n").repeated(5);
-  }
-  return record;
-}
-
-CommandHistory history() {
-  CommandHistory records;
-  for (int i = 0; i < recordCount; ++i) {
-    records += recordOf(i);
-  }
-  return records;
-}
 
 /// On the UI thread, as the store is: what the user waits for after copying a command.
 void appendToHistoryOfTenThousand(benchmark::State& state) {
@@ -56,8 +19,8 @@ void appendToHistoryOfTenThousand(benchmark::State& state) {
   const QString file = folder.filePath(QStringLiteral("Quillmere.conf"));
   LocalPersistenceStore store(std::make_unique<QSettings>(file, QSettings::IniFormat),
                               QUrl::fromLocalFile(folder.filePath(QStringLiteral("cache"))));
-  store.setCommandHistory(history());
-  const CommandHistoryRecord record = recordOf(recordCount);
+  store.setCommandHistory(longHistory());
+  const CommandHistoryRecord record = historyRecord(10'000);
   for (auto _ : state) {
     store.appendHistory(record);
     state.PauseTiming();
@@ -78,7 +41,7 @@ void writeAndRenameAsManyBytes(benchmark::State& state) {
   const QTemporaryDir folder;
   const QByteArray target = folder.filePath(QStringLiteral("Quillmere.conf")).toLocal8Bit();
   const QByteArray fresh = target + ".new";
-  const QByteArray bytes(encodeCommandHistory(history()));
+  const QByteArray bytes(encodeCommandHistory(longHistory()));
   for (auto _ : state) {
     QFile file(QString::fromLocal8Bit(fresh));
     if (!file.open(QFile::WriteOnly | QFile::Unbuffered) || file.write(bytes) != bytes.size()) {
@@ -95,7 +58,7 @@ BENCHMARK(writeAndRenameAsManyBytes)->Unit(benchmark::kMillisecond)->UseRealTime
 
 /// The parts of the cost.
 void encodeTenThousandRecords(benchmark::State& state) {
-  const CommandHistory records = history();
+  const CommandHistory records = longHistory();
   for (auto _ : state) {
     benchmark::DoNotOptimize(encodeCommandHistory(records));
   }
@@ -106,7 +69,7 @@ BENCHMARK(encodeTenThousandRecords)->Unit(benchmark::kMillisecond);
 void writeEncodedHistoryThroughTheSettings(benchmark::State& state) {
   const QTemporaryDir folder;
   QSettings settings(folder.filePath(QStringLiteral("Quillmere.conf")), QSettings::IniFormat);
-  const QByteArray bytes = encodeCommandHistory(history());
+  const QByteArray bytes = encodeCommandHistory(longHistory());
   for (auto _ : state) {
     settings.setValue(QStringLiteral("commandHistory"), bytes);
     settings.sync();
@@ -117,7 +80,7 @@ BENCHMARK(writeEncodedHistoryThroughTheSettings)->Unit(benchmark::kMillisecond)-
 
 /// At the start of the program.
 void decodeTenThousandRecords(benchmark::State& state) {
-  const QByteArray bytes = encodeCommandHistory(history());
+  const QByteArray bytes = encodeCommandHistory(longHistory());
   for (auto _ : state) {
     benchmark::DoNotOptimize(decodeCommandHistory(bytes));
   }

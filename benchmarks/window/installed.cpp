@@ -1,0 +1,51 @@
+#include <algorithm>
+#include <benchmark/benchmark.h>
+
+#include "InstalledPrefix.h"
+#include "LongestGap.h"
+#include "window/BenchmarkHome.h"
+#include "window/SeenWindow.h"
+
+namespace quillmere {
+namespace {
+
+void scanToList(benchmark::State& state) {
+  BenchmarkHome home;
+  home.keepPrefix(InstalledPrefix::ofSize(static_cast<int>(state.range(0))).url());
+  double longest = 0;
+  for (auto _ : state) {
+    SeenWindow window(home.surroundings());
+    window.content().select(AppSection::installed);
+    window.settle();
+    const InstalledPackagesViewModel& installed = *window.content().installed();
+    LongestGap gap;
+    state.SetIterationTime(window.secondsUntilSeen(
+        state, "the list", [&] { Q_EMIT window.content().installed()->scanWanted(); },
+        [&] { return installed.state() == InstalledPackagesViewModel::Listed; }));
+    longest = std::max(longest, gap.milliseconds());
+  }
+  state.counters["longestGapMs"] = longest;
+}
+
+BENCHMARK(scanToList)
+    ->Arg(5'000)
+    ->Arg(50'000)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// The floor.
+void callTheSystemAlike(benchmark::State& state) {
+  const InstalledPrefix& prefix = InstalledPrefix::ofSize(static_cast<int>(state.range(0)));
+  for (auto _ : state) {
+    prefix.callTheSystemAlike();
+  }
+}
+
+BENCHMARK(callTheSystemAlike)
+    ->Arg(5'000)
+    ->Arg(50'000)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace quillmere
