@@ -153,11 +153,17 @@ void CommandHistoryListModel::search(QStringView query) {
   update();
 }
 
+void CommandHistoryListModel::prepareSearch() {
+  if (!isFolded()) {
+    fold();
+  }
+}
+
 void CommandHistoryListModel::follow() {
   const CommandHistory& now = store_.commandHistory();
   const bool oneInFront = now.size() == records_.size() + 1 &&
-                          (records_.isEmpty() || (now[1].id == records_.first().id &&
-                                                  now.last().id == records_.last().id));
+                          (records_.isEmpty() || (now[1].id == records_.constFirst().id &&
+                                                  now.last().id == records_.constLast().id));
   if (oneInFront) {
     insertInFront(now);
     Q_EMIT changed();
@@ -238,7 +244,9 @@ QCoro::Task<> CommandHistoryListModel::fold() {
                    std::make_move_iterator(folded.end()));
     folded_ = std::move(inFront);
   }
-  update();
+  if (!query_.empty()) {
+    update();
+  }
 }
 
 bool CommandHistoryListModel::isFolded() const {

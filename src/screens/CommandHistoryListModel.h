@@ -45,6 +45,9 @@ class CommandHistoryListModel : public ReplacedRowsModel {
   /// Whether the rows are those that a search found. Not yet while a large history is made ready.
   [[nodiscard]] bool isNarrowed() const { return isNarrowed_; }
 
+  /// Makes the records ready to be searched, before the first letter is typed.
+  void prepareSearch();
+
   /// Shows the records whose search text contains `query`; all of them for an empty one.
   void search(QStringView query);
 

@@ -13,7 +13,7 @@ FocusScope {
     readonly property bool listed: viewModel.state === CommandHistoryViewModel.Listed
 
     // Who comes back wants to see the history, not what was searched then.
-    Component.onCompleted: viewModel.clearSearch()
+    Component.onCompleted: viewModel.enter()
 
     ColumnLayout {
         anchors.fill: parent

@@ -36,6 +36,11 @@ QString CommandHistoryViewModel::matchesText() const {
                     : QStringLiteral("%1 of %2 commands").arg(found).arg(records_.recordCount());
 }
 
+void CommandHistoryViewModel::enter() {
+  clearSearch();
+  records_.prepareSearch();
+}
+
 void CommandHistoryViewModel::clearSearch() {
   setSearchText(QString());
 }

@@ -42,6 +42,8 @@ class CommandHistoryViewModel : public QObject {
 
   [[nodiscard]] bool showsClearConfirmation() const { return showsClearConfirmation_; }
 
+  /// The screen is shown anew: nothing is searched, and the first letter will not have to wait.
+  Q_INVOKABLE void enter();
   Q_INVOKABLE void clearSearch();
   Q_INVOKABLE void askClear();
   Q_INVOKABLE void confirmClear();

@@ -1,4 +1,6 @@
+#include <QtCore/QCoreApplication>
 #include <QtCore/QElapsedTimer>
+#include <QtCore/QThreadPool>
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
 #include <QtTest/QTest>
@@ -7,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "persistence/LocalPersistenceStore.h"
+#include "platform/BackgroundThreads.h"
 #include "screens/CommandHistoryViewModel.h"
 #include "support/Printers.h"
 #include "support/TemporarySettings.h"
@@ -67,6 +70,12 @@ class CommandHistorySearch : public testing::Test {
     store.appendHistory(cancelledInstall());
     store.appendHistory(executedUpgrade());
     store.appendHistory(copiedUpdate());
+  }
+
+  /// Until what another thread makes ready has arrived.
+  static void waitUntilReady() {
+    ASSERT_TRUE(backgroundThreads()->waitForDone(patience));
+    QCoreApplication::processEvents();
   }
 
   /// The commands of the records that are found, in the order of the rows.
@@ -199,10 +208,21 @@ TEST_F(CommandHistorySearch, ForgetsAQuestionThatWasTakenBackBeforeItWasAnswered
   store.setCommandHistory(manyInstalls(1000));
   history.setSearchText(u"wget"_s);
   history.clearSearch();
-  const QSignalSpy changed(history.records(), &CommandHistoryListModel::changed);
-  EXPECT_TRUE(QTest::qWaitFor([&changed] { return !changed.isEmpty(); }, patience));
+  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::replaced);
+  waitUntilReady();
+  EXPECT_TRUE(replaced.isEmpty());
   EXPECT_EQ(history.records()->rowCount(), 1000);
   EXPECT_EQ(history.matchesText(), QString());
+}
+
+TEST_F(CommandHistorySearch, FindsTheFirstLetterAtOnceWhenTheScreenWasEnteredBefore) {
+  store.setCommandHistory(manyInstalls(1000));
+  history.setSearchText(u"left from the last visit"_s);
+  history.enter();
+  EXPECT_EQ(history.searchText(), QString());
+  waitUntilReady();
+  history.setSearchText(u"f"_s);
+  EXPECT_TRUE(history.records()->isNarrowed());
 }
 
 TEST_F(CommandHistorySearch, MakesALargeHistoryReadyElsewhereAndThenFindsEveryLetterAtOnce) {
