@@ -1,0 +1,20 @@
+# The floor: the least window that the same tools make.
+add_executable(empty_window start/empty_window.cpp)
+qt_add_qml_module(empty_window
+  URI EmptyWindow
+  VERSION 1.0
+  RESOURCE_PREFIX /qt/qml
+  DEPENDENCIES QtQuick
+  QML_FILES start/EmptyWindow.qml)
+set_target_properties(empty_window PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
+target_link_libraries(empty_window PRIVATE Qt6::Quick Qt6::QuickControls2 quillmere_compiler)
+
+# Both are started as processes of their own, as they ship.
+quillmere_benchmark(start
+  SOURCES start/Keyboard.cpp start/StartedProgram.cpp start/start.cpp
+  LINK quillmere_demo benchmark_long_history benchmark_real_catalog)
+target_include_directories(benchmark_start PRIVATE "${PROJECT_SOURCE_DIR}" "${CMAKE_CURRENT_SOURCE_DIR}")
+add_dependencies(benchmark_start quillmere empty_window)
+target_compile_definitions(benchmark_start PRIVATE
+  EMPTY_WINDOW="$<TARGET_FILE:empty_window>"
+  QUILLMERE_PROGRAM="$<TARGET_FILE:quillmere>")
