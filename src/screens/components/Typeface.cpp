@@ -1,5 +1,6 @@
 #include "screens/components/Typeface.h"
 
+#include <QtCore/QStandardPaths>
 #include <QtGui/QFontDatabase>
 #include <QtGui/QFontInfo>
 #include <QtGui/QGuiApplication>
@@ -13,7 +14,23 @@ namespace {
 
 constexpr int smallestBodyPixelSize = 13;
 
+/// Where the font is also there packed for the web, Qt takes that file and unpacks it, which can be
+/// seen in the time of a start. Of files with one family the one that is added last is taken, so
+/// that the system's must be known before.
+bool addUnpackedSymbolFont() {
+  const QString file = QStandardPaths::locate(
+      QStandardPaths::GenericDataLocation,
+      QStringLiteral("fonts/truetype/material-design-icons-iconfont/MaterialIcons-Regular.ttf"));
+  return QFontDatabase::hasFamily(symbolFontFamily()) && !file.isEmpty() &&
+         QFontDatabase::addApplicationFont(file) >= 0;
+}
+
 }  // namespace
+
+Typeface::Typeface(QObject* parent) : QObject(parent) {
+  // Before any text is laid out: what is known of fonts by then would be found anew.
+  [[maybe_unused]] static const bool isAdded = addUnpackedSymbolFont();
+}
 
 int Typeface::bodyPixelSize() const {
   return std::max(smallestBodyPixelSize, QFontInfo(QGuiApplication::font()).pixelSize());

@@ -18,7 +18,7 @@ class Typeface : public QObject {
   Q_PROPERTY(QString symbolFamily READ symbolFamily CONSTANT)
 
  public:
-  explicit Typeface(QObject* parent = nullptr) : QObject(parent) {}
+  explicit Typeface(QObject* parent = nullptr);
 
   /// The system font's size, but never so small that it strains the eye.
   [[nodiscard]] int bodyPixelSize() const;
