@@ -150,11 +150,16 @@ void memoryAfterAWalkThroughTheCatalog(benchmark::State& state) {
     }
     keyboard.press(QStringLiteral("ctrl+f"));
     keyboard.type(QStringLiteral("lib"));
+    keyboard.press(QStringLiteral("Return"));
+    std::this_thread::sleep_for(1s);
     keyboard.press(QStringLiteral("Down"));
     const int framesBefore = started.frames();
     keyboard.press(QStringLiteral("Down"), rows);
-    state.counters["frames"] = started.frames() - framesBefore;
     std::this_thread::sleep_for(1s);
+    if (started.frames() == framesBefore) {
+      state.SkipWithError("The list was not walked down");
+      break;
+    }
     state.counters["residentUsedMB"] = started.residentMegabytes();
     state.counters["residentPeakMB"] = started.peakMegabytes();
   }
