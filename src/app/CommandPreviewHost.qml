@@ -1,6 +1,6 @@
 import QtQuick
+import QtQuick.Templates as T
 import Quillmere.App
-import Quillmere.Screens
 
 // Puts the preview that is open over the window. The sheet goes before its model does, so that
 // nothing of it ever looks at a model that is gone.
@@ -9,22 +9,19 @@ Item {
 
     required property ContentViewModel viewModel
 
-    property CommandPreviewSheet sheet: null
+    property Component maker: null
+    property T.Dialog sheet: null
 
     function follow(): void {
         if (sheet) {
             sheet.close();
             sheet.destroy();
         }
+        // The first frame of a start does without it.
+        if (!maker)
+            maker = Qt.createComponent("../Screens/CommandPreviewSheet.qml");
         sheet = viewModel.preview
                 ? maker.createObject(parent, {viewModel: viewModel.preview, shown: true}) : null;
-    }
-
-    Component {
-        id: maker
-
-        CommandPreviewSheet {
-        }
     }
 
     Connections {

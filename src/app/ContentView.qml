@@ -3,7 +3,6 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Quillmere.App
 import Quillmere.Components
-import Quillmere.Screens
 
 // The main window's content: the sections on the left, the selected one on the right.
 FocusScope {
@@ -42,12 +41,11 @@ FocusScope {
         workflow: root.viewModel.prefixSelection
     }
 
-    // Its second way in asks for a folder: a prefix opens the program, any other folder does not.
-    OnboardingSheet {
-        shown: root.viewModel.showsOnboarding
+    LateLoader {
+        anchors.fill: parent
+        wanted: root.viewModel.showsOnboarding
 
-        onFinished: root.viewModel.finishOnboarding()
-        onSelectPrefixWanted: root.viewModel.prefixSelection.begin()
+        Component.onCompleted: setSource("OnboardingHost.qml", {viewModel: root.viewModel})
     }
 
     Connections {

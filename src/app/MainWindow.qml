@@ -18,6 +18,7 @@ ThemedWindow {
     visibility: memory.maximized ? Window.Maximized : Window.Windowed
     visible: true
 
+    onFrameSwapped: lateScreens.begin()
     onClosing: event => {
         event.accepted = content.quitGuard.mayQuit();
         if (event.accepted) {
@@ -78,16 +79,28 @@ ThemedWindow {
         onActivated: root.close()
     }
 
-    QuitAlert {
-        parent: root.contentItem
-        quitGuard: root.content.quitGuard
+    LateLoader {
+        anchors.fill: parent
+        wanted: root.content.quitGuard.isAsking
 
-        onQuitAllowed: root.close()
+        Component.onCompleted: setSource("QuitAlert.qml", {quitGuard: root.content.quitGuard})
+    }
+
+    Connections {
+        function onQuitAllowed(): void {
+            root.close();
+        }
+
+        target: root.content.quitGuard
     }
 
     SettingsWindow {
         id: settings
 
         viewModel: root.content.settingsWindow
+    }
+
+    LateScreens {
+        id: lateScreens
     }
 }

@@ -1,7 +1,6 @@
 import QtQuick
 import Quillmere.App
 import Quillmere.Components
-import Quillmere.Screens
 
 // The folder chooser of the main window, and what is said of a folder that is no prefix.
 Item {
@@ -9,28 +8,24 @@ Item {
 
     required property PrefixSelectionWorkflow workflow
 
-    HomebrewPrefixChooser {
+    Loader {
         id: chooser
 
-        currentFolder: root.workflow.startFolder
-
-        onAccepted: root.workflow.choose(selectedFolder, currentFolder)
+        anchors.fill: parent
     }
 
-    Alert {
-        confirmTitle: "Select Another Folder"
-        destructive: false
-        message: root.workflow.refusalText
-        shown: root.workflow.isRefused
-        title: root.workflow.refusalTitle
+    LateLoader {
+        anchors.fill: parent
+        wanted: root.workflow.isRefused
 
-        onCancelled: root.workflow.acknowledge()
-        onConfirmed: root.workflow.begin()
+        Component.onCompleted: setSource("PrefixRefusalAlert.qml", {workflow: root.workflow})
     }
 
+    // Loading it opens it; from then on it listens itself.
     Connections {
         function onChooserWanted(): void {
-            chooser.open();
+            if (chooser.status === Loader.Null)
+                chooser.setSource("PrefixFolderChooser.qml", {workflow: root.workflow});
         }
 
         target: root.workflow

@@ -8,8 +8,6 @@ Alert {
 
     required property QuitGuard quitGuard
 
-    signal quitAllowed
-
     cancelTitle: quitGuard.stayTitle
     confirmTitle: quitGuard.quitTitle
     message: quitGuard.message
@@ -18,12 +16,4 @@ Alert {
 
     onCancelled: quitGuard.stay()
     onConfirmed: quitGuard.quit()
-
-    Connections {
-        function onQuitAllowed(): void {
-            root.quitAllowed();
-        }
-
-        target: root.quitGuard
-    }
 }

@@ -5,7 +5,8 @@ import Quillmere.App
 import Quillmere.Screens
 
 // The screen of the selected section, and over it the package that is open in it. A screen lives
-// while its section is selected, so that it is as it was when a package is closed.
+// while its section is selected, so that it is as it was when a package is closed. Its file is
+// loaded when it is first shown: a start shows one of nine.
 FocusScope {
     id: root
 
@@ -14,13 +15,39 @@ FocusScope {
     readonly property PackageDetailViewModel detail: viewModel.details.current
     readonly property string section: viewModel.selectedSection
 
-    component Section: Repeater {
+    onDetailChanged: detailPlace.show(detail)
+
+    component Place: Loader {
+        function fill(view: string, viewModel: QtObject): void {
+            setSource("../Screens/" + view + ".qml", viewModel ? {viewModel: viewModel} : {});
+        }
+
+        anchors.fill: parent
+    }
+
+    component Section: Place {
         required property string name
+        required property string view
 
-        model: root.section === name ? 1 : 0
+        property QtObject viewModel: null
 
+        readonly property bool chosen: root.section === name
+
+        function follow(): void {
+            if (chosen)
+                fill(view, viewModel);
+            else
+                source = "";
+        }
+
+        Component.onCompleted: follow()
+
+        onChosenChanged: follow()
         // The screen before may still be there and have the keyboard.
-        onItemAdded: (index, item) => item.focus = true
+        onLoaded: {
+            focus = true;
+            item.focus = true;
+        }
     }
 
     FocusScope {
@@ -30,94 +57,70 @@ FocusScope {
 
         Section {
             name: "dashboard"
-
-            delegate: DashboardView {
-                anchors.fill: parent
-                viewModel: root.viewModel.dashboard
-            }
+            view: "DashboardView"
+            viewModel: root.viewModel.dashboard
         }
 
         Section {
             name: "installed"
-
-            delegate: InstalledPackagesView {
-                anchors.fill: parent
-                viewModel: root.viewModel.installed
-            }
+            view: "InstalledPackagesView"
+            viewModel: root.viewModel.installed
         }
 
         Section {
             name: "browse"
-
-            delegate: FormulaCatalogView {
-                anchors.fill: parent
-                viewModel: root.viewModel.browse
-            }
+            view: "FormulaCatalogView"
+            viewModel: root.viewModel.browse
         }
 
         Section {
             name: "updates"
-
-            delegate: UpdatesView {
-                anchors.fill: parent
-                viewModel: root.viewModel.updates
-            }
+            view: "UpdatesView"
+            viewModel: root.viewModel.updates
         }
 
         Section {
             name: "cleanup"
-
-            delegate: CleanupGuidanceView {
-                anchors.fill: parent
-                viewModel: root.viewModel.cleanup
-            }
+            view: "CleanupGuidanceView"
+            viewModel: root.viewModel.cleanup
         }
 
         Section {
             name: "services"
-
-            delegate: ServicesGuidanceView {
-                anchors.fill: parent
-                viewModel: root.viewModel.services
-            }
+            view: "ServicesGuidanceView"
+            viewModel: root.viewModel.services
         }
 
         Section {
             name: "history"
-
-            delegate: CommandHistoryView {
-                anchors.fill: parent
-                viewModel: root.viewModel.history
-            }
+            view: "CommandHistoryView"
+            viewModel: root.viewModel.history
         }
 
         Section {
             name: "settings"
-
-            delegate: SettingsView {
-                anchors.fill: parent
-                viewModel: root.viewModel.settings
-            }
+            view: "SettingsView"
+            viewModel: root.viewModel.settings
         }
 
         Section {
             name: "aboutLegal"
-
-            delegate: AboutLegalView {
-                anchors.fill: parent
-            }
+            view: "AboutLegalView"
         }
     }
 
-    Repeater {
-        model: root.detail ? [root.detail] : []
+    Place {
+        id: detailPlace
 
-        delegate: PackageDetailView {
-            required property PackageDetailViewModel modelData
-
-            anchors.fill: parent
-            focus: true
-            viewModel: modelData
+        function show(detail: PackageDetailViewModel): void {
+            if (detail)
+                fill("PackageDetailView", detail);
+            else
+                source = "";
         }
+
+        focus: root.detail !== null
+
+        onLoaded: item.focus = true
     }
 }

@@ -1,0 +1,25 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+// Gets ready, on the engine's own thread, what the first frame does without, so that nothing has to
+// wait for its files when it is first shown.
+Repeater {
+    id: root
+
+    readonly property list<string> views: ["FormulaCatalogView", "InstalledPackagesView",
+        "PackageDetailView", "UpdatesView", "CommandPreviewSheet", "CleanupGuidanceView",
+        "CommandHistoryView", "SettingsView", "ServicesGuidanceView", "AboutLegalView",
+        "DashboardView"]
+
+    function begin(): void {
+        model = views;
+    }
+
+    delegate: Item {
+        required property string modelData
+
+        readonly property Component view: Qt.createComponent("../Screens/" + modelData + ".qml",
+                                                             Component.Asynchronous)
+    }
+}
