@@ -260,8 +260,8 @@ def printFigures(build, only=""):
 
 
 def namesMissed(row, names, runs):
-    """What the row names and the program has not. `runs` may lack benchmarks, but of each function
-    one that has its counters."""
+    """What the row names and the program has not. `runs` may lack benchmarks; counters are looked for
+    where the function ran at all."""
     for reference in row.references():
         match = REFERENCE.fullmatch(reference)
         benchmark = match["benchmark"]
@@ -269,7 +269,7 @@ def namesMissed(row, names, runs):
             yield f"there is no benchmark {benchmark}"
         elif match["counter"]:
             relatives = runs.named("^" + re.escape(benchmark.split("/")[0]) + "(/|$)")
-            if not any(match["counter"] in report for report in relatives):
+            if relatives and not any(match["counter"] in report for report in relatives):
                 yield f"{benchmark} has no counter {match['counter']}"
 
 

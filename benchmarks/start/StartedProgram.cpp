@@ -20,7 +20,7 @@ namespace quillmere {
 namespace {
 
 constexpr std::chrono::seconds patience(30);
-constexpr double kilobytesPerMegabyte = 1e6 / 1024;
+constexpr double bytesPerKilobyte = 1024;
 
 QProcessEnvironment environmentFor(const QString& home) {
   auto variables = QProcessEnvironment::systemEnvironment();
@@ -151,12 +151,12 @@ QString StartedProgram::procFile(const QString& name) const {
   return QStringLiteral("/proc/%1/%2").arg(id_).arg(name);
 }
 
-double StartedProgram::residentMegabytes() const {
-  return numberIn(procFile(QStringLiteral("status")), "VmRSS:") / kilobytesPerMegabyte;
+double StartedProgram::residentBytes() const {
+  return numberIn(procFile(QStringLiteral("status")), "VmRSS:") * bytesPerKilobyte;
 }
 
-double StartedProgram::peakMegabytes() const {
-  return numberIn(procFile(QStringLiteral("status")), "VmHWM:") / kilobytesPerMegabyte;
+double StartedProgram::peakBytes() const {
+  return numberIn(procFile(QStringLiteral("status")), "VmHWM:") * bytesPerKilobyte;
 }
 
 double StartedProgram::readMegabytes() const {

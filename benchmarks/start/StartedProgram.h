@@ -37,9 +37,9 @@ class StartedProgram {
 
   [[nodiscard]] pid_t id() const { return id_; }
 
-  /// The megabytes of memory that are its own or shared with others, now and at most.
-  [[nodiscard]] double residentMegabytes() const;
-  [[nodiscard]] double peakMegabytes() const;
+  /// The bytes of memory that are its own or shared with others, now and at most.
+  [[nodiscard]] double residentBytes() const;
+  [[nodiscard]] double peakBytes() const;
   /// The megabytes that it has read from files and pipes so far.
   [[nodiscard]] double readMegabytes() const;
   /// How often its threads have gone to sleep so far, each of which something will end.

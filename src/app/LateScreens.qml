@@ -12,9 +12,9 @@ Repeater {
         "CommandHistoryView", "SettingsView", "ServicesGuidanceView", "AboutLegalView",
         "DashboardView"]
 
-    function begin(): void {
-        model = views;
-    }
+    property bool begun: false
+
+    model: begun ? views : []
 
     delegate: Item {
         required property string modelData

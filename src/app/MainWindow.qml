@@ -18,7 +18,7 @@ ThemedWindow {
     visibility: memory.maximized ? Window.Maximized : Window.Windowed
     visible: true
 
-    onFrameSwapped: lateScreens.begin()
+    onFrameSwapped: lateScreens.begun = true
     onClosing: event => {
         event.accepted = content.quitGuard.mayQuit();
         if (event.accepted) {

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "platform/AtomicFile.h"
+#include "platform/BackgroundThreads.h"
 #include "platform/FileUrl.h"
 
 using namespace Qt::StringLiterals;
@@ -50,9 +51,11 @@ std::optional<QDateTime> dateOf(const QSettings& settings, QLatin1StringView key
   return date && date->isValid() ? date : std::nullopt;
 }
 
-CommandHistory historyOf(const QSettings& settings) {
-  const auto json = valueOf<QByteArray>(settings, keys::history);
-  return json ? decodeCommandHistory(*json).value_or(CommandHistory()) : CommandHistory();
+/// In bytes: what is longer would keep the first frame waiting.
+constexpr qsizetype longHistory = 128 * 1024;
+
+CommandHistory decodedHistory(const QByteArray& json) {
+  return decodeCommandHistory(json).value_or(CommandHistory());
 }
 
 QVariant toVariant(bool flag) {
@@ -143,7 +146,43 @@ void LocalPersistenceStore::load() {
   selectedHomebrewPrefixBookmarkData_ = valueOf<QByteArray>(*defaults_, keys::prefixBookmark);
   catalogLastRefreshDate_ = dateOf(*defaults_, keys::refreshDate);
   localInventoryLastScanDate_ = dateOf(*defaults_, keys::scanDate);
-  commandHistory_ = historyOf(*defaults_);
+  readHistory();
+}
+
+void LocalPersistenceStore::readHistory() {
+  const auto json = valueOf<QByteArray>(*defaults_, keys::history);
+  if (!json) {
+    return;
+  }
+  if (json->size() < longHistory) {
+    commandHistory_ = decodedHistory(*json);
+    return;
+  }
+  readLongHistory(*json);
+}
+
+QCoro::Task<> LocalPersistenceStore::readLongHistory(QByteArray json) {
+  const QPointer<LocalPersistenceStore> self(this);
+  const QFuture<CommandHistory> reading =
+      QtConcurrent::run(backgroundThreads(), &decodedHistory, std::move(json));
+  readingHistory_ = reading;
+  co_await reading;
+  if (self) {
+    finishReadingHistory();
+    Q_EMIT commandHistoryChanged();
+  }
+}
+
+void LocalPersistenceStore::finishReadingHistory() const {
+  if (!hasReadHistory()) {
+    commandHistory_ = readingHistory_.result();
+    readingHistory_ = {};
+  }
+}
+
+const CommandHistory& LocalPersistenceStore::commandHistory() const {
+  finishReadingHistory();
+  return commandHistory_;
 }
 
 template <typename T>
@@ -206,6 +245,7 @@ void LocalPersistenceStore::setLocalInventoryLastScanDate(const std::optional<QD
 }
 
 void LocalPersistenceStore::setCommandHistory(const CommandHistory& history) {
+  finishReadingHistory();
   set(commandHistory_, history, keys::history, &LocalPersistenceStore::commandHistoryChanged);
 }
 
@@ -329,6 +369,7 @@ void LocalPersistenceStore::resetOnboarding() {
 }
 
 void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
+  finishReadingHistory();
   commandHistory_.prepend(record);
   write(keys::history, commandHistory_);
   Q_EMIT commandHistoryChanged();

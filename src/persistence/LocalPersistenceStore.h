@@ -3,6 +3,7 @@
 #include <QCoroTask>
 #include <QtCore/QByteArray>
 #include <QtCore/QDateTime>
+#include <QtCore/QFuture>
 #include <QtCore/QObject>
 #include <QtCore/QSettings>
 #include <QtCore/QString>
@@ -25,7 +26,7 @@ namespace quillmere {
 class LocalPersistenceStore : public QObject {
   Q_OBJECT
  public:
-  /// Loads everything from `defaults` and moves catalog documents that an older version kept there
+  /// Loads everything from `defaults`, a long history on another thread, and moves catalog documents that an older version kept there
   /// into the cache directory.
   explicit LocalPersistenceStore(
       std::unique_ptr<QSettings> defaults, QUrl cacheDirectoryURL = defaultCacheDirectoryURL(),
@@ -64,7 +65,12 @@ class LocalPersistenceStore : public QObject {
 
   void setLocalInventoryLastScanDate(const std::optional<QDateTime>& date);
 
-  [[nodiscard]] const CommandHistory& commandHistory() const { return commandHistory_; }
+  /// Waits for a long one that is still being read.
+  [[nodiscard]] const CommandHistory& commandHistory() const;
+
+  /// Whether nobody would have to wait. When a long one has been read, `commandHistoryChanged` says
+  /// so.
+  [[nodiscard]] bool hasReadHistory() const { return !readingHistory_.isValid(); }
 
   void setCommandHistory(const CommandHistory& history);
 
@@ -124,6 +130,9 @@ class LocalPersistenceStore : public QObject {
   using ChangeSignal = void (LocalPersistenceStore::*)();
 
   void load();
+  void readHistory();
+  QCoro::Task<> readLongHistory(QByteArray json);
+  void finishReadingHistory() const;
   void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
   void renewBookmark(const QUrl& folder);
   void removeCacheFile(const QString& path);
@@ -142,7 +151,9 @@ class LocalPersistenceStore : public QObject {
   std::optional<QByteArray> selectedHomebrewPrefixBookmarkData_;
   std::optional<QDateTime> catalogLastRefreshDate_;
   std::optional<QDateTime> localInventoryLastScanDate_;
-  CommandHistory commandHistory_;
+  // Whoever asks for the history takes it over from the thread that reads it.
+  mutable CommandHistory commandHistory_;
+  mutable QFuture<CommandHistory> readingHistory_;
   /// Counts how often the cache was cleared.
   int clearedCaches_ = 0;
   /// One thread each, so that writes keep their order; their ends wait for them. A setting does not

@@ -91,7 +91,7 @@ QString accessibleLabel(const CommandHistoryRecord& record) {
 
 CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& store,
                                                  QObject* parent)
-    : ReplacedRowsModel(parent), store_(store), records_(store.commandHistory()) {
+    : ReplacedRowsModel(parent), store_(store), records_(store.hasReadHistory() ? store.commandHistory() : CommandHistory()) {
   connect(&store_, &LocalPersistenceStore::commandHistoryChanged, this,
           &CommandHistoryListModel::follow);
 }
@@ -161,6 +161,9 @@ void CommandHistoryListModel::prepareSearch() {
 
 void CommandHistoryListModel::follow() {
   const CommandHistory& now = store_.commandHistory();
+  if (now.constData() == records_.constData()) {
+    return;
+  }
   const bool oneInFront = now.size() == records_.size() + 1 &&
                           (records_.isEmpty() || (now[1].id == records_.constFirst().id &&
                                                   now.last().id == records_.constLast().id));

@@ -186,6 +186,9 @@ void FormulaCatalogViewModel::setResults(std::optional<FilteredPackageResults> r
   filteredResults_ = std::move(results);
   isFiltering_ = isFiltering;
   Q_EMIT resultsChanged();
+  if (isFiltering_) {
+    spoken_.expectNews();
+  }
   // Nearly every answer is there before the next frame: a list that went and came back would only
   // flicker.
   if (!isFiltering_ || !shownResults_) {

@@ -15,6 +15,9 @@ class SpokenOnce {
     return std::exchange(last_, text) != text && !text.isEmpty();
   }
 
+  /// The answer to a new question is news, though it may be what was said before.
+  void expectNews() { last_.clear(); }
+
  private:
   QString last_;
 };

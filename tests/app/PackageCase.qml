@@ -44,7 +44,7 @@ WindowCase {
         beginBrowse();
         stage.serveCatalog();
         press("Fetch All");
-        tryVerify(() => list() !== null, 10000);
+        tryVerify(() => list() !== null && list().itemAtIndex(0) !== null, 10000);
     }
 
     function beginInstalled() {
@@ -55,6 +55,6 @@ WindowCase {
         stage.selectPrefix();
         beginInstalled();
         press("Scan Read-Only Inventory");
-        tryVerify(() => list() !== null, 10000);
+        tryVerify(() => list() !== null && list().itemAtIndex(0) !== null, 10000);
     }
 }

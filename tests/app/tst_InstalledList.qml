@@ -55,7 +55,7 @@ PackageCase {
         beginInstalled();
         window.width = 900;
         stage.showInventory();
-        tryVerify(() => list() !== null && list().count === 11);
+        tryVerify(() => list() !== null && list().itemAtIndex(4) !== null);
         for (let i = 0; i < 5; ++i) {
             const row = list().itemAtIndex(i);
             verify(row.height >= 44 && row.height <= 56);

@@ -1,5 +1,6 @@
 #include <QtTest/QAbstractItemModelTester>
 #include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
 
 #include <gtest/gtest.h>
 
@@ -137,6 +138,24 @@ TEST_F(CommandHistoryScreen, ShowsTheEmptyStateAtOnceAfterClearing) {
   EXPECT_EQ(history.state(), CommandHistoryViewModel::Empty);
   EXPECT_FALSE(changed.isEmpty());
   EXPECT_FALSE(history.showsClearConfirmation());
+}
+
+TEST(CommandHistoryOfYears, IsShownWhenItHasBeenRead) {
+  const test::TemporarySettings settings;
+  {
+    LocalPersistenceStore before(settings.open(), settings.cacheDirectoryURL());
+    CommandHistory history;
+    for (int i = 0; i < 2000; ++i) {
+      history += copied(QStringLiteral("brew info package-%1").arg(i));
+    }
+    before.setCommandHistory(history);
+  }
+  const LocalPersistenceStore store(settings.open(), settings.cacheDirectoryURL());
+  CommandHistoryListModel records(store);
+  const QAbstractItemModelTester tester(&records,
+                                        QAbstractItemModelTester::FailureReportingMode::Fatal);
+  EXPECT_EQ(records.rowCount(), 0);
+  EXPECT_TRUE(QTest::qWaitFor([&records] { return records.rowCount() == 2000; }));
 }
 
 }  // namespace
