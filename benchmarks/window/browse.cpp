@@ -144,7 +144,7 @@ void returnToResults(benchmark::State& state, const QString& query, std::int64_t
                                      returnToResults(state, QString::fromLatin1(query), times);
                                    })
           ->UseManualTime()
-          ->Iterations(10)
+          ->Iterations(4)
           ->Unit(benchmark::kMillisecond);
     }
   }

@@ -91,7 +91,10 @@ QString accessibleLabel(const CommandHistoryRecord& record) {
 
 CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& store,
                                                  QObject* parent)
-    : ReplacedRowsModel(parent), store_(store), records_(store.hasReadHistory() ? store.commandHistory() : CommandHistory()) {
+    : ReplacedRowsModel(parent), store_(store) {
+  if (store_.hasReadHistory()) {
+    remember(store_.commandHistory());
+  }
   connect(&store_, &LocalPersistenceStore::commandHistoryChanged, this,
           &CommandHistoryListModel::follow);
 }
@@ -107,7 +110,11 @@ QVariant CommandHistoryListModel::data(const QModelIndex& index, int role) const
   if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid)) {
     return {};
   }
-  const CommandHistoryRecord& record = at(index.row());
+  const CommandHistoryRecord* const found = at(index.row());
+  if (found == nullptr) {
+    return {};
+  }
+  const CommandHistoryRecord& record = *found;
   switch (role) {
     case CommandRole:
       return record.command;
@@ -161,12 +168,9 @@ void CommandHistoryListModel::prepareSearch() {
 
 void CommandHistoryListModel::follow() {
   const CommandHistory& now = store_.commandHistory();
-  if (now.constData() == records_.constData()) {
-    return;
-  }
-  const bool oneInFront = now.size() == records_.size() + 1 &&
-                          (records_.isEmpty() || (now[1].id == records_.constFirst().id &&
-                                                  now.last().id == records_.constLast().id));
+  const bool oneInFront =
+      now.size() == recordCount_ + 1 &&
+      (recordCount_ == 0 || (now[1].id == newest_ && now.last().id == oldest_));
   if (oneInFront) {
     insertInFront(now);
     Q_EMIT changed();
@@ -175,7 +179,7 @@ void CommandHistoryListModel::follow() {
   ++history_;
   folded_.clear();
   replaceRows(static_cast<int>(now.size()), [this, &now] {
-    records_ = now;
+    remember(now);
     isNarrowed_ = false;
   });
   update();
@@ -190,7 +194,7 @@ void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
   if (isShown) {
     beginInsertRows({}, 0, 0);
   }
-  records_ = now;
+  remember(now);
   rows_ = isNarrowed_ ? foundRows() : std::vector<int>();
   if (isShown) {
     endInsertRows();
@@ -200,12 +204,12 @@ void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
 /// Shows what the query finds, or goes on showing what it showed until it can.
 void CommandHistoryListModel::update() {
   const bool narrows = !query_.empty();
-  if (narrows && !isFolded() && records_.size() > foldedAtOnce) {
+  if (narrows && !isFolded() && recordCount_ > foldedAtOnce) {
     fold();
     return;
   }
   if (narrows && !isFolded()) {
-    folded_ = foldedSearchTexts(records_);
+    folded_ = foldedSearchTexts(store_.commandHistory());
   }
   std::vector<int> rows = narrows ? foundRows() : std::vector<int>();
   const int count = narrows ? static_cast<int>(rows.size()) : recordCount();
@@ -233,7 +237,7 @@ QCoro::Task<> CommandHistoryListModel::fold() {
   const QPointer<CommandHistoryListModel> self(this);
   const int history = history_;
   const QFuture<std::vector<std::string>> folding =
-      QtConcurrent::run(backgroundThreads(), &foldedSearchTexts, records_);
+      QtConcurrent::run(backgroundThreads(), &foldedSearchTexts, store_.commandHistory());
   std::vector<std::string> folded = co_await folding;
   if (!self) {
     co_return;
@@ -241,7 +245,8 @@ QCoro::Task<> CommandHistoryListModel::fold() {
   isFolding_ = false;
   if (history == history_) {
     // Records that came meanwhile stand in front.
-    const CommandHistory added = records_.first(records_.size() - std::ssize(folded));
+    const CommandHistory added =
+        store_.commandHistory().first(recordCount_ - std::ssize(folded));
     std::vector<std::string> inFront = foldedSearchTexts(added);
     inFront.insert(inFront.end(), std::make_move_iterator(folded.begin()),
                    std::make_move_iterator(folded.end()));
@@ -253,11 +258,22 @@ QCoro::Task<> CommandHistoryListModel::fold() {
 }
 
 bool CommandHistoryListModel::isFolded() const {
-  return std::ssize(folded_) == records_.size();
+  return std::ssize(folded_) == recordCount_;
 }
 
-const CommandHistoryRecord& CommandHistoryListModel::at(int row) const {
-  return records_[isNarrowed_ ? rows_[static_cast<std::size_t>(row)] : row];
+void CommandHistoryListModel::remember(const CommandHistory& now) {
+  recordCount_ = static_cast<int>(now.size());
+  newest_ = now.isEmpty() ? QUuid() : now.first().id;
+  oldest_ = now.isEmpty() ? QUuid() : now.last().id;
+}
+
+/// The record in a row; null for one that has just gone. What the view does not know yet stands in
+/// front.
+const CommandHistoryRecord* CommandHistoryListModel::at(int row) const {
+  const CommandHistory& records = store_.commandHistory();
+  const qsizetype place = records.size() - recordCount_ +
+                          (isNarrowed_ ? rows_[static_cast<std::size_t>(row)] : row);
+  return place >= 0 && place < records.size() ? &records[place] : nullptr;
 }
 
 }  // namespace quillmere

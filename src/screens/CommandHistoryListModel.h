@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QtCore/QUuid>
 #include <QtQml/qqmlregistration.h>
 
 #include <string>
@@ -40,7 +41,7 @@ class CommandHistoryListModel : public ReplacedRowsModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   /// How many records there are, shown or not.
-  [[nodiscard]] int recordCount() const { return static_cast<int>(records_.size()); }
+  [[nodiscard]] int recordCount() const { return recordCount_; }
 
   /// Whether the rows are those that a search found. Not yet while a large history is made ready.
   [[nodiscard]] bool isNarrowed() const { return isNarrowed_; }
@@ -62,11 +63,15 @@ class CommandHistoryListModel : public ReplacedRowsModel {
   [[nodiscard]] std::vector<int> foundRows() const;
   QCoro::Task<> fold();
   [[nodiscard]] bool isFolded() const;
-  [[nodiscard]] const CommandHistoryRecord& at(int row) const;
+  void remember(const CommandHistory& now);
+  [[nodiscard]] const CommandHistoryRecord* at(int row) const;
 
   const LocalPersistenceStore& store_;
-  /// The history as the view knows it. Shares the store's list until the next change.
-  CommandHistory records_;
+  /// What the view knows of the store's list: how many records, and which stand at its ends. Not
+  /// the list itself, which the store would have to copy to put a record in front.
+  int recordCount_ = 0;
+  QUuid newest_;
+  QUuid oldest_;
   /// The records' search texts in searchable form, made at the first search: folding takes much
   /// longer than searching.
   std::vector<std::string> folded_;
