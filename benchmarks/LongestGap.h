@@ -3,7 +3,7 @@
 #include <QtCore/QElapsedTimer>
 #include <QtCore/QTimer>
 
-#include <algorithm>
+#include <ctime>
 
 namespace quillmere {
 
@@ -13,6 +13,7 @@ class LongestGap {
  public:
   LongestGap() {
     sinceLastTurn_.start();
+    computedBefore_ = computed();
     turns_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&turns_, &QTimer::timeout, &turns_, [this] { note(); });
     turns_.start(1);
@@ -23,15 +24,33 @@ class LongestGap {
     return static_cast<double>(longest_) / 1e6;
   }
 
+  /// The part of it for which the thread computed; for the rest it had no processor.
+  [[nodiscard]] double computedMilliseconds() const { return static_cast<double>(ofThat_) / 1e6; }
+
  private:
+  /// The nanoseconds for which this thread has had a processor.
+  static qint64 computed() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return time.tv_sec * qint64{1'000'000'000} + time.tv_nsec;
+  }
+
   void note() {
-    longest_ = std::max(longest_, sinceLastTurn_.nsecsElapsed());
+    const qint64 gap = sinceLastTurn_.nsecsElapsed();
+    const qint64 computedNow = computed();
+    if (gap > longest_) {
+      longest_ = gap;
+      ofThat_ = computedNow - computedBefore_;
+    }
+    computedBefore_ = computedNow;
     sinceLastTurn_.start();
   }
 
   QElapsedTimer sinceLastTurn_;
   QTimer turns_;
   qint64 longest_ = 0;
+  qint64 ofThat_ = 0;
+  qint64 computedBefore_ = 0;
 };
 
 }  // namespace quillmere

@@ -1,6 +1,5 @@
 #include <QtQuick/QQuickWindow>
 
-#include <algorithm>
 #include <benchmark/benchmark.h>
 
 #include "ChattyPrefix.h"
@@ -20,6 +19,7 @@ void runInTheWindow(benchmark::State& state) {
   BenchmarkHome home;
   home.keepPrefix(prefix.url());
   double longest = 0;
+  double computed = 0;
   for (auto _ : state) {
     SeenWindow window(home.surroundings());
     ContentViewModel& content = window.content();
@@ -49,9 +49,13 @@ void runInTheWindow(benchmark::State& state) {
         state, "its end", [&] { session->setShowsRawOutput(true); },
         [&] { return isAllThere && !session->isRunning(); });
     state.SetIterationTime(start + run);
-    longest = std::max(longest, gap.milliseconds());
+    if (gap.milliseconds() > longest) {
+      longest = gap.milliseconds();
+      computed = gap.computedMilliseconds();
+    }
   }
   state.counters["longestGapMs"] = longest;
+  state.counters["computedMs"] = computed;
 }
 
 BENCHMARK(runInTheWindow)

@@ -56,11 +56,14 @@ Rectangle {
         anchors.margins: Theme.small
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
+        // Whoever follows a flood of lines sees none of those that would be made beforehand.
+        cacheBuffer: 0
         clip: true
         highlightFollowsCurrentItem: false
         interactive: wheel.touched
         keyNavigationEnabled: false
         model: root.viewModel.rawOutput
+        reuseItems: true
 
         Accessible.role: Accessible.List
         Accessible.name: "Command-line output"
