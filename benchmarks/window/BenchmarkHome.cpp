@@ -27,8 +27,7 @@ void BenchmarkHome::keepCatalog(const CatalogBytes& documents) const {
 }
 
 void BenchmarkHome::keepHistory(const CommandHistory& history) const {
-  LocalPersistenceStore(settings_.open(), settings_.cacheDirectoryURL())
-      .setCommandHistory(history);
+  LocalPersistenceStore(settings_.open(), settings_.cacheDirectoryURL()).setCommandHistory(history);
 }
 
 void BenchmarkHome::keepPrefix(const QUrl& prefix) const {

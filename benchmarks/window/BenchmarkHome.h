@@ -23,7 +23,6 @@ class BenchmarkHome {
   [[nodiscard]] AppSurroundings surroundings() const;
 
  private:
-
   test::TemporarySettings settings_;
 };
 

@@ -63,11 +63,7 @@ void showCachedCatalog(benchmark::State& state) {
   state.counters["longestGapMs"] = longest;
 }
 
-BENCHMARK(showCachedCatalog)
-    ->Arg(1)
-    ->Arg(10)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(showCachedCatalog)->Arg(1)->Arg(10)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 QByteArray contentOf(const QString& path) {
   QFile file(path);
@@ -86,11 +82,7 @@ void readAndParseCachedCatalog(benchmark::State& state) {
   }
 }
 
-BENCHMARK(readAndParseCachedCatalog)
-    ->Arg(1)
-    ->Arg(10)
-    ->UseRealTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(readAndParseCachedCatalog)->Arg(1)->Arg(10)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 /// A window that lists the catalog.
 class BrowsingWindow : public SeenWindow {

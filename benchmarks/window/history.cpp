@@ -45,10 +45,7 @@ void appendToLongHistory(benchmark::State& state) {
   state.counters["longestGapMs"] = longest;
 }
 
-BENCHMARK(appendToLongHistory)
-    ->UseManualTime()
-    ->Iterations(10)
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(appendToLongHistory)->UseManualTime()->Iterations(10)->Unit(benchmark::kMillisecond);
 
 /// Letter by letter: each until a frame shows what the text so far finds.
 void searchLongHistoryAsOneTypes(benchmark::State& state) {
@@ -66,8 +63,7 @@ void searchLongHistoryAsOneTypes(benchmark::State& state) {
       const double letter = window.secondsUntilSeen(
           state, "what was found", [&] { window.type(query.sliced(length - 1, 1)); },
           [&] {
-            return history.searchText() == query.first(length) &&
-                   !history.matchesText().isEmpty();
+            return history.searchText() == query.first(length) && !history.matchesText().isEmpty();
           });
       seconds += letter;
       if (length == 1) {

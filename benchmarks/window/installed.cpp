@@ -29,11 +29,7 @@ void scanToList(benchmark::State& state) {
   state.counters["longestGapMs"] = longest;
 }
 
-BENCHMARK(scanToList)
-    ->Arg(500)
-    ->Arg(5'000)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(scanToList)->Arg(500)->Arg(5'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// The floor: the calls to the system, as cold as they are when somebody asks for a scan.
 void callTheSystemAlike(benchmark::State& state) {
@@ -48,11 +44,7 @@ void callTheSystemAlike(benchmark::State& state) {
   }
 }
 
-BENCHMARK(callTheSystemAlike)
-    ->Arg(500)
-    ->Arg(5'000)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(callTheSystemAlike)->Arg(500)->Arg(5'000)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quillmere

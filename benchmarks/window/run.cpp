@@ -58,11 +58,7 @@ void runInTheWindow(benchmark::State& state) {
   state.counters["computedMs"] = computed;
 }
 
-BENCHMARK(runInTheWindow)
-    ->Arg(1)
-    ->Arg(100)
-    ->UseManualTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(runInTheWindow)->Arg(1)->Arg(100)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 /// The floor.
 void readInAPlainLoop(benchmark::State& state) {
@@ -72,11 +68,7 @@ void readInAPlainLoop(benchmark::State& state) {
   }
 }
 
-BENCHMARK(readInAPlainLoop)
-    ->Arg(1)
-    ->Arg(100)
-    ->UseRealTime()
-    ->Unit(benchmark::kMillisecond);
+BENCHMARK(readInAPlainLoop)->Arg(1)->Arg(100)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quillmere

@@ -71,15 +71,15 @@ Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
   // Where the folder chooser begins.
   qputenv("HOME", QFile::encodeName(home_.folder));
   disk_->released.release();
-  app_ = std::make_unique<QuillmereApp>(AppSurroundings{
-      .settings =
-          [file = home_.settingsFile()] {
-            return std::make_unique<QSettings>(file, QSettings::NativeFormat);
-          },
-      .cacheDirectoryURL = fileUrl(home_.catalogFolder()),
-      .formulaeURL = nowhere(),
-      .casksURL = nowhere(),
-      .resolver = BrewExecutableResolver(disk_)});
+  app_ = std::make_unique<QuillmereApp>(
+      AppSurroundings{.settings =
+                          [file = home_.settingsFile()] {
+                            return std::make_unique<QSettings>(file, QSettings::NativeFormat);
+                          },
+                      .cacheDirectoryURL = fileUrl(home_.catalogFolder()),
+                      .formulaeURL = nowhere(),
+                      .casksURL = nowhere(),
+                      .resolver = BrewExecutableResolver(disk_)});
   if (!app_->open()) {
     throw TourError(u"The window does not open"_s);
   }

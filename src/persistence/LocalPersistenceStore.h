@@ -26,8 +26,8 @@ namespace quillmere {
 class LocalPersistenceStore : public QObject {
   Q_OBJECT
  public:
-  /// Loads everything from `defaults`, a long history on another thread, and moves catalog documents that an older version kept there
-  /// into the cache directory.
+  /// Loads everything from `defaults`, a long history on another thread, and moves catalog
+  /// documents that an older version kept there into the cache directory.
   explicit LocalPersistenceStore(
       std::unique_ptr<QSettings> defaults, QUrl cacheDirectoryURL = defaultCacheDirectoryURL(),
       std::shared_ptr<const SecurityScopedBookmarks> bookmarks = platformBookmarks(),

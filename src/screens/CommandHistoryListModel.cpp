@@ -168,9 +168,8 @@ void CommandHistoryListModel::prepareSearch() {
 
 void CommandHistoryListModel::follow() {
   const CommandHistory& now = store_.commandHistory();
-  const bool oneInFront =
-      now.size() == recordCount_ + 1 &&
-      (recordCount_ == 0 || (now[1].id == newest_ && now.last().id == oldest_));
+  const bool oneInFront = now.size() == recordCount_ + 1 &&
+                          (recordCount_ == 0 || (now[1].id == newest_ && now.last().id == oldest_));
   if (oneInFront) {
     insertInFront(now);
     Q_EMIT changed();
@@ -245,8 +244,7 @@ QCoro::Task<> CommandHistoryListModel::fold() {
   isFolding_ = false;
   if (history == history_) {
     // Records that came meanwhile stand in front.
-    const CommandHistory added =
-        store_.commandHistory().first(recordCount_ - std::ssize(folded));
+    const CommandHistory added = store_.commandHistory().first(recordCount_ - std::ssize(folded));
     std::vector<std::string> inFront = foldedSearchTexts(added);
     inFront.insert(inFront.end(), std::make_move_iterator(folded.begin()),
                    std::make_move_iterator(folded.end()));
@@ -271,8 +269,8 @@ void CommandHistoryListModel::remember(const CommandHistory& now) {
 /// front.
 const CommandHistoryRecord* CommandHistoryListModel::at(int row) const {
   const CommandHistory& records = store_.commandHistory();
-  const qsizetype place = records.size() - recordCount_ +
-                          (isNarrowed_ ? rows_[static_cast<std::size_t>(row)] : row);
+  const qsizetype place =
+      records.size() - recordCount_ + (isNarrowed_ ? rows_[static_cast<std::size_t>(row)] : row);
   return place >= 0 && place < records.size() ? &records[place] : nullptr;
 }
 

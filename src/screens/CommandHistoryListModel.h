@@ -17,7 +17,7 @@ class LocalPersistenceStore;
 /// The rows of the history that match the search, in the store's order. Follows the store; owned by
 /// `CommandHistoryViewModel`. Lives on the UI thread; a large history is made ready for its first
 /// search on another one.
-class CommandHistoryListModel : public ReplacedRowsModel {
+class CommandHistoryListModel : public quillmere::ReplacedRowsModel {
   Q_OBJECT
   QML_ANONYMOUS
 

@@ -12,7 +12,7 @@ using InstalledPackagesSnapshot = std::shared_ptr<const std::vector<InstalledPac
 
 /// Rows of the local inventory, as places in the shared list: their texts are made when a row comes
 /// into view. Owned by `InstalledPackagesViewModel`; UI thread only.
-class InstalledPackageListModel : public ReplacedRowsModel {
+class InstalledPackageListModel : public quillmere::ReplacedRowsModel {
   Q_OBJECT
   QML_ANONYMOUS
 

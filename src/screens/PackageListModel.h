@@ -9,7 +9,7 @@ namespace quillmere {
 
 /// Rows of the catalog, as places in the shared snapshot: their texts are made when a row comes
 /// into view. Owned by `FormulaCatalogViewModel`; UI thread only.
-class PackageListModel : public ReplacedRowsModel {
+class PackageListModel : public quillmere::ReplacedRowsModel {
   Q_OBJECT
   QML_ANONYMOUS
 
