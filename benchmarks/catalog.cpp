@@ -1,5 +1,4 @@
 #include <QtCore/QByteArray>
-#include <QtCore/QCoreApplication>
 #include <QtCore/QJsonDocument>
 
 #include <algorithm>
@@ -249,9 +248,3 @@ BENCHMARK(passOverDependencies)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

@@ -55,5 +55,3 @@ BENCHMARK(drawOneIdentifier);
 
 }  // namespace
 }  // namespace quillmere
-
-BENCHMARK_MAIN();

@@ -1,5 +1,4 @@
 #include <QCoroTask>
-#include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
 #include <QtNetwork/QNetworkAccessManager>
 #include <QtNetwork/QNetworkReply>
@@ -76,10 +75,3 @@ BENCHMARK_CAPTURE(download, plainFloor, fetchPlainly, false)
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  return 0;
-}

@@ -1,5 +1,3 @@
-#include <QtCore/QCoreApplication>
-
 #include <benchmark/benchmark.h>
 #include <string>
 #include <vector>
@@ -88,9 +86,3 @@ BENCHMARK(makeTheRows)->Arg(5'000)->Arg(50'000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

@@ -1,5 +1,3 @@
-#include <QtCore/QCoreApplication>
-
 #include <benchmark/benchmark.h>
 
 #include "InstalledPrefix.h"
@@ -38,9 +36,3 @@ BENCHMARK(callTheSystemAlike)->Arg(500)->Arg(5'000)->Arg(50'000)->Unit(benchmark
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

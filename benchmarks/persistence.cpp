@@ -1,5 +1,4 @@
 #include <QCoroTask>
-#include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
 #include <QtCore/QTemporaryDir>
@@ -90,9 +89,3 @@ BENCHMARK(decodeTenThousandRecords)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

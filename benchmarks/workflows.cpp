@@ -116,9 +116,3 @@ BENCHMARK(scanPrefix)->Arg(500)->Arg(5'000)->Unit(benchmark::kMillisecond)->UseR
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}

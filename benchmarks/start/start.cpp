@@ -1,4 +1,3 @@
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QFileInfo>
@@ -189,9 +188,3 @@ BENCHMARK(sizeOfTheProgram)->Unit(benchmark::kMillisecond)->Iterations(1)->UseRe
 
 }  // namespace
 }  // namespace quillmere
-
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-}
