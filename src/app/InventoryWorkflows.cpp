@@ -17,18 +17,16 @@ using State = InstalledPackagesState;
 
 namespace {
 
-/// A scan tells of its progress after so many packages.
-constexpr qsizetype toldPackages = 50;
-
 void scanInBackground(QPromise<LocalInventory>& promise, const QUrl& prefix,
                       const HomebrewPrefixFileSystemPtr& fileSystem,
                       const CachedCatalogFiles& cachedCatalog) {
-  const auto progress = [&promise](qsizetype scanned, qsizetype total) {
-    // Each telling takes a lock and a look at the clock, and nobody reads that fast.
-    if (scanned % toldPackages == 0 || scanned == total) {
+  qsizetype known = -1;
+  const auto progress = [&promise, &known](qsizetype scanned, qsizetype total) {
+    // A range is passed on whenever it is set, unlike a value, of which only some are.
+    if (std::exchange(known, total) != total) {
       promise.setProgressRange(0, static_cast<int>(total));
-      promise.setProgressValue(static_cast<int>(scanned));
     }
+    promise.setProgressValue(static_cast<int>(scanned));
   };
   promise.addResult(scanLocalInventory(prefix, fileSystem, cachedCatalog, progress));
 }
