@@ -24,7 +24,7 @@ struct AppSurroundings {
   QUrl cacheDirectoryURL = LocalPersistenceStore::defaultCacheDirectoryURL();
   QUrl formulaeURL = HomebrewFormulaMetadataClient::defaultApiURL();
   QUrl casksURL = HomebrewCaskMetadataClient::defaultApiURL();
-  BrewExecutableResolver resolver = BrewExecutableResolver();
+  BrewExecutableResolver resolver{platformFileSystem()};
 };
 
 /// The program: the one store that all windows share, what this build may do, and the windows.

@@ -52,7 +52,7 @@ std::optional<QDateTime> dateOf(const QSettings& settings, QLatin1StringView key
 }
 
 /// In bytes: what is longer would keep the first frame waiting.
-constexpr qsizetype longHistory = 128 * 1024;
+constexpr qsizetype longHistory = 128 * qsizetype{1024};
 
 CommandHistory decodedHistory(const QByteArray& json) {
   return decodeCommandHistory(json).value_or(CommandHistory());
