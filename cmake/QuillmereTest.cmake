@@ -11,3 +11,11 @@ function(quillmere_test FOLDER)
   gtest_discover_tests(${_target} TEST_PREFIX "${FOLDER}/" DISCOVERY_MODE PRE_TEST NO_PRETTY_VALUES
     PROPERTIES TIMEOUT 120)
 endfunction()
+
+# quillmere_soak(NAME COMMAND …) is the long form of a test, which `./test soak` runs. Tests of the
+# same program tell the two forms apart by the variable.
+function(quillmere_soak NAME)
+  add_test(NAME soak/${NAME} ${ARGN})
+  set_tests_properties(soak/${NAME} PROPERTIES
+    LABELS soak TIMEOUT 7200 ENVIRONMENT QUILLMERE_SOAK=1)
+endfunction()
