@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QVariantMap>
+#include <QtGui/QGuiApplication>
 #include <QtNetwork/QNetworkProxyFactory>
 #include <QtQuick/QQuickWindow>
 #include <QtQuickControls2/QQuickStyle>
@@ -31,6 +32,13 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
                 .casks = {.apiURL = std::move(surroundings.casksURL), .session = &session_}},
                std::move(surroundings.resolver)) {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+  // Whoever comes back from another window of the program has perhaps used it.
+  QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &localPersistenceStore_,
+                   [this](Qt::ApplicationState state) {
+                     if (state == Qt::ApplicationActive) {
+                       localPersistenceStore_.catchUpHistory();
+                     }
+                   });
 }
 
 bool QuillmereApp::open() {

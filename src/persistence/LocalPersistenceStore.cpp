@@ -15,6 +15,7 @@
 #include "platform/AtomicFile.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/FileUrl.h"
+#include "platform/PrivateFile.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,7 +29,7 @@ constexpr QLatin1StringView prefixPath = "selectedHomebrewPrefixPath"_L1;
 constexpr QLatin1StringView prefixBookmark = "selectedHomebrewPrefixBookmarkData"_L1;
 constexpr QLatin1StringView refreshDate = "catalogLastRefreshDate"_L1;
 constexpr QLatin1StringView scanDate = "localInventoryLastScanDate"_L1;
-constexpr QLatin1StringView history = "commandHistory"_L1;
+constexpr QLatin1StringView history = SharedHistory::key;
 constexpr QLatin1StringView oldFormulaCatalog = "cachedFormulaCatalogData"_L1;
 constexpr QLatin1StringView oldCaskCatalog = "cachedCaskCatalogData"_L1;
 
@@ -54,50 +55,13 @@ std::optional<QDateTime> dateOf(const QSettings& settings, QLatin1StringView key
 /// In bytes: what is longer would keep the first frame waiting.
 constexpr qsizetype longHistory = 128 * qsizetype{1024};
 
-CommandHistory decodedHistory(const QByteArray& json) {
-  return decodeCommandHistory(json).value_or(CommandHistory());
-}
-
 QVariant toVariant(bool flag) {
   return flag;
-}
-
-QVariant toVariant(const CommandHistory& history) {
-  return encodeCommandHistory(history);
 }
 
 template <typename T>
 QVariant toVariant(const std::optional<T>& value) {
   return value ? QVariant(*value) : QVariant();
-}
-
-/// Where the settings are, for a thread that opens them for itself.
-struct SettingsFile {
-  QString name;
-  QSettings::Format format;
-};
-
-/// On a disk that fills up while the settings are written their old file is lost with the new one
-/// and nothing is reported, so that this asks beforehand.
-bool hasRoomFor(const QString& fileName, const QVariant& value) {
-  constexpr qint64 longestEscape = 4;
-  constexpr qint64 keyAndDate = 1024;
-  const QFileInfo file(fileName);
-  const qint64 size = file.size() + longestEscape * value.toByteArray().size() + keyAndDate;
-  return !file.exists() || hasRoomBeside(file.filePath(), size);
-}
-
-void writeSetting(const SettingsFile& file, QLatin1StringView key, const QVariant& value) {
-  if (!hasRoomFor(file.name, value)) {
-    return;
-  }
-  QSettings settings(file.name, file.format);
-  if (value.isValid()) {
-    settings.setValue(key, value);
-  } else {
-    settings.remove(key);
-  }
-  settings.sync();
 }
 
 bool isReadableFile(const QString& path) {
@@ -119,10 +83,16 @@ LocalPersistenceStore::LocalPersistenceStore(
     std::shared_ptr<const SecurityScopedBookmarks> bookmarks, QObject* parent)
     : QObject(parent),
       defaults_(std::move(defaults)),
+      settingsFile_(*defaults_),
+      sharedHistory_(std::make_shared<SharedHistory>(settingsFile_)),
       cacheDirectoryURL_(std::move(cacheDirectoryURL)),
       bookmarks_(std::move(bookmarks)) {
   cacheWriter_.setMaxThreadCount(1);
   settingsWriter_.setMaxThreadCount(1);
+  // Earlier versions left them to everybody's eyes.
+  restrictToOwner(settingsFile_.name());
+  restrictToOwner(filePath(formulaCacheURL()));
+  restrictToOwner(filePath(caskCacheURL()));
   // What the user has reset must not come back out of settings of the whole machine.
   defaults_->setFallbacksEnabled(false);
   load();
@@ -150,21 +120,18 @@ void LocalPersistenceStore::load() {
 }
 
 void LocalPersistenceStore::readHistory() {
-  const auto json = valueOf<QByteArray>(*defaults_, keys::history);
-  if (!json) {
-    return;
+  if (defaults_->value(keys::history).toByteArray().size() < longHistory) {
+    commandHistory_ = sharedHistory_->synchronize().value_or(CommandHistory());
+  } else {
+    readLongHistory();
   }
-  if (json->size() < longHistory) {
-    commandHistory_ = decodedHistory(*json);
-    return;
-  }
-  readLongHistory(*json);
 }
 
-QCoro::Task<> LocalPersistenceStore::readLongHistory(QByteArray json) {
+QCoro::Task<> LocalPersistenceStore::readLongHistory() {
   const QPointer<LocalPersistenceStore> self(this);
-  const QFuture<CommandHistory> reading =
-      QtConcurrent::run(backgroundThreads(), &decodedHistory, std::move(json));
+  // Nobody else uses it before this is done.
+  const QFuture<std::optional<CommandHistory>> reading =
+      QtConcurrent::run(backgroundThreads(), &SharedHistory::synchronize, sharedHistory_);
   readingHistory_ = reading;
   co_await reading;
   if (self) {
@@ -175,7 +142,7 @@ QCoro::Task<> LocalPersistenceStore::readLongHistory(QByteArray json) {
 
 void LocalPersistenceStore::finishReadingHistory() const {
   if (!hasReadHistory()) {
-    commandHistory_ = readingHistory_.result();
+    commandHistory_ = readingHistory_.result().value_or(CommandHistory());
     readingHistory_ = {};
   }
 }
@@ -187,9 +154,8 @@ const CommandHistory& LocalPersistenceStore::commandHistory() const {
 
 template <typename T>
 void LocalPersistenceStore::write(QLatin1StringView key, const T& value) {
-  const SettingsFile file{.name = defaults_->fileName(), .format = defaults_->format()};
-  settingsWriter_.start(
-      QRunnable::create([file, key, value] { writeSetting(file, key, toVariant(value)); }));
+  settingsWriter_.start(QRunnable::create(
+      [file = settingsFile_, key, value] { (void)file.write(key, toVariant(value)); }));
 }
 
 void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file) {
@@ -246,7 +212,44 @@ void LocalPersistenceStore::setLocalInventoryLastScanDate(const std::optional<QD
 
 void LocalPersistenceStore::setCommandHistory(const CommandHistory& history) {
   finishReadingHistory();
-  set(commandHistory_, history, keys::history, &LocalPersistenceStore::commandHistoryChanged);
+  const bool isChange = commandHistory_ != history;
+  commandHistory_ = history;
+  ++replacedHistories_;
+  settingsWriter_.start(
+      QRunnable::create([shared = sharedHistory_, history] { shared->replace(history); }));
+  if (isChange) {
+    Q_EMIT commandHistoryChanged();
+  }
+}
+
+void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
+  finishReadingHistory();
+  commandHistory_.prepend(record);
+  ++appendedRecords_;
+  takeOver(QtConcurrent::run(&settingsWriter_, &SharedHistory::prepend, sharedHistory_, record));
+  Q_EMIT commandHistoryChanged();
+}
+
+void LocalPersistenceStore::catchUpHistory() {
+  if (hasReadHistory()) {
+    takeOver(QtConcurrent::run(&settingsWriter_, &SharedHistory::synchronize, sharedHistory_));
+  }
+}
+
+QCoro::Task<> LocalPersistenceStore::takeOver(QFuture<std::optional<CommandHistory>> reading) {
+  const QPointer<LocalPersistenceStore> self(this);
+  const int replacedHistories = replacedHistories_;
+  const qsizetype appendedRecords = appendedRecords_;
+  const std::optional<CommandHistory> shared = co_await reading;
+  if (!self || !shared || replacedHistories != replacedHistories_) {
+    co_return;
+  }
+  const CommandHistory history =
+      commandHistory_.first(appendedRecords_ - appendedRecords) + *shared;
+  if (history != commandHistory_) {
+    commandHistory_ = history;
+    Q_EMIT commandHistoryChanged();
+  }
 }
 
 QUrl LocalPersistenceStore::formulaCacheURL() const {
@@ -366,13 +369,6 @@ void LocalPersistenceStore::clearHistory() {
 
 void LocalPersistenceStore::resetOnboarding() {
   setHasCompletedOnboarding(false);
-}
-
-void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
-  finishReadingHistory();
-  commandHistory_.prepend(record);
-  write(keys::history, commandHistory_);
-  Q_EMIT commandHistoryChanged();
 }
 
 void LocalPersistenceStore::recordExecution(const DirectCommandResult& result,

@@ -14,6 +14,8 @@
 #include <optional>
 
 #include "persistence/CommandHistory.h"
+#include "persistence/SettingsFile.h"
+#include "persistence/SharedHistory.h"
 #include "platform/SecurityScopedBookmarks.h"
 
 namespace quillmere {
@@ -22,7 +24,8 @@ namespace quillmere {
 /// shared by all windows; every setter writes through to the settings at once, on a thread of the
 /// store's own, since a disk that is busy must keep no window waiting. Writes keep the order of
 /// their calls, and those under way are finished before the store is gone. None reports an error: a
-/// failed write is lost, the old value on the disk is not. UI thread only.
+/// failed write is lost, the old value on the disk is not. What other processes write to the same
+/// settings stays: of one value the last, of the history all. UI thread only.
 class LocalPersistenceStore : public QObject {
   Q_OBJECT
  public:
@@ -110,8 +113,12 @@ class LocalPersistenceStore : public QObject {
   /// Ends when everything that was set so far has been written.
   QCoro::Task<> settled();
 
-  /// Puts `record` at the front of the history, which has no maximum length.
+  /// Puts `record` at the front of the history, which has no maximum length, and what other windows
+  /// of the program have added behind it.
   void appendHistory(const CommandHistoryRecord& record);
+  /// Takes over what other windows of the program did to the history; `commandHistoryChanged` says
+  /// when it is there.
+  void catchUpHistory();
   /// Appends the record of a finished run.
   void recordExecution(const DirectCommandResult& result,
                        const std::optional<QString>& sourceScreen);
@@ -131,8 +138,9 @@ class LocalPersistenceStore : public QObject {
 
   void load();
   void readHistory();
-  QCoro::Task<> readLongHistory(QByteArray json);
+  QCoro::Task<> readLongHistory();
   void finishReadingHistory() const;
+  QCoro::Task<> takeOver(QFuture<std::optional<CommandHistory>> reading);
   void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
   void renewBookmark(const QUrl& folder);
   void removeCacheFile(const QString& path);
@@ -144,6 +152,10 @@ class LocalPersistenceStore : public QObject {
   void write(QLatin1StringView key, const T& value);
 
   std::unique_ptr<QSettings> defaults_;
+  SettingsFile settingsFile_;
+  /// For one thread at a time: the one that reads a long history, then the one that writes
+  /// settings.
+  std::shared_ptr<SharedHistory> sharedHistory_;
   QUrl cacheDirectoryURL_;
   std::shared_ptr<const SecurityScopedBookmarks> bookmarks_;
   bool hasCompletedOnboarding_ = false;
@@ -153,7 +165,10 @@ class LocalPersistenceStore : public QObject {
   std::optional<QDateTime> localInventoryLastScanDate_;
   // Whoever asks for the history takes it over from the thread that reads it.
   mutable CommandHistory commandHistory_;
-  mutable QFuture<CommandHistory> readingHistory_;
+  mutable QFuture<std::optional<CommandHistory>> readingHistory_;
+  /// Count what was done here, so that what others did goes behind it.
+  int replacedHistories_ = 0;
+  qsizetype appendedRecords_ = 0;
   /// Counts how often the cache was cleared.
   int clearedCaches_ = 0;
   /// One thread each, so that writes keep their order; their ends wait for them. A setting does not

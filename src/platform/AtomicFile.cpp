@@ -6,11 +6,13 @@
 
 #include <fcntl.h>
 
+#include "platform/PrivateFile.h"
+
 namespace quillmere {
 
 bool replaceFile(const QString& path, const QByteArray& bytes) {
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) {
+  if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(ownerAlone)) {
     return false;
   }
   // A write that comes up short stays in the buffer of the file, and commit() does not look whether

@@ -8,6 +8,7 @@
 
 #include "StoreFixture.h"
 #include "persistence/LocalPersistenceStore.h"
+#include "support/PermissionBits.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
@@ -30,6 +31,14 @@ TEST_F(CatalogCache, SavesCatalogDocumentsAsTheyAreAndTheirDate) {
   EXPECT_EQ(contentOf(u"cask.json"_s), "[1]");
   EXPECT_EQ(contentOf(u"formula.json"_s), formulae);
   EXPECT_EQ(start()->catalogLastRefreshDate(), friday);
+}
+
+TEST_F(CatalogCache, IsForItsOwnerAlone) {
+  givenCacheFile(u"cask.json"_s, "[]");
+  ASSERT_NE(test::permissionBits(cacheFile(u"cask.json"_s)), 0600);
+  QCoro::waitFor(start()->saveFormulaCatalog("[]", monday));
+  EXPECT_EQ(test::permissionBits(cacheFile(u"formula.json"_s)), 0600);
+  EXPECT_EQ(test::permissionBits(cacheFile(u"cask.json"_s)), 0600) << "of an earlier version";
 }
 
 TEST_F(CatalogCache, SetsTheDateEvenWhereTheDocumentCannotBeWritten) {

@@ -2,11 +2,12 @@
 #include <QtCore/QFile>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "persistence/LocalPersistenceStore.h"
+#include "platform/PrivateFile.h"
+#include "support/AnotherProcess.h"
 #include "support/FullDisk.h"
+#include "support/PermissionBits.h"
 #include "support/TemporarySettings.h"
 
 namespace quillmere {
@@ -14,6 +15,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using Store = LocalPersistenceStore;
+using test::hasEndedWell;
+using test::inAnotherProcess;
 
 CommandHistoryRecord copyOf(const QString& command) {
   CommandHistoryRecord record;
@@ -34,21 +37,6 @@ std::unique_ptr<Store> startOverTheBytesOf(const test::TemporarySettings& settin
   EXPECT_TRUE(QFile::copy(settings.file(), copy));
   return std::make_unique<Store>(std::make_unique<QSettings>(copy, QSettings::IniFormat),
                                  settings.cacheDirectoryURL());
-}
-
-template <typename Body>
-pid_t inAnotherProcess(Body body) {
-  const pid_t child = fork();
-  if (child == 0) {
-    body();
-    _exit(0);
-  }
-  return child;
-}
-
-bool hasEndedWell(pid_t child) {
-  int status = 0;
-  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 TEST(SettingsFile, KeepsTheKeysOfTwoStoresThatWriteInTurn) {
@@ -108,6 +96,18 @@ TEST(SettingsFile, KeepsTheKeysOfTwoProcessesThatWriteAtTheSameTime) {
   const auto restarted = startOverTheBytesOf(settings);
   EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/prefix/50"_s);
   EXPECT_EQ(restarted->commandHistory().size(), rounds);
+}
+
+TEST(SettingsFile, IsForItsOwnerAlone) {
+  const test::TemporarySettings settings;
+  startOver(settings)->setHasCompletedOnboarding(true);
+  EXPECT_EQ(test::permissionBits(settings.file()), 0600);
+  ASSERT_TRUE(QFile::setPermissions(settings.file(), ownerAlone | QFile::ReadOther));
+  startOver(settings)->setHasCompletedOnboarding(false);
+  EXPECT_EQ(test::permissionBits(settings.file()), 0600);
+  ASSERT_TRUE(QFile::setPermissions(settings.file(), ownerAlone | QFile::ReadGroup));
+  startOver(settings);
+  EXPECT_EQ(test::permissionBits(settings.file()), 0600) << "of an earlier version";
 }
 
 /// Short and long values fail at different moments of a write.

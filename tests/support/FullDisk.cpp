@@ -1,23 +1,39 @@
 #include "support/FullDisk.h"
 
+#include <algorithm>
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
+#include "support/AnotherProcess.h"
+
 namespace quillmere::test {
+namespace {
+
+/// Leaves the hard limit alone, above which nobody comes back.
+bool limitFilesTo(rlim_t bytes) {
+  rlimit limit = {};
+  if (getrlimit(RLIMIT_FSIZE, &limit) != 0) {
+    return false;
+  }
+  limit.rlim_cur = std::min(bytes, limit.rlim_max);
+  return setrlimit(RLIMIT_FSIZE, &limit) == 0;
+}
+
+}  // namespace
 
 bool holdsOnDiskFullAfter(qint64 bytes, const std::function<bool()>& body) {
-  const pid_t child = fork();
-  if (child == 0) {
+  return hasEndedWell(inAnotherProcess([&] {
     // Without this the write ends the process instead of failing.
     std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit = {static_cast<rlim_t>(bytes), static_cast<rlim_t>(bytes)};
-    _exit(setrlimit(RLIMIT_FSIZE, &limit) == 0 && body() ? 0 : 1);
-  }
-  int status = 0;
-  return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) &&
-         WEXITSTATUS(status) == 0;
+    if (!limitFilesTo(static_cast<rlim_t>(bytes)) || !body()) {
+      _exit(1);
+    }
+  }));
+}
+
+bool giveTheDiskBack() {
+  return limitFilesTo(RLIM_INFINITY);
 }
 
 }  // namespace quillmere::test

@@ -10,4 +10,7 @@ namespace quillmere::test {
 /// them fails as on a full disk. Returns whether `body` returned true.
 [[nodiscard]] bool holdsOnDiskFullAfter(qint64 bytes, const std::function<bool()>& body);
 
+/// Makes room again, from inside of `body`. Returns whether that worked.
+[[nodiscard]] bool giveTheDiskBack();
+
 }  // namespace quillmere::test

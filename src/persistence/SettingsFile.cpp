@@ -1,0 +1,47 @@
+#include "persistence/SettingsFile.h"
+
+#include <QtCore/QFileInfo>
+
+#include "platform/AtomicFile.h"
+#include "platform/PrivateFile.h"
+
+namespace quillmere {
+namespace {
+
+/// On a disk that fills up while the settings are written their old file is lost with the new one
+/// and nothing is reported, so that this asks beforehand.
+bool hasRoomFor(const QString& fileName, const QVariant& value) {
+  constexpr qint64 longestEscape = 4;
+  constexpr qint64 keyAndDate = 1024;
+  const qint64 size =
+      QFileInfo(fileName).size() + longestEscape * value.toByteArray().size() + keyAndDate;
+  return hasRoomBeside(fileName, size);
+}
+
+}  // namespace
+
+SettingsFile::SettingsFile(const QSettings& settings)
+    : name_(settings.fileName()), format_(settings.format()) {
+}
+
+QByteArray SettingsFile::readBytes(QLatin1StringView key) const {
+  const QVariant value = QSettings(name_, format_).value(key);
+  return value.typeId() == QMetaType::QByteArray ? value.toByteArray() : QByteArray();
+}
+
+bool SettingsFile::write(QLatin1StringView key, const QVariant& value) const {
+  ensurePrivateFile(name_);
+  if (!hasRoomFor(name_, value)) {
+    return false;
+  }
+  QSettings settings(name_, format_);
+  if (value.isValid()) {
+    settings.setValue(key, value);
+  } else {
+    settings.remove(key);
+  }
+  settings.sync();
+  return settings.status() != QSettings::AccessError;
+}
+
+}  // namespace quillmere

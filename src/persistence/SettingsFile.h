@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QSettings>
+#include <QtCore/QString>
+#include <QtCore/QVariant>
+
+namespace quillmere {
+
+/// The settings on the disk as every window of the program reads and writes them, also those of
+/// other processes. Nobody but the user may read them. Each call blocks on the disk; any thread.
+class SettingsFile {
+ public:
+  explicit SettingsFile(const QSettings& settings);
+
+  [[nodiscard]] const QString& name() const { return name_; }
+
+  /// Empty where there are none, or something else.
+  [[nodiscard]] QByteArray readBytes(QLatin1StringView key) const;
+
+  /// Replaces the value of one key, or removes it where `value` is invalid; what others wrote under
+  /// other keys stays. Returns whether it is on the disk; where not, the whole file is as it was.
+  bool write(QLatin1StringView key, const QVariant& value) const;
+
+ private:
+  QString name_;
+  QSettings::Format format_;
+};
+
+}  // namespace quillmere

@@ -1,0 +1,71 @@
+#include "persistence/SharedHistory.h"
+
+#include <QtCore/QLockFile>
+
+#include <chrono>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace quillmere {
+namespace {
+
+constexpr QByteArrayView none = "[]";
+
+/// Longer than anybody writes; whoever has stopped in the middle must not keep us from quitting.
+constexpr std::chrono::milliseconds patience{10'000};
+
+/// One JSON array of the elements of two, the first of them as we write it.
+QByteArray joined(QByteArray first, const QByteArray& second) {
+  const QByteArrayView rest = QByteArrayView(second).sliced(second.indexOf('[') + 1);
+  const bool needsComma = first != none && !rest.trimmed().startsWith(']');
+  first.chop(1);
+  if (needsComma) {
+    first += ',';
+  }
+  return first += rest;
+}
+
+}  // namespace
+
+SharedHistory::SharedHistory(SettingsFile file) : file_(std::move(file)) {
+}
+
+std::optional<CommandHistory> SharedHistory::prepend(const CommandHistoryRecord& record) {
+  unwritten_.prepend(record);
+  return synchronize();
+}
+
+void SharedHistory::replace(const CommandHistory& history) {
+  unwritten_ = history;
+  replaces_ = true;
+  (void)synchronize();
+}
+
+std::optional<CommandHistory> SharedHistory::synchronize() {
+  QLockFile lock(file_.name() + ".history.lock"_L1);
+  const bool mayWrite = hasUnwritten() && lock.tryLock(static_cast<int>(patience.count()));
+  QByteArray base = replaces_ ? none.toByteArray() : file_.readBytes(key);
+  std::optional<CommandHistory> all;
+  if (!replaces_ && base != known_) {
+    const auto others = decodeCommandHistory(base);
+    // What cannot be read is written over.
+    base = others ? base : none.toByteArray();
+    all = unwritten_ + others.value_or(CommandHistory());
+  }
+  known_ = base;
+  if (mayWrite) {
+    store(joined(encodeCommandHistory(unwritten_), base));
+  }
+  return all;
+}
+
+void SharedHistory::store(const QByteArray& json) {
+  if (file_.write(key, json)) {
+    known_ = json;
+    unwritten_.clear();
+    replaces_ = false;
+  }
+}
+
+}  // namespace quillmere

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <sys/types.h>
+
+namespace quillmere::test {
+
+/// Runs `body` in a copy of this process, which then ends without a word.
+[[nodiscard]] pid_t inAnotherProcess(const std::function<void()>& body);
+
+/// Wait for its end.
+[[nodiscard]] bool hasEndedWell(pid_t process);
+[[nodiscard]] bool wasKilled(pid_t process);
+
+/// Ends the calling process as `kill -9` does, whatever it is doing by then.
+void killMyselfAfter(std::chrono::microseconds time);
+
+}  // namespace quillmere::test
