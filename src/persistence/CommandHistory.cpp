@@ -227,7 +227,9 @@ CommandHistoryRecord executionRecord(const DirectCommandResult& result,
       .executionEndedAt = result.endedAt,
       .executionExitCode = result.exitCode,
       .executionCancelled = result.wasCancelled,
-      .executionOutputSummary = executionOutputSummary(result.standardOutput, result.standardError),
+      .executionOutputSummary =
+          executionOutputSummary(result.standardOutput, result.standardError,
+                                 Secrets(QProcessEnvironment::systemEnvironment())),
   };
 }
 

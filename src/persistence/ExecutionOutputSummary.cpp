@@ -94,20 +94,21 @@ JoinedOutput joined(QByteArrayView standardOutput, QByteArrayView standardError)
 }  // namespace
 
 std::optional<QString> executionOutputSummary(QByteArrayView standardOutput,
-                                              QByteArrayView standardError) {
+                                              QByteArrayView standardError,
+                                              const Secrets& secrets) {
   const JoinedOutput output = joined(standardOutput, standardError);
   if (output.size() == 0) {
     return std::nullopt;
   }
   for (qsizetype length = 4 * summaryLimit; length < output.size(); length *= 2) {
-    // The last user-perceived character of a prefix may go on behind its end, so that the prefix
-    // has to hold one more than the first that is left out.
-    const QString start = output.prefix(length);
-    if (abbreviated(start, summaryLimit + 1) != start) {
+    // The last user-perceived character of a prefix may go on behind its end, and a secret may, so
+    // that the prefix has to hold more than what is left.
+    const QString start = secrets.hiddenIn(output.prefix(length));
+    if (abbreviated(start, summaryLimit + secrets.longest()) != start) {
       return abbreviated(start, summaryLimit);
     }
   }
-  return abbreviated(output.prefix(output.size()), summaryLimit);
+  return abbreviated(secrets.hiddenIn(output.prefix(output.size())), summaryLimit);
 }
 
 }  // namespace quillmere

@@ -9,9 +9,13 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+std::optional<QString> summaryOfOutput(QByteArrayView standardOutput,
+                                       QByteArrayView standardError) {
+  return executionOutputSummary(standardOutput, standardError, Secrets(QProcessEnvironment()));
+}
+
 QString summaryOf(const QString& standardOutput, const QString& standardError = {}) {
-  return executionOutputSummary(standardOutput.toUtf8(), standardError.toUtf8())
-      .value_or(u"(absent)"_s);
+  return summaryOfOutput(standardOutput.toUtf8(), standardError.toUtf8()).value_or(u"(absent)"_s);
 }
 
 TEST(ExecutionOutputSummary, JoinsWhatTheStreamsHoldInTheirOrder) {
@@ -37,10 +41,10 @@ TEST(ExecutionOutputSummary, JoinsWhatTheStreamsHoldInTheirOrder) {
 }
 
 TEST(ExecutionOutputSummary, IsAbsentForNothingButWhiteSpace) {
-  EXPECT_EQ(executionOutputSummary({}, {}), std::nullopt);
-  EXPECT_EQ(executionOutputSummary("", "\n"), std::nullopt);
-  EXPECT_EQ(executionOutputSummary(" \t\r\n", "\v\f"), std::nullopt);
-  EXPECT_EQ(executionOutputSummary("\u00a0\u2003\u3000", "\u0085\u2028\u2029\u202f\u205f\u1680"),
+  EXPECT_EQ(summaryOfOutput({}, {}), std::nullopt);
+  EXPECT_EQ(summaryOfOutput("", "\n"), std::nullopt);
+  EXPECT_EQ(summaryOfOutput(" \t\r\n", "\v\f"), std::nullopt);
+  EXPECT_EQ(summaryOfOutput("\u00a0\u2003\u3000", "\u0085\u2028\u2029\u202f\u205f\u1680"),
             std::nullopt);
 }
 
@@ -99,7 +103,7 @@ TEST(ExecutionOutputSummary, CostsNoMoreForAHundredMegabytes) {
   QElapsedTimer timer;
   timer.start();
   for (qsizetype i = 0; i < rounds; ++i) {
-    ASSERT_TRUE(executionOutputSummary(text, text).has_value());
+    ASSERT_TRUE(summaryOfOutput(text, text).has_value());
   }
   // Converting the text once takes longer than the hundred summaries may.
   EXPECT_LT(timer.elapsed(), 2000);

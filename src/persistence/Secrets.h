@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QtCore/QProcessEnvironment>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+
+namespace quillmere {
+
+/// Knows what must not be kept though a command has printed it: passwords in addresses, access
+/// tokens, and what the environment holds under names like HOMEBREW_GITHUB_API_TOKEN. It knows no
+/// other secret by its looks. Immutable; any thread.
+class Secrets {
+ public:
+  explicit Secrets(const QProcessEnvironment& environment);
+
+  /// `text` with "•••" for each of them.
+  [[nodiscard]] QString hiddenIn(QString text) const;
+
+  /// In characters: how much of one may lie at the end of a text that was cut.
+  [[nodiscard]] qsizetype longest() const { return longest_; }
+
+ private:
+  QStringList values_;
+  /// At least that of a token or of a name with a password.
+  qsizetype longest_ = 256;
+};
+
+}  // namespace quillmere
