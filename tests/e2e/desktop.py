@@ -98,10 +98,10 @@ class Window:
 
     def _application(self):
         desktop = self._atspi.Registry.getDesktop(0)
-        for application in desktop:
-            if application and application.name == "Quillmere":
-                return application
-        return None
+        started = [each for each in desktop if each and each.name == "Quillmere"]
+        own = [each for each in started if each.get_process_id() == self.process.pid]
+        # One that something else started for us has another number.
+        return next(iter(own or started), None)
 
     def everything(self, inside=None):
         """All that is showing, in reading order; only what is `inside` a node if there is one."""
