@@ -13,7 +13,9 @@ namespace quillmere {
 void restrictToOwner(const QString& path) {
   const QByteArray name = QFile::encodeName(path);
   struct stat status = {};
-  if (stat(name.constData(), &status) == 0 && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0) {
+  // A folder in its place could not be entered afterwards.
+  if (stat(name.constData(), &status) == 0 && S_ISREG(status.st_mode) &&
+      (status.st_mode & (S_IRWXG | S_IRWXO)) != 0) {
     (void)chmod(name.constData(), S_IRUSR | S_IWUSR);
   }
 }

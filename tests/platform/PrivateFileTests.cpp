@@ -40,6 +40,13 @@ TEST(PrivateFile, IsNotMadeByARestriction) {
   EXPECT_FALSE(QFile::exists(folder.filePath(u"file"_s)));
 }
 
+TEST(PrivateFile, IsNoFolder) {
+  const QTemporaryDir folder;
+  ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::Permissions(0x7755)));
+  ensurePrivateFile(folder.path());
+  EXPECT_EQ(permissionBits(folder.path()), 0755);
+}
+
 TEST(PrivateFile, IsNoneWhereTheFolderRefuses) {
   const QTemporaryDir folder;
   ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
