@@ -1,19 +1,12 @@
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
 
-#include <cstdlib>
-
 #include "inventory/HomebrewInstallReceipt.h"
 #include "platform/RegularFile.h"
+#include "require.h"
 
 namespace quillmere {
 namespace {
-
-void require(bool condition) {
-  if (!condition) {
-    std::abort();
-  }
-}
 
 /// Whether what was decoded is what Qt's own reader finds, where that one takes the document, too.
 bool agreesWithQt(const HomebrewInstallReceipt& receipt, const QByteArray& json) {

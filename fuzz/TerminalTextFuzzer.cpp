@@ -1,16 +1,12 @@
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 #include "platform/TerminalText.h"
+#include "require.h"
+
+using quillmere::require;
 
 namespace {
-
-void require(bool holds) {
-  if (!holds) {
-    std::abort();
-  }
-}
 
 bool isAllowed(QChar character) {
   return character == u'\t' || character.category() != QChar::Other_Control;

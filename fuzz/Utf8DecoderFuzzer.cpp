@@ -2,17 +2,13 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 
 #include "platform/Utf8Decoder.h"
+#include "require.h"
+
+using quillmere::require;
 
 namespace {
-
-void require(bool holds) {
-  if (!holds) {
-    std::abort();
-  }
-}
 
 bool isValid(const QByteArray& text) {
   QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);

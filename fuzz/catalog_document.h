@@ -1,18 +1,11 @@
 #pragma once
 
-#include <cstdlib>
-
 #include "catalog/CatalogDecoding.h"
 #include "catalog/HomebrewPackageSummary.h"
 #include "platform/RegularFile.h"
+#include "require.h"
 
 namespace quillmere {
-
-inline void require(bool condition) {
-  if (!condition) {
-    std::abort();
-  }
-}
 
 /// As they come out of a file or a download, with room behind them or without.
 inline QByteArray bytesOf(const unsigned char* data, std::size_t size) {
