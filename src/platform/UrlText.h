@@ -28,4 +28,8 @@ class UrlText {
   SharedText text_;
 };
 
+/// Whether `address` is a page of the web. Any other, a file or a program's own scheme, would start
+/// whatever the desktop has for it. Pure; any thread.
+[[nodiscard]] bool isWebPage(const QUrl& address);
+
 }  // namespace quillmere

@@ -5,6 +5,8 @@
 
 #include <utility>
 
+#include "platform/UrlText.h"
+
 namespace quillmere {
 namespace {
 
@@ -34,13 +36,6 @@ QUrl ExternalLinks::support() const {
 
 QUrl ExternalLinks::homebrew() const {
   return QUrl(QStringLiteral("https://brew.sh"));
-}
-
-bool ExternalLinks::isWebPage(const QUrl& address) {
-  const QString scheme = address.scheme();
-  const bool isOfTheWeb =
-      scheme == QLatin1StringView("https") || scheme == QLatin1StringView("http");
-  return isOfTheWeb && !address.host().isEmpty();
 }
 
 bool ExternalLinks::open(const QUrl& page) const {

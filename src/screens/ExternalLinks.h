@@ -29,10 +29,6 @@ class ExternalLinks : public QObject {
   [[nodiscard]] QUrl support() const;
   [[nodiscard]] QUrl homebrew() const;
 
-  /// Whether an address is one of the web. Any other, a file or a program's own scheme, would start
-  /// whatever the desktop has for it.
-  [[nodiscard]] static bool isWebPage(const QUrl& address);
-
   /// Opens a page of the web and returns whether it went to a browser; refuses any other address.
   Q_INVOKABLE bool open(const QUrl& page) const;
 

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "guidance/FreshnessIndicator.h"
-#include "screens/ExternalLinks.h"
+#include "platform/UrlText.h"
 #include "screens/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
@@ -81,7 +81,7 @@ QString PackageDetailViewModel::tapText() const {
 }
 
 bool PackageDetailViewModel::canOpenHomepage() const {
-  return inputs_.package.homepage && ExternalLinks::isWebPage(inputs_.package.homepage->url());
+  return inputs_.package.homepage && isWebPage(inputs_.package.homepage->url());
 }
 
 QString PackageDetailViewModel::installedVersionText() const {
@@ -160,7 +160,7 @@ QString PackageDetailViewModel::commandText() const {
 
 void PackageDetailViewModel::openHomepage() {
   const auto& homepage = inputs_.package.homepage;
-  if (!homepage || !ExternalLinks::isWebPage(homepage->url())) {
+  if (!homepage || !isWebPage(homepage->url())) {
     return;
   }
   const bool opened = openUrl_(homepage->url());
