@@ -16,7 +16,7 @@ bool isWebPage(const QUrl& address) {
   const QString scheme = address.scheme();
   const bool isOfTheWeb =
       scheme == QLatin1StringView("https") || scheme == QLatin1StringView("http");
-  return isOfTheWeb && !address.host().isEmpty();
+  return isOfTheWeb && !address.host().isEmpty() && address.userInfo().isEmpty();
 }
 
 }  // namespace quillmere
