@@ -166,6 +166,15 @@ QStringList possibleEffects(Operation operation, const BrewCommandTarget& target
   Q_UNREACHABLE();
 }
 
+bool couldBePackage(QStringView name) {
+  constexpr qsizetype longestName = 255;
+  const auto parts = name.split(u'/');
+  return name.size() <= longestName && std::ranges::all_of(parts, [](QStringView part) {
+           return !part.isEmpty() && part.front().unicode() < 0x80 &&
+                  part.front().isLetterOrNumber();
+         });
+}
+
 BrewCommandBuilder::Result BrewCommandBuilder::info(const BrewCommandTarget& target) const {
   return buildForPackage(Operation::info, target);
 }

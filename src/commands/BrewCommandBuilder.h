@@ -26,6 +26,12 @@ struct BrewCommandBuilderError {
 [[nodiscard]] QStringList possibleEffects(BrewCommandOperation operation,
                                           const BrewCommandTarget& target);
 
+/// Whether Homebrew can take `name` for nothing but a package. The builder's identifiers mean
+/// nothing to a shell, but "--force" would be an option to Homebrew, "../x" a file, and neither
+/// names a package: of those, each part between slashes begins with a letter or a digit. Nor is one
+/// longer than the folder that is made for it may be called. Pure; any thread.
+[[nodiscard]] bool couldBePackage(QStringView name);
+
 /// The only place where a package name reaches a command line: it refuses every character that a
 /// shell could take for anything but itself, so that the text can be copied and run as it stands.
 /// Stateless; each operation is a pure function but for the command's fresh `id`. Any thread.

@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 
+#include "commands/BrewCommandBuilder.h"
+
 namespace quillmere {
 namespace {
 
@@ -57,7 +59,7 @@ bool namesPackage(BrewCommandTargetKind kind) {
 std::expected<QStringList, UnsupportedTarget> brewArguments(const BrewCommand& command) {
   const BrewCommandTarget& target = command.target;
   const char* words = wordsFor(command.operation, target.kind);
-  if (!words || (namesPackage(target.kind) && !target.name)) {
+  if (!words || (namesPackage(target.kind) && !couldBePackage(target.name.value_or(QString())))) {
     return std::unexpected(UnsupportedTarget{target.kind});
   }
   QStringList arguments = QString::fromLatin1(words).split(u' ');

@@ -47,6 +47,9 @@ QString hint(const PackageCommand& command) {
 
 std::vector<PackageCommand> packageCommands(const BrewCommandTarget& target) {
   std::vector<PackageCommand> commands;
+  if (!couldBePackage(target.name.value_or(QString()))) {
+    return commands;
+  }
   for (const Row& row : rows) {
     if (row.formulaeOnly && target.kind != BrewCommandTargetKind::formula) {
       continue;

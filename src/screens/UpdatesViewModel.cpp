@@ -141,8 +141,9 @@ void UpdatesViewModel::previewUpgrade(int row) {
   if (package == nullptr) {
     return;
   }
-  if (const auto command =
-          BrewCommandBuilder().upgrade(packageTarget(package->kind, package->id))) {
+  const BrewCommandTarget target = packageTarget(package->kind, package->id);
+  const auto command = BrewCommandBuilder().upgrade(target);
+  if (command && couldBePackage(target.name.value_or(QString()))) {
     previewRequest_(*command, sourceScreen);
   }
 }

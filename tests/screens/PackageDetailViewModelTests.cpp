@@ -123,15 +123,20 @@ TEST_F(PackageDetail, MarksOnlyTheUninstallAsDestructive) {
 }
 
 TEST_F(PackageDetail, OffersNoCommandForAnIdentifierThatIsRefused) {
-  auto inputs = formula();
-  inputs.package.id = text(u"formula:wget;rm"_s);
-  const auto refused = detail(inputs);
-  expectButtons(*refused, {});
-  EXPECT_EQ(
-      refused->commandText(),
-      u"Command previews are unavailable because this package identifier is not recognized."_s);
-  refused->preview(0);
-  EXPECT_EQ(asked_.commandText, QString());
+  for (const QString& name :
+       {u"wget;rm"_s, u"--force"_s, u"-rf"_s, u"-h"_s, u"a b"_s, u"$(x)"_s, u"../../x"_s, u""_s,
+        u"wget\nrm"_s, u"'wget'"_s, u"\"wget\""_s, u"wget\u202e"_s, QString(1'000'000, u'w')}) {
+    SCOPED_TRACE(name.left(80).toStdString());
+    auto inputs = formula();
+    inputs.package.id = text(u"formula:"_s + name);
+    const auto refused = detail(inputs);
+    expectButtons(*refused, {});
+    EXPECT_EQ(
+        refused->commandText(),
+        u"Command previews are unavailable because this package identifier is not recognized."_s);
+    refused->preview(0);
+    EXPECT_EQ(asked_.commandText, QString());
+  }
 }
 
 TEST_F(PackageDetail, SaysWhatThePreviewsAreFor) {

@@ -173,8 +173,12 @@ TEST_F(Updates, PreviewTheUpgradeOfARow) {
 }
 
 TEST_F(Updates, PreviewNoUpgradeOfANameThatIsRefused) {
-  updates_.setInputs(loaded({installed("formula:a b", {"1"}, "2")}));
-  updates_.previewUpgrade(0);
+  updates_.setInputs(
+      loaded({installed("formula:a b", {"1"}, "2"), installed("formula:--greedy", {"1"}, "2"),
+              installed("cask:../x", {"1"}, "2")}));
+  for (const int row : {0, 1, 2}) {
+    updates_.previewUpgrade(row);
+  }
   EXPECT_EQ(asked_, QStringList());
 }
 
