@@ -24,7 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 namespace {
 
 constexpr std::size_t longest = 4096;
-constexpr int usualChanges = 20'000;
+constexpr int usualChanges = 5000;
 
 /// What a signal handler has to know.
 const char* found = nullptr;
