@@ -39,9 +39,7 @@ void checkOrder(const NameOrdering& ordering, const std::array<QString, 3>& name
     for (const QString& right : names) {
       const int order = sign(ordering.compare(left, right));
       require(order == -sign(ordering.compare(right, left)));
-      // To the keys, a name of characters without a place in the order is as good as none.
-      require(left.isEmpty() || right.isEmpty() ||
-              order == sign(ordering.sortKey(left).compare(ordering.sortKey(right))));
+      require(order == sign(ordering.sortKey(left).compare(ordering.sortKey(right))));
       for (const QString& third : names) {
         if (order <= 0 && ordering.compare(right, third) <= 0) {
           const int whole = sign(ordering.compare(left, third));

@@ -15,6 +15,10 @@ QLocale languageOf(const QLocale& locale) {
   return hasLanguage ? locale : QLocale(QLocale::English, QLocale::UnitedStates);
 }
 
+bool isPrintableAscii(QStringView text) {
+  return std::ranges::all_of(text, [](QChar c) { return c >= u' ' && c <= u'~'; });
+}
+
 /// Where the parts of `order` end that are in order, each as long as it is; a part in the reverse
 /// order is turned.
 template <typename ComesBefore>
@@ -54,7 +58,13 @@ const NameOrdering& NameOrdering::ofUser() {
 }
 
 int NameOrdering::compare(QStringView left, QStringView right) const {
-  return collator_.compare(left, right);
+  // The comparison itself is not an order of all names: some languages take digits of two scripts
+  // for one number or for two, as the other name has it, and an empty name differs from one of
+  // characters that have no place. The keys are one, but cost as much as several comparisons.
+  if (isPrintableAscii(left) && isPrintableAscii(right)) {
+    return collator_.compare(left, right);
+  }
+  return sortKey(left.toString()).compare(sortKey(right.toString()));
 }
 
 QCollatorSortKey NameOrdering::sortKey(const QString& name) const {

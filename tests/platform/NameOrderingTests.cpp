@@ -55,6 +55,23 @@ TEST_P(NameOrderingIn, OrdersNumbersByValueAndIgnoresCase) {
   }
 }
 
+/// The comparison of the platform is none for such names.
+TEST_P(NameOrderingIn, OrdersWhateverNamesByTheirKeys) {
+  const QStringList names{QString(),
+                          QStringLiteral("\u007f"),
+                          QStringLiteral("1\ufffd1\ufffd\u0008"),
+                          QStringLiteral("1\u0967\u0008"),
+                          QStringLiteral("\u0967"),
+                          QStringLiteral("1")};
+  for (const QString& left : names) {
+    for (const QString& right : names) {
+      EXPECT_EQ(sign(ordering_.compare(left, right)),
+                sign(ordering_.sortKey(left).compare(ordering_.sortKey(right))))
+          << left.toStdString() << " " << right.toStdString();
+    }
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Locales, NameOrderingIn,
                          testing::Values("C", "en_US", "de_DE", "sv_SE", "tr_TR", "ja_JP"));
 
