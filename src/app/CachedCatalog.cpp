@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "catalog/CatalogDecoding.h"
+#include "catalog/MetadataFetchOptions.h"
 #include "platform/FileUrl.h"
 #include "platform/RegularFile.h"
 
@@ -13,7 +14,7 @@ namespace quillmere {
 namespace {
 
 std::expected<QByteArray, QString> readDocument(const QUrl& file) {
-  auto document = readRegularFile(filePath(file));
+  auto document = readRegularFile(filePath(file), MetadataFetchOptions().maximumBytes);
   if (!document) {
     return std::unexpected(QStringLiteral("%1: %2").arg(file.fileName(), document.error()));
   }

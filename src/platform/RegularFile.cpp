@@ -20,13 +20,15 @@ std::unexpected<QString> failure(int number) {
 }
 
 /// Reads until the end of the file, which may lie elsewhere than its `size` said.
-std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype size) {
+std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype size,
+                                           qint64 mostBytes) {
   constexpr qsizetype least = 4096;
   QByteArray data;
   data.reserve(size + readAheadPadding);
   qsizetype length = 0;
-  // Room for one byte more than was promised shows whether that was all.
-  for (qsizetype room = size + 1;;) {
+  // Room for one byte more than was promised shows whether that was all. Where nothing was, the
+  // system makes the content up as it is read.
+  for (qsizetype room = size == 0 ? least : size + 1;;) {
     data.resize(room);
     const ssize_t count =
         read(file.get(), data.data() + length, static_cast<std::size_t>(room - length));
@@ -34,6 +36,9 @@ std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype
       return failure(errno);
     }
     length += std::max(count, ssize_t{0});
+    if (length > mostBytes) {
+      return failure(EFBIG);
+    }
     if (count == 0 || (count > 0 && length == size)) {
       data.resize(length);
       return data;
@@ -46,7 +51,7 @@ std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype
 
 }  // namespace
 
-std::expected<QByteArray, QString> readRegularFile(const QString& path) {
+std::expected<QByteArray, QString> readRegularFile(const QString& path, qint64 mostBytes) {
   // Opening a pipe would wait for its other end, and opening some devices acts on them.
   const FileDescriptor file(
       open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -57,7 +62,10 @@ std::expected<QByteArray, QString> readRegularFile(const QString& path) {
   if (!S_ISREG(status.st_mode)) {
     return failure(S_ISDIR(status.st_mode) ? EISDIR : EINVAL);
   }
-  return readAll(file, status.st_size);
+  if (status.st_size > mostBytes) {
+    return failure(EFBIG);
+  }
+  return readAll(file, status.st_size, mostBytes);
 }
 
 }  // namespace quillmere

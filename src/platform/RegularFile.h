@@ -12,8 +12,10 @@ namespace quillmere {
 inline constexpr qsizetype readAheadPadding = 64;
 
 /// The whole of the regular file at `path`, or the platform's words for why not. A pipe, a device
-/// or a folder is refused instead of waited for. The bytes come with `readAheadPadding` of
-/// capacity. Blocks on the disk; any thread.
-[[nodiscard]] std::expected<QByteArray, QString> readRegularFile(const QString& path);
+/// or a folder is refused instead of waited for, and so is a file of more than `mostBytes`, before
+/// memory is set aside for it: some have a size that no disk has, and some no end. The bytes come
+/// with `readAheadPadding` of capacity. Blocks on the disk; any thread.
+[[nodiscard]] std::expected<QByteArray, QString> readRegularFile(const QString& path,
+                                                                 qint64 mostBytes);
 
 }  // namespace quillmere

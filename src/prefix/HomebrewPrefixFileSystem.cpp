@@ -12,6 +12,9 @@
 namespace quillmere {
 namespace {
 
+/// What is read of a prefix are receipts. The largest have some hundred kilobytes.
+constexpr qint64 mostBytes = qint64{4} * 1024 * 1024;
+
 /// Whether the calling user may do to what is at `path` what `mode` says.
 bool isAccessible(const QString& path, int mode) {
   return access(QFile::encodeName(path).constData(), mode) == 0;
@@ -38,7 +41,7 @@ class PlatformFileSystem final : public HomebrewPrefixFileSystem {
   }
 
   std::expected<QByteArray, FileSystemError> readData(const QUrl& url) const override {
-    auto data = readRegularFile(filePath(url));
+    auto data = readRegularFile(filePath(url), mostBytes);
     if (!data) {
       return std::unexpected(FileSystemError{std::move(data).error()});
     }

@@ -31,7 +31,7 @@ class HomebrewPrefixFileSystem {
   [[nodiscard]] virtual std::expected<QList<QUrl>, FileSystemError> contentsOfDirectory(
       const QUrl& url) const = 0;
   /// The whole of a regular file. Anything else (a pipe, a device) is refused instead of waited
-  /// for.
+  /// for, and so is a file that is larger than any receipt.
   [[nodiscard]] virtual std::expected<QByteArray, FileSystemError> readData(
       const QUrl& url) const = 0;
 };

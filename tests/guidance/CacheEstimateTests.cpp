@@ -2,15 +2,19 @@
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
+#include <fcntl.h>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "guidance/CleanupGuidance.h"
+#include "platform/FileDescriptor.h"
 #include "platform/FileUrl.h"
 #include "platform/SecurityScopedAccess.h"
 #include "support/DemoPrefix.h"
 #include "support/Printers.h"
+#include "support/Rounds.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
@@ -115,6 +119,44 @@ TEST(CacheEstimate, GoesDeeperThanFilesMayBeOpen) {
   }
   prefix.withFile(folder + u"/file"_s, QByteArray(7, 'x'));
   EXPECT_EQ(sizeOf(prefix), 7);
+}
+
+/// A name of every path is a file to a process only up to the length that a path may have: deeper
+/// files do not count.
+TEST(CacheEstimate, EndsInATreeThatIsDeeperThanAPathIsLong) {
+  DemoPrefix prefix;
+  prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
+  const QByteArray name(250, 'd');
+  FileDescriptor folder(open(encodedPath(prefix, cache).constData(), O_RDONLY | O_DIRECTORY));
+  for (int depth = 0; depth < 100; ++depth) {
+    ASSERT_EQ(mkdirat(folder.get(), name.constData(), 0755), 0);
+    const FileDescriptor file(openat(folder.get(), "small", O_CREAT | O_WRONLY, 0644));
+    ASSERT_EQ(write(file.get(), "x", 1), 1);
+    folder = FileDescriptor(openat(folder.get(), name.constData(), O_RDONLY | O_DIRECTORY));
+    ASSERT_TRUE(folder.isOpen());
+  }
+  const auto bytes = sizeOf(prefix);
+  // Qt's own removal goes by paths as well.
+  std::filesystem::remove_all(encodedPath(prefix, cache).toStdString());
+  ASSERT_TRUE(bytes);
+  EXPECT_GT(*bytes, 7);
+  EXPECT_LE(*bytes, 107);
+}
+
+TEST(CacheEstimate, CountsManyFilesOnceAmongLinksInCircles) {
+  DemoPrefix prefix;
+  const int count = test::rounds(2000, 100'000);
+  prefix.withFolder(cache + u"/downloads"_s);
+  for (int i = 0; i < count; ++i) {
+    const QByteArray path = encodedPath(prefix, cache + u"/downloads/%1"_s.arg(i));
+    const FileDescriptor file(open(path.constData(), O_CREAT | O_WRONLY, 0644));
+    ASSERT_EQ(write(file.get(), "x", 1), 1);
+    if (i % 100 == 0) {
+      ASSERT_EQ(symlink("..", (path + "-up").constData()), 0);
+      ASSERT_EQ(symlink("/", (path + "-root").constData()), 0);
+    }
+  }
+  EXPECT_EQ(sizeOf(prefix), count);
 }
 
 TEST(CacheEstimate, GivesBackTheAccessThatItWasGranted) {

@@ -1,9 +1,14 @@
 #include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
+#include <thread>
 
+#include "platform/FileDescriptor.h"
 #include "platform/RegularFile.h"
 #include "support/Printers.h"
 
@@ -11,6 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace quillmere {
 namespace {
+
+constexpr qint64 mostBytes = qint64{2} * 1024 * 1024;
 
 class RegularFile : public testing::Test {
  protected:
@@ -29,40 +36,94 @@ class RegularFile : public testing::Test {
 
 TEST_F(RegularFile, IsReadAsAWhole) {
   const QByteArray content = QByteArray("\0\xFF document\n", 12).repeated(100'000);
-  EXPECT_EQ(readRegularFile(withContent(content)).value(), content);
+  EXPECT_EQ(readRegularFile(withContent(content), mostBytes).value(), content);
 }
 
 TEST_F(RegularFile, MayBeEmpty) {
-  EXPECT_EQ(readRegularFile(withContent({})).value(), QByteArray());
+  EXPECT_EQ(readRegularFile(withContent({}), mostBytes).value(), QByteArray());
 }
 
 TEST_F(RegularFile, LeavesRoomBehindItsBytes) {
-  const auto bytes = readRegularFile(withContent("[]"));
+  const auto bytes = readRegularFile(withContent("[]"), mostBytes);
   EXPECT_GE(bytes.value().capacity(), 2 + readAheadPadding);
 }
 
 TEST_F(RegularFile, IsReadToItsEndWhereItsSizeIsUnknown) {
-  const auto bytes = readRegularFile(u"/proc/self/status"_s);
+  const auto bytes = readRegularFile(u"/proc/self/status"_s, mostBytes);
   EXPECT_TRUE(bytes.value().contains("\nPid:"));
   EXPECT_TRUE(bytes.value().endsWith('\n'));
 }
 
+TEST_F(RegularFile, IsAsLargeAsIsAskedForAndNoLarger) {
+  const QByteArray content(10'000, 'x');
+  EXPECT_EQ(readRegularFile(withContent(content), 10'000).value(), content);
+  EXPECT_EQ(readRegularFile(withContent(content), 9'999).error(), u"File too large"_s);
+}
+
+TEST_F(RegularFile, OfASizeThatNoMemoryHasIsRefusedUnread) {
+  QFile sparse(withContent("{}"));
+  constexpr qint64 terabyte = qint64{1} << 40;
+  if (!sparse.resize(terabyte)) {
+    GTEST_SKIP() << "no disk here takes files of such a size";
+  }
+  EXPECT_EQ(readRegularFile(sparse.fileName(), mostBytes).error(), u"File too large"_s);
+}
+
+/// It says that it is empty and goes on for as long as the address space does.
+TEST_F(RegularFile, WithoutAnEndIsGivenUp) {
+  const QString endless = u"/proc/self/pagemap"_s;
+  QFile file(endless);
+  if (!file.open(QFile::ReadOnly) || file.read(8).size() != 8) {
+    GTEST_SKIP() << "no file here has no end";
+  }
+  EXPECT_EQ(readRegularFile(endless, mostBytes).error(), u"File too large"_s);
+}
+
+TEST_F(RegularFile, ThatGrowsMeanwhileIsRead) {
+  const QString path = withContent("{}");
+  std::jthread writer([&path](const std::stop_token& stop) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QFile::WriteOnly | QFile::Append));
+    for (int i = 0; i < 1000 && !stop.stop_requested(); ++i) {
+      file.write(QByteArray(1000, ' '));
+      file.flush();
+    }
+  });
+  for (int i = 0; i < 200; ++i) {
+    const auto bytes = readRegularFile(path, mostBytes);
+    ASSERT_TRUE(bytes) << bytes.error().toStdString();
+    ASSERT_TRUE(bytes->startsWith("{}"));
+    ASSERT_EQ(bytes->trimmed(), "{}");
+  }
+}
+
+TEST_F(RegularFile, IsNoSocket) {
+  const QByteArray path = QFile::encodeName(pathOf(u"socket"_s));
+  sockaddr_un address = {.sun_family = AF_UNIX, .sun_path = {}};
+  ASSERT_LT(path.size(), qsizetype{sizeof(address.sun_path)});
+  std::ranges::copy(path, address.sun_path);
+  const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM, 0));
+  ASSERT_EQ(bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  EXPECT_FALSE(readRegularFile(QFile::decodeName(path), mostBytes));
+}
+
 TEST_F(RegularFile, ThatIsMissingHasAnErrorInThePlatformsWords) {
-  EXPECT_EQ(readRegularFile(pathOf(u"nothing"_s)).error(), u"No such file or directory"_s);
+  EXPECT_EQ(readRegularFile(pathOf(u"nothing"_s), mostBytes).error(),
+            u"No such file or directory"_s);
 }
 
 TEST_F(RegularFile, IsNoFolder) {
-  EXPECT_EQ(readRegularFile(pathOf(u"."_s)).error(), u"Is a directory"_s);
+  EXPECT_EQ(readRegularFile(pathOf(u"."_s), mostBytes).error(), u"Is a directory"_s);
 }
 
 TEST_F(RegularFile, IsNoDevice) {
-  EXPECT_EQ(readRegularFile(u"/dev/zero"_s).error(), u"Invalid argument"_s);
+  EXPECT_EQ(readRegularFile(u"/dev/zero"_s, mostBytes).error(), u"Invalid argument"_s);
 }
 
 TEST_F(RegularFile, IsNoPipeToWaitFor) {
   const QString pipe = pathOf(u"pipe"_s);
   ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0644), 0);
-  EXPECT_EQ(readRegularFile(pipe).error(), u"Invalid argument"_s);
+  EXPECT_EQ(readRegularFile(pipe, mostBytes).error(), u"Invalid argument"_s);
 }
 
 }  // namespace
