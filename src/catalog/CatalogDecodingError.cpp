@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/ShownText.h"
+
 namespace quillmere {
 namespace {
 
@@ -20,7 +22,7 @@ QString quotedExcerpt(const QString& text) {
   std::ranges::replace_if(
       line, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; },
       QChar(u' '));
-  return u'"' + line + u'"';
+  return u'"' + shownText(line) + u'"';
 }
 
 QString CatalogDecodingError::description() const {

@@ -3,12 +3,13 @@
 #include <QtCore/QStringList>
 
 #include "platform/NameOrdering.h"
+#include "platform/ShownText.h"
 
 namespace quillmere {
 namespace {
 
 QString spoken(const QString& lead, const std::optional<SharedText>& value) {
-  return lead + (value ? value->toString() : QStringLiteral("unknown"));
+  return lead + (value ? shownText(*value) : QStringLiteral("unknown"));
 }
 
 PackageUpdateSummary updateOf(const InstalledPackageSummary& package) {
@@ -37,7 +38,7 @@ std::vector<PackageUpdateSummary> packageUpdateSummaries(
 
 QString spokenLabel(const PackageUpdateSummary& update) {
   const PackageVersionState& state = update.versionState;
-  return QStringList{update.package.name.toString(),
+  return QStringList{shownText(update.package.name),
                      displayLabel(update.package.kind),
                      rawValue(state.status),
                      spoken(QStringLiteral("installed "), state.currentVersion),

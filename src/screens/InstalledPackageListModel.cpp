@@ -10,17 +10,17 @@ namespace quillmere {
 namespace {
 
 QString part(QLatin1StringView lead, const std::optional<SharedText>& value) {
-  return value ? lead + value->toString() : QString();
+  return value ? lead + shownText(*value) : QString();
 }
 
 QString textOr(QLatin1StringView substitute, const std::optional<SharedText>& text) {
-  return text ? text->toString() : QString(substitute);
+  return text ? shownText(*text) : QString(substitute);
 }
 
 }  // namespace
 
 QString accessibleLabel(const InstalledPackageSummary& package) {
-  return package.name.toString() + part(", installed "_L1, package.installedVersion) +
+  return shownText(package.name) + part(", installed "_L1, package.installedVersion) +
          part(", latest known "_L1, package.latestKnownVersion) + part(", source "_L1, package.tap);
 }
 
@@ -51,7 +51,7 @@ QVariant InstalledPackageListModel::data(const QModelIndex& index, int role) con
   const InstalledPackageSummary& package = this->package(index.row());
   switch (role) {
     case NameRole:
-      return package.name.toString();
+      return shownText(package.name);
     case KindRole:
       return QString(displayLabel(package.kind));
     case InstalledVersionRole:
@@ -59,7 +59,7 @@ QVariant InstalledPackageListModel::data(const QModelIndex& index, int role) con
     case LatestKnownVersionRole:
       return textOr("Not listed"_L1, package.latestKnownVersion);
     case DescriptionRole:
-      return package.description.value_or(package.detail).toString();
+      return shownText(package.description.value_or(package.detail));
     case AccessibleLabelRole:
       return accessibleLabel(package);
     default:

@@ -4,6 +4,8 @@
 
 #include <utility>
 
+#include "platform/ShownText.h"
+
 using namespace Qt::StringLiterals;
 
 namespace quillmere {
@@ -16,15 +18,15 @@ QString olderVersions(const OldVersionPackage& package) {
   for (const SharedText& version : package.oldVersions) {
     versions += version.toString();
   }
-  return versions.join(", "_L1);
+  return shownText(versions.join(", "_L1));
 }
 
 QString currentVersion(const OldVersionPackage& package, const QString& unknown) {
-  return package.currentVersion ? package.currentVersion->toString() : unknown;
+  return package.currentVersion ? shownText(*package.currentVersion) : unknown;
 }
 
 QString accessibleLabel(const OldVersionPackage& package) {
-  return package.name.toString() + ", "_L1 + displayLabel(package.kind) + ", current "_L1 +
+  return shownText(package.name) + ", "_L1 + displayLabel(package.kind) + ", current "_L1 +
          currentVersion(package, u"unknown"_s) + ", older versions "_L1 + olderVersions(package);
 }
 
@@ -47,7 +49,7 @@ QVariant OldVersionListModel::data(const QModelIndex& index, int role) const {
   const OldVersionPackage& package = packages_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case NameRole:
-      return package.name.toString();
+      return shownText(package.name);
     case KindTextRole:
       return displayLabel(package.kind);
     case VersionsTextRole:

@@ -4,13 +4,13 @@
 
 #include <optional>
 
-#include "platform/SharedText.h"
+#include "platform/ShownText.h"
 
 namespace quillmere {
 
 /// A text that may be missing, as a row shows it.
 [[nodiscard]] inline QString textOrNothing(const std::optional<SharedText>& text) {
-  return text ? text->toString() : QString();
+  return text ? shownText(*text) : QString();
 }
 
 }  // namespace quillmere

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "guidance/FreshnessIndicator.h"
+#include "platform/ShownText.h"
 #include "platform/UrlText.h"
 #include "screens/PackageTarget.h"
 
@@ -12,14 +13,14 @@ namespace quillmere {
 namespace {
 
 QString listed(const std::optional<SharedText>& value) {
-  return value && !value->isEmpty() ? value->toString() : PackageDetailViewModel::notListedText();
+  return value && !value->isEmpty() ? shownText(*value) : PackageDetailViewModel::notListedText();
 }
 
 QStringList strings(const std::vector<SharedText>& texts) {
   QStringList result;
   result.reserve(static_cast<qsizetype>(texts.size()));
   for (const SharedText& text : texts) {
-    result += text.toString();
+    result += shownText(text);
   }
   return result;
 }
@@ -37,7 +38,7 @@ PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewRequest pre
 }
 
 QString PackageDetailViewModel::name() const {
-  return inputs_.package.name.toString();
+  return shownText(inputs_.package.name);
 }
 
 QString PackageDetailViewModel::kindText() const {
@@ -45,13 +46,13 @@ QString PackageDetailViewModel::kindText() const {
 }
 
 QString PackageDetailViewModel::versionText() const {
-  return inputs_.package.version.value_or(SharedText()).toString();
+  return shownText(inputs_.package.version.value_or(SharedText()));
 }
 
 QString PackageDetailViewModel::descriptionText() const {
   const auto& description = inputs_.package.description;
   return description && !description->isEmpty()
-             ? description->toString()
+             ? shownText(*description)
              : u"No description is available for this package."_s;
 }
 
@@ -69,7 +70,7 @@ QString PackageDetailViewModel::headVersionText() const {
 
 QString PackageDetailViewModel::homepageText() const {
   const auto& homepage = inputs_.package.homepage;
-  return homepage ? homepage->text().toString() : notListedText();
+  return homepage ? shownText(homepage->text()) : notListedText();
 }
 
 QString PackageDetailViewModel::licenseText() const {
@@ -90,15 +91,15 @@ QString PackageDetailViewModel::installedVersionText() const {
   }
   const auto& versions = inputs_.installedPackage->installedVersions;
   if (!versions.empty()) {
-    return strings(versions).join(", "_L1);
+    return shownText(strings(versions).join(", "_L1));
   }
   const auto& version = inputs_.installedPackage->installedVersion;
-  return version ? version->toString() : u"Unknown"_s;
+  return version ? shownText(*version) : u"Unknown"_s;
 }
 
 QString PackageDetailViewModel::localSourceText() const {
   if (inputs_.installedPackage) {
-    return inputs_.installedPackage->detail.toString();
+    return shownText(inputs_.installedPackage->detail);
   }
   return inputs_.hasInventory ? u"Not found in local scan"_s : u"No local package record"_s;
 }

@@ -9,10 +9,10 @@ using namespace Qt::StringLiterals;
 namespace quillmere {
 
 QString accessibleLabel(const HomebrewPackageSummary& package) {
-  QString label = package.name.toString() + ", "_L1 + displayLabel(package.kind) + ", "_L1;
-  label += package.version ? "version "_L1 + package.version->toString() : u"unknown version"_s;
+  QString label = shownText(package.name) + ", "_L1 + displayLabel(package.kind) + ", "_L1;
+  label += package.version ? "version "_L1 + shownText(*package.version) : u"unknown version"_s;
   if (package.description) {
-    label += ", "_L1 + package.description->toString();
+    label += ", "_L1 + shownText(*package.description);
   }
   return label;
 }
@@ -43,7 +43,7 @@ QVariant PackageListModel::data(const QModelIndex& index, int role) const {
   const HomebrewPackageSummary& package = this->package(index.row());
   switch (role) {
     case NameRole:
-      return package.name.toString();
+      return shownText(package.name);
     case KindRole:
       return QString(displayLabel(package.kind));
     case VersionRole:

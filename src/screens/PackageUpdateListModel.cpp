@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/ShownText.h"
+
 using namespace Qt::StringLiterals;
 
 namespace quillmere {
@@ -30,7 +32,7 @@ QString tint(Status status) {
 }
 
 QString versionText(const std::optional<SharedText>& version) {
-  return version ? version->toString() : u"Unknown"_s;
+  return version ? shownText(*version) : u"Unknown"_s;
 }
 
 }  // namespace
@@ -75,7 +77,7 @@ QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const 
   const PackageUpdateSummary& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case NameRole:
-      return row.package.name.toString();
+      return shownText(row.package.name);
     case KindTextRole:
       return displayLabel(row.package.kind);
     case StatusTextRole:
@@ -89,7 +91,7 @@ QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const 
     case AccessibleLabelRole:
       return spokenLabel(row);
     case UpgradeLabelRole:
-      return QString("Preview upgrade command for "_L1 + row.package.name.toString());
+      return QString("Preview upgrade command for "_L1 + shownText(row.package.name));
     case HeadingRole:
       return heading(index.row());
     default:

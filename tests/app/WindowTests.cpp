@@ -24,12 +24,14 @@
 #include "demo/DemoPackages.h"
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
+#include "support/BaitServer.h"
 #include "support/CatalogServer.h"
 #include "support/DemoPrefix.h"
 #include "support/FakeBrew.h"
 #include "support/GeneratedCatalog.h"
 #include "support/HeldFileSystem.h"
 #include "support/HeldThreads.h"
+#include "support/HostileCatalog.h"
 #include "support/TemporarySettings.h"
 
 namespace {
@@ -58,6 +60,7 @@ struct World {
   WindowMemory memory{settings.open()};
   /// Answers that nothing is there, until it is told otherwise.
   test::CatalogServer server;
+  test::BaitServer bait;
   QNetworkAccessManager session;
   std::optional<test::HeldThreads> heldThreads;
   ContentViewModel content{store, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
@@ -76,6 +79,8 @@ class Stage : public QObject {
   Q_PROPERTY(QUrl prefix READ prefix NOTIFY worldChanged)
   Q_PROPERTY(QUrl emptyFolder READ emptyFolder NOTIFY worldChanged)
   Q_PROPERTY(QUrl openedUrl READ openedUrl)
+  Q_PROPERTY(QUrl bait READ bait)
+  Q_PROPERTY(int baitVisits READ baitVisits)
   Q_PROPERTY(QString wantedFormula READ wantedFormula)
 
  public:
@@ -119,6 +124,34 @@ class Stage : public QObject {
     world_->server.answer(
         formulaPath,
         {.body = QByteArray(2000, ' '), .bodyBytes = 500, .ending = test::Answer::Ending::silence});
+  }
+
+  [[nodiscard]] QUrl bait() const { return world_->bait.url(); }
+
+  [[nodiscard]] int baitVisits() const { return world_->bait.visits(); }
+
+  /// From now on, the server has the worst of catalogs.
+  Q_INVOKABLE void serveHostileCatalog() {
+    world_->server.answer(formulaPath, {.body = hostileFormulaDocument(bait())});
+    world_->server.answer(caskPath, {.body = hostileCaskDocument(bait())});
+  }
+
+  Q_INVOKABLE void addHostileHistory() {
+    for (const QString& text : hostileTexts(bait()) + hostileFolderNames()) {
+      const BrewCommand command{.commandText = "brew info " + text,
+                                .target = {BrewCommandTargetKind::formula, text}};
+      world_->store.appendHistory(
+          copyRecord(command, QStringLiteral("<b>bold</b>"), QDateTime::currentDateTimeUtc()));
+    }
+  }
+
+  /// Installs packages with names that a file system takes.
+  Q_INVOKABLE void makeHostileFolders() {
+    for (const QString& name : hostileFolderNames()) {
+      for (const QString& version : {"1.0" + name.left(100), name + "2.0"}) {
+        world_->prefix.withFolder("Cellar/" + name + "/" + version.left(255));
+      }
+    }
   }
 
   /// Fills the cache, in a moment.

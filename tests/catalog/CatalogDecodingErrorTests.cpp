@@ -172,6 +172,7 @@ TEST(CatalogDecodingError, NamesTheFirstProblemOfTheFirstFaultyRecord) {
 
 TEST(CatalogDecodingError, QuotesNoMoreThanOneReadableLine) {
   EXPECT_EQ(quotedExcerpt(QStringLiteral("a\nb\tc\u0007")), QStringLiteral("\"a b c \""));
+  EXPECT_EQ(quotedExcerpt(QStringLiteral("a\u202eb")), QStringLiteral("\"a\ufffdb\""));
   const QString eighty(80, u'x');
   EXPECT_EQ(quotedExcerpt(eighty), u'"' + eighty + u'"');
   EXPECT_EQ(quotedExcerpt(eighty + u'y'), u'"' + eighty + QStringLiteral("\u2026\""));

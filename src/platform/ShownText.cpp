@@ -1,0 +1,45 @@
+#include "platform/ShownText.h"
+
+#include <algorithm>
+
+namespace quillmere {
+namespace {
+
+/// Some ten lines of the widest window; the longest text of the public catalog has 181 characters.
+constexpr qsizetype longestText = 2000;
+
+/// The embeddings, overrides and isolates of the bidirectional algorithm.
+bool turnsDirection(char16_t character) {
+  return (character >= u'\u202A' && character <= u'\u202E') ||
+         (character >= u'\u2066' && character <= u'\u2069');
+}
+
+QChar shownCharacter(QChar character) {
+  const bool isControl = character.category() == QChar::Other_Control;
+  if (character == u'\u2028' || character == u'\u2029' || (isControl && character.isSpace())) {
+    return u' ';
+  }
+  return isControl || turnsDirection(character.unicode()) ? QChar(QChar::ReplacementCharacter)
+                                                          : character;
+}
+
+}  // namespace
+
+QString shownText(QString text) {
+  if (text.size() > longestText) {
+    text.truncate(text[longestText - 1].isHighSurrogate() ? longestText - 1 : longestText);
+    text += QChar(u'\u2026');
+  }
+  const auto differs = [](QChar character) { return shownCharacter(character) != character; };
+  // Looked at first: hardly any text has to be detached from its copies.
+  if (std::ranges::any_of(std::as_const(text), differs)) {
+    std::ranges::transform(text, text.begin(), shownCharacter);
+  }
+  return text;
+}
+
+QString shownText(const SharedText& text) {
+  return shownText(text.toString());
+}
+
+}  // namespace quillmere

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QtCore/QString>
+
+#include "platform/SharedText.h"
+
+namespace quillmere {
+
+/// What is shown of a text that somebody else wrote, on one line: a name or a version of a document
+/// or a folder can hold anything. Line breaks and tabs become blanks. Other control characters and
+/// those that turn the direction of what stands around them, so that one name looks like another,
+/// become U+FFFD; letters that are written from right to left stay as they are. What is longer than
+/// anybody reads ends in "…", because laying it out would keep the window from answering. Pure; any
+/// thread.
+[[nodiscard]] QString shownText(QString text);
+[[nodiscard]] QString shownText(const SharedText& text);
+
+}  // namespace quillmere
