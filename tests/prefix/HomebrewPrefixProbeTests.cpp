@@ -1,7 +1,9 @@
+#include <QtCore/QFile>
 #include <QtCore/QSet>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "platform/SecurityScopedAccess.h"
 #include "prefix/HomebrewPrefixProbe.h"
@@ -77,6 +79,27 @@ TEST(HomebrewPrefixProbe, CountsVisibleItems) {
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
   EXPECT_EQ(statusText(row(summary, u"Caskroom"_s)), u"Readable (1 items)");
   EXPECT_EQ(statusText(row(summary, u"Cellar"_s)), u"Readable (3 items)");
+}
+
+/// Only a listing would tell what stands in the place of a location, and nobody waits for it.
+TEST(HomebrewPrefixProbe, WaitsForNoPipeAndNoCircle) {
+  DemoPrefix prefix;
+  prefix.withFolder(u"bin"_s).withFolder(u"var/homebrew"_s).withFolder(u"Library"_s);
+  const auto pathOf = [&prefix](const QString& name) {
+    return QFile::encodeName(prefix.pathOf(name));
+  };
+  for (const QString& name : {u"bin/brew"_s, u"Cellar"_s, u"var/homebrew/cache"_s}) {
+    ASSERT_EQ(mkfifo(pathOf(name).constData(), 0644), 0);
+  }
+  ASSERT_EQ(symlink("Caskroom", pathOf(u"Caskroom"_s).constData()), 0);
+  ASSERT_EQ(symlink("/dev/zero", pathOf(u"Library/Homebrew"_s).constData()), 0);
+  ASSERT_EQ(symlink("..", pathOf(u"Library/Taps"_s).constData()), 0);
+  QStringList texts;
+  for (const HomebrewPrefixProbeResult& result : probeHomebrewPrefix(prefix.url()).results) {
+    texts += statusText(result);
+  }
+  EXPECT_EQ(texts, (QStringList{u"Readable"_s, u"Readable"_s, u"Missing"_s, u"Missing"_s,
+                                u"Readable"_s, u"Readable (5 items)"_s, u"Readable"_s}));
 }
 
 TEST(HomebrewPrefixProbe, GivesEachRowOfEachProbeItsOwnIdentity) {
