@@ -38,8 +38,8 @@ HomebrewPackageSummary packageOf(const QByteArray& line) {
   return package;
 }
 
-bool has(const SharedText& field, const QString& query) {
-  return containsSearchable(searchableForm(field.view()), searchableForm(query));
+bool has(const SharedText& field, std::string_view query) {
+  return containsSearchable(searchableForm(field.view()), query);
 }
 
 /// Looks into one field after the other.
@@ -49,11 +49,11 @@ bool matches(const HomebrewPackageSummary& package, const FilterRequest& request
       (request.packageFilter == PackageCatalogFilter::formulae) != isFormula) {
     return false;
   }
-  const QString& query = request.searchQuery;
+  const std::string query = searchableForm(request.searchQuery);
   const auto hasOptional = [&query](const std::optional<SharedText>& field) {
     return field && has(*field, query);
   };
-  return query.isEmpty() || has(package.name, query) || hasOptional(package.description) ||
+  return query.empty() || has(package.name, query) || hasOptional(package.description) ||
          hasOptional(package.version) || hasOptional(package.tap) ||
          has(SharedText(std::string_view(displayLabel(package.kind))), query) ||
          std::ranges::any_of(package.detailItems,
@@ -84,12 +84,7 @@ void check(const QByteArray& text) {
   const QByteArray query = lines.takeFirst();
   const auto letter = static_cast<std::uint8_t>(query.isEmpty() ? 0 : query.front());
   std::vector<HomebrewPackageSummary> packages;
-  // More than are ever shown.
-  const bool isLong = letter % 32 == 31 && !lines.isEmpty() && text.size() < 256;
-  const qsizetype repeats = isLong ? 1 + 300 / lines.size() : 1;
-  for (qsizetype i = 0; i < repeats; ++i) {
-    std::ranges::transform(lines, std::back_inserter(packages), packageOf);
-  }
+  std::ranges::transform(lines, std::back_inserter(packages), packageOf);
   const PackageCatalog catalog(std::move(packages));
   const auto filter = rawValues<PackageCatalogFilter>[letter % 3].value;
   const auto request = FilterRequest::make(QString::fromUtf8(query.mid(1)), filter, catalog);
