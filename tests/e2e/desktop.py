@@ -75,10 +75,6 @@ class Window:
             QT_QPA_PLATFORM="xcb",
             **{"QT_QUICK_BACKEND": "software", **(variables or {})},
         )
-        if wrapper:  # A traced sanitizer sees no leaks, and the symbolizer that it runs is traced too.
-            for name, option in (("ASAN_OPTIONS", "detect_leaks=0"),
-                                 ("TSAN_OPTIONS", "report_bugs=0")):
-                environment[name] = f"{environment.get(name, '')}:{option}"
         self.started = time.monotonic()
         self.process = subprocess.Popen(
             [*wrapper, program], env=environment, stdin=subprocess.PIPE, stderr=subprocess.PIPE,

@@ -21,7 +21,8 @@ class WatchedWindow(Window):
     """One start of the program with its watch."""
 
     def __init__(self, program, home, variables, packages):
-        self._report = f"{home}/report.json"
+        self._report = f"{home}/report/report.json"
+        os.makedirs(os.path.dirname(self._report), exist_ok=True)
         self._packages = packages
         super().__init__(program, home,
                          variables={"QUILLMERE_STORY_REPORT": self._report, **(variables or {})})
