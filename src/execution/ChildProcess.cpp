@@ -1,5 +1,6 @@
 #include "execution/ChildProcess.h"
 
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <csignal>
@@ -96,17 +97,24 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
   return result;
 }
 
-/// Sends SIGTERM through a descriptor of the process, so that the number cannot have gone to
+/// SIGTERM, and SIGCONT after it: a process that was stopped hears of nothing until it goes on.
+constexpr std::array terminateRequest{SIGTERM, SIGCONT};
+
+/// Sends the request through a descriptor of the process, so that the number cannot have gone to
 /// another one between the look and the request. A zombie does not mind.
 void terminateMember(pid_t member, pid_t session) {
   const FileDescriptor process(static_cast<int>(syscall(SYS_pidfd_open, member, 0)));
   if (process.isOpen()) {
     if (getsid(member) == session) {
-      syscall(SYS_pidfd_send_signal, process.get(), SIGTERM, nullptr, 0);
+      for (const int signal : terminateRequest) {
+        syscall(SYS_pidfd_send_signal, process.get(), signal, nullptr, 0);
+      }
     }
   } else if (errno != ESRCH) {
     // No such descriptors here, or none left: better a request on a number just seen than none.
-    kill(member, SIGTERM);
+    for (const int signal : terminateRequest) {
+      kill(member, signal);
+    }
   }
 }
 

@@ -22,16 +22,6 @@ const QString beforeLaunch =
     QStringLiteral("Cancellation requested before process launch. Closing Direct session stream.");
 const QString started = QStringLiteral("started");
 
-/// The child's process number as the run told it; it is the number of its session too.
-qint64 sessionOf(const FinishedRun& run) {
-  for (const QString& line : run.diagnostics()) {
-    if (line.startsWith(QStringLiteral("Process launched with pid "))) {
-      return line.section(u' ', 4, 4).chopped(1).toLongLong();
-    }
-  }
-  return 0;
-}
-
 TEST(DirectCommandRunnerCancel, NeverLaunchesAChildThatWasCancelledBefore) {
   DemoPrefix prefix;
   prefix.withBrew("#!/bin/sh\ntouch \"${0%/*}/../ran\"\n");
@@ -118,10 +108,6 @@ TEST(DirectCommandRunnerCancel, ChangesNothingAfterTheEnd) {
   EXPECT_FALSE(run.result.wasCancelled);
   EXPECT_FALSE(execution->result().result()->wasCancelled);
   EXPECT_TRUE(execution->output()->take().empty());
-}
-
-qsizetype openDescriptors() {
-  return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::NoFilter).size();
 }
 
 TEST(DirectCommandRunnerCancel, LeavesNothingBehindAtAnyMoment) {

@@ -64,6 +64,20 @@ bool waitForFile(const QString& path) {
   return QTest::qWaitFor([&path] { return QFile::exists(path); }, 20'000);
 }
 
+qint64 sessionOf(const FinishedRun& run) {
+  const QStringList lines = run.diagnostics();
+  for (const QString& line : lines) {
+    if (line.startsWith(QStringLiteral("Process launched with pid "))) {
+      return line.section(u' ', 4, 4).chopped(1).toLongLong();
+    }
+  }
+  return 0;
+}
+
+qsizetype openDescriptors() {
+  return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::NoFilter).size();
+}
+
 QStringList livingProcessesOfSession(qint64 session) {
   // On its way out a process lets go of its pipes some time before it is a zombie; the kernel says
   // so with this flag.

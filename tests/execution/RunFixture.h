@@ -37,6 +37,12 @@ struct FinishedRun {
 /// Waits until a file is there; a script says with one that it has come so far.
 [[nodiscard]] bool waitForFile(const QString& path);
 
+/// The child's process number as the run told it; it is the number of its session too.
+[[nodiscard]] qint64 sessionOf(const FinishedRun& run);
+
+/// How many descriptors this process has open.
+[[nodiscard]] qsizetype openDescriptors();
+
 /// The living processes of a session, without those that are ending or wait to be reaped.
 [[nodiscard]] QStringList livingProcessesOfSession(qint64 session);
 
