@@ -119,9 +119,10 @@ void terminateMember(pid_t member, pid_t session) {
 }
 
 /// The session of a process is asked for, not read in its folder: one look at every process of a
-/// busy machine takes a millisecond instead of many.
+/// busy machine takes a millisecond instead of many. Its leader is known without a look, which may
+/// be impossible for want of descriptors.
 std::vector<pid_t> membersOfSession(pid_t session) {
-  std::vector<pid_t> members;
+  std::vector<pid_t> members = {session};
   std::error_code error;
   for (std::filesystem::directory_iterator entry("/proc", error), end; !error && entry != end;
        entry.increment(error)) {

@@ -2,7 +2,9 @@
 #include <QtTest/QTest>
 
 #include <csignal>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include "execution/RunFixture.h"
@@ -76,6 +78,20 @@ TEST_F(HostileChild, IsEndedThoughItWasStopped) {
   execution->cancel();
   const FinishedRun run = finish(execution);
   EXPECT_TRUE(run.result.wasCancelled);
+  EXPECT_EQ(run.result.exitCode, SIGTERM);
+}
+
+TEST_F(HostileChild, IsEndedThoughNoDescriptorIsLeft) {
+  startAndWait("touch started\nexec sleep 300\n");
+  rlimit before{};
+  ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+  // As many as the runner polls; the first of them are open in any program.
+  const rlimit few{.rlim_cur = 4, .rlim_max = before.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+  EXPECT_EQ(open("/dev/null", O_RDONLY), -1);
+  execution->cancel();
+  const FinishedRun run = finish(execution);
+  ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
   EXPECT_EQ(run.result.exitCode, SIGTERM);
 }
 
