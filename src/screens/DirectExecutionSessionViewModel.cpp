@@ -21,6 +21,9 @@ namespace quillmere {
 namespace {
 
 constexpr auto readInterval = 100ms;
+/// How much is read at one look, in bytes. A child that prints faster than we read would make each
+/// look longer than the one before, and the screen stand still meanwhile.
+constexpr qsizetype mostForALook = 8Z * 1024 * 1024;
 
 QLatin1StringView tintOf(const DirectExecutionSessionStatus& status) {
   struct Tint {
@@ -46,6 +49,7 @@ struct DirectExecutionSessionViewModel::Reading {
   std::vector<DirectExecutionOutputChunk> chunks;
   DirectExecutionSessionStatus status;
   bool hasResult = false;
+  bool isWhole = false;
 
   [[nodiscard]] std::shared_ptr<Read> carryOut() const;
 };
@@ -56,6 +60,8 @@ struct DirectExecutionSessionViewModel::Read {
   std::optional<OutputLines> openLine;
   DirectCommandOutputPresentation presentation;
   bool hasOutput = false;
+  /// Whether nothing of what there was when the look began is left for the next.
+  bool isWhole = false;
   bool isLast = false;
 };
 
@@ -63,10 +69,12 @@ auto DirectExecutionSessionViewModel::Reading::carryOut() const -> std::shared_p
   auto read = std::make_shared<Read>();
   read->lines = transcript->add(chunks);
   read->openLine = transcript->openLine();
-  const OutputDigest digest = hasResult ? transcript->resultDigest() : transcript->liveDigest();
+  const OutputDigest digest =
+      hasResult && isWhole ? transcript->resultDigest() : transcript->liveDigest();
   read->presentation = makePresentation(digest, status);
   read->hasOutput = digest.hasOutput();
-  read->isLast = hasEnded(status);
+  read->isWhole = isWhole;
+  read->isLast = isWhole && hasEnded(status);
   return read;
 }
 
@@ -193,28 +201,39 @@ QCoro::Task<> DirectExecutionSessionViewModel::readOutput() {
     co_return;
   }
   const QPointer<DirectExecutionSessionViewModel> self(this);
-  // Another look follows at once only where the run ended during the last one.
+  // Another look follows at once only where this one left something, or the run ended meanwhile.
+  bool isWhole = false;
   do {
     const QFuture<std::shared_ptr<Read>> reading = startReading();
     const std::shared_ptr<Read> read = co_await reading;
     if (!self) {
       co_return;
     }
+    isWhole = read->isWhole;
     show(std::move(*read));
-  } while (!isRunning() && !isSettled_);
+  } while (!isWhole || (!isRunning() && !isSettled_));
   isReading_ = false;
+  if (chunksRead_ < controller_.outputChunks().size() && !readTimer_.isActive()) {
+    readTimer_.start();
+  }
 }
 
 auto DirectExecutionSessionViewModel::startReading() -> QFuture<std::shared_ptr<Read>> {
   const auto& chunks = controller_.outputChunks();
-  const auto first = chunks.begin() + static_cast<std::ptrdiff_t>(chunksRead_);
-  chunksRead_ = chunks.size();
+  const std::size_t first = chunksRead_;
+  for (qsizetype size = 0; chunksRead_ < chunks.size() && size < mostForALook; ++chunksRead_) {
+    size += chunks[chunksRead_].text.size();
+  }
+  const auto place = [&chunks](std::size_t index) {
+    return chunks.begin() + static_cast<std::ptrdiff_t>(index);
+  };
   return QtConcurrent::run(
       backgroundThreads(),
-      [reading = Reading{transcript_,
-                         {first, chunks.end()},
-                         controller_.status(),
-                         controller_.result().has_value()}] { return reading.carryOut(); });
+      [reading = Reading{.transcript = transcript_,
+                         .chunks = {place(first), place(chunksRead_)},
+                         .status = controller_.status(),
+                         .hasResult = controller_.result().has_value(),
+                         .isWhole = chunksRead_ == chunks.size()}] { return reading.carryOut(); });
 }
 
 void DirectExecutionSessionViewModel::show(Read read) {
