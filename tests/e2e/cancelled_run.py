@@ -17,14 +17,6 @@ wait
 """
 
 
-def is_alive(pid):
-    try:
-        with open(f"/proc/{pid}/stat", encoding="utf-8") as stat:
-            return stat.read().rsplit(")", 1)[1].split()[0] != "Z"
-    except (FileNotFoundError, ProcessLookupError):
-        return False
-
-
 def tell(program, demo_prefix):
     with desktop.temporary_home() as home:
         prefix = os.path.join(home, "prefix")
@@ -43,7 +35,7 @@ def tell(program, demo_prefix):
             processes = started.read().split()
         window.press("push button", "Cancel")
         window.get("label", "Cancelled")
-        wait_for("the end of all", lambda: not any(is_alive(pid) for pid in processes))
+        wait_for("the end of all", lambda: not any(desktop.is_alive(pid) for pid in processes))
         window.press("push button", "Close")
         window.gone("dialog", "Command Preview")
         window.key("ctrl+7")

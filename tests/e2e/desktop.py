@@ -244,6 +244,10 @@ class Window:
 
     def quit(self):
         self.key("ctrl+q")
+        self.has_ended()
+
+    def has_ended(self):
+        """Waits for the end of the program, which must be a good one."""
         # A sanitizer that found something says so here, like any crash on the way out.
         status = self.process.wait(PATIENCE)
         expect(status == 0, f"the program ended with {status}")
@@ -306,6 +310,15 @@ def take_first_steps(window):
     window.get("dialog", "Welcome to Quillmere")
     window.press("push button", "Continue Catalog-Only")
     window.gone("dialog", "Welcome to Quillmere")
+
+
+def is_alive(pid):
+    """Whether the process is there, and not only waits to be reaped."""
+    try:
+        with open(f"/proc/{pid}/stat", encoding="utf-8") as stat:
+            return stat.read().rsplit(")", 1)[1].split()[0] != "Z"
+    except (FileNotFoundError, ProcessLookupError):
+        return False
 
 
 def temporary_home():

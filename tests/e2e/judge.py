@@ -23,7 +23,8 @@ FORKING_CALLS = "clone clone3 vfork fork".split()
 CONNECTING_CALLS = "socket connect".split()
 TRACED_CALLS = (CHANGING_CALLS + OPENING_CALLS + OPAQUE_CALLS + EXECUTING_CALLS + FORKING_CALLS
                 + CONNECTING_CALLS)
-STRACE = ["strace", "-f", "-qq", "-y", "-ttt", "--seccomp-bpf", "-s", "4096",
+# Not as the program's parent: it would wait for whoever a child leaves behind.
+STRACE = ["strace", "-D", "-f", "-qq", "-y", "-ttt", "--seccomp-bpf", "-s", "4096",
           "-e", "trace=" + ",".join(TRACED_CALLS)]
 
 LINE = re.compile(r"^(\d+) +(\d+\.\d+) (.*)$")

@@ -19,7 +19,7 @@ ASKING = ("Fetch All", "Fetch Formulae", "Fetch Casks", "Refresh Catalog")
 
 def may_trace():
     return subprocess.run(
-        [*judge.STRACE, "-o", "/dev/null", "true"], stderr=subprocess.DEVNULL
+        ["strace", "-o", "/dev/null", "true"], stderr=subprocess.DEVNULL
     ).returncode == 0
 
 
@@ -65,8 +65,8 @@ class TracedWindow(desktop.Window):
         if name in ASKING:
             self._asked_at.append(time.time())
 
-    def quit(self):
-        super().quit()
+    def has_ended(self):
+        super().has_ended()
         self._remember_prefix()
         # The last is no folder of the program but of the watch that stories are told under.
         own_folders = [f"{self._home}/{folder}"

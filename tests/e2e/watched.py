@@ -35,8 +35,8 @@ class WatchedWindow(Window):
         self.process.stdin.flush()
         what(self, *arguments)
 
-    def quit(self):
-        super().quit()
+    def has_ended(self):
+        super().has_ended()
         with open(self._report, encoding="utf-8") as file:
             report = json.load(file)
         report["startMs"] = report["firstFrameAt"] - self.started * 1000
