@@ -39,13 +39,10 @@ void check(std::uint8_t choice, const QString& name) {
   }
   require(std::ranges::all_of(command->commandText, isHarmless));
   require(command->target.name == name && !name.contains(u' '));
+  require(!couldBePackage(name) || !name.startsWith(u'-'));
   const auto arguments = brewArguments(*command);
-  if (!arguments) {
-    require(!couldBePackage(name));
-    return;
-  }
+  require(arguments && arguments->last() == name);
   require(command->commandText == QStringLiteral("brew ") + arguments->join(u' '));
-  require(arguments->last() == name && couldBePackage(name) && !name.startsWith(u'-'));
   require(arguments->size() == (kind == BrewCommandTargetKind::cask ? 3 : 2) ||
           command->target.kind == BrewCommandTargetKind::formula);
 }

@@ -4,8 +4,6 @@
 #include <array>
 #include <optional>
 
-#include "commands/BrewCommandBuilder.h"
-
 namespace quillmere {
 namespace {
 
@@ -59,7 +57,7 @@ bool namesPackage(BrewCommandTargetKind kind) {
 std::expected<QStringList, UnsupportedTarget> brewArguments(const BrewCommand& command) {
   const BrewCommandTarget& target = command.target;
   const char* words = wordsFor(command.operation, target.kind);
-  if (!words || (namesPackage(target.kind) && !couldBePackage(target.name.value_or(QString())))) {
+  if (!words || (namesPackage(target.kind) && !target.name)) {
     return std::unexpected(UnsupportedTarget{target.kind});
   }
   QStringList arguments = QString::fromLatin1(words).split(u' ');

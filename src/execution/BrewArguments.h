@@ -10,8 +10,7 @@
 namespace quillmere {
 
 /// The words that follow "brew" for `command`, each one argument of the child. An operation that
-/// has no form for the command's target is refused, and so is a target whose name Homebrew could
-/// take for something else than a package. Pure; any thread.
+/// has no form for the command's target is refused. Pure; any thread.
 [[nodiscard]] std::expected<QStringList, UnsupportedTarget> brewArguments(
     const BrewCommand& command);
 

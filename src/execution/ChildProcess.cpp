@@ -129,7 +129,7 @@ std::vector<pid_t> membersOfSession(pid_t session) {
     const std::string name = entry->path().filename().string();
     pid_t number = 0;
     const auto [rest, problem] = std::from_chars(name.data(), name.data() + name.size(), number);
-    if (problem == std::errc() && *rest == '\0' && getsid(number) == session) {
+    if (problem == std::errc() && *rest == '\0' && number != session && getsid(number) == session) {
       members.push_back(number);
     }
   }

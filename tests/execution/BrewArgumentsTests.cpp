@@ -53,16 +53,6 @@ TEST_P(BrewArgumentsOfOperation, RefuseTheOtherKindThatNamesNoPackage) {
   expectArguments(commandFor(GetParam().operation, other, std::nullopt), nullptr);
 }
 
-TEST_P(BrewArgumentsOfOperation, RefuseANameThatHomebrewCouldTakeForSomethingElse) {
-  for (const char* name :
-       {"--force", "-h", "-", "../../x", "/etc/x.rb", ".", "@", "+", "user/-x", "a//b", "a/", ""}) {
-    SCOPED_TRACE(name);
-    for (const Kind kind : {Kind::formula, Kind::cask}) {
-      expectArguments(commandFor(GetParam().operation, kind, QString::fromLatin1(name)), nullptr);
-    }
-  }
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Table, BrewArgumentsOfOperation,
     testing::Values(Row{Operation::info, "info wget", "info --cask firefox", nullptr},
