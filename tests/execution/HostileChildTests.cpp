@@ -29,7 +29,7 @@ class HostileChild : public testing::Test {
     // The thread of the run may still hold what it ended with.
     EXPECT_TRUE(QTest::qWaitFor([this] { return openDescriptors() <= descriptors_; }, 20'000))
         << openDescriptors() << " descriptors instead of " << descriptors_;
-    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "a zombie";
+    EXPECT_LE(waitpid(-1, nullptr, WNOHANG), 0) << "a zombie";
   }
 
   /// Starts a script in the prefix's folder and waits until it says that it has come so far.
