@@ -151,7 +151,8 @@ class LongUse : public testing::Test {
     // One object a round would be too many.
     EXPECT_LT(after.objects, before.objects + times / 2) << before << "\n" << after;
     EXPECT_LE(after.items, before.items + tolerated) << before << "\n" << after;
-    EXPECT_LT(after.residentBytes, before.residentBytes + 100'000'000) << before << "\n" << after;
+    // So generous because a sanitizer keeps what was freed.
+    EXPECT_LT(after.residentBytes, before.residentBytes + 400'000'000) << before << "\n" << after;
     // Said in any case, for people who want to know how far from the bounds it is.
     std::cout << before << "\n" << after << "\n";
   }
