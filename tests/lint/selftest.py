@@ -290,6 +290,41 @@ class Words(LintTest):
             "/home/linuxbrew/.linuxbrew\n", "${top}/ro" + "ot/a\n"))
 
 
+class Links(LintTest):
+    def setUp(self):
+        super().setUp()
+        self.write("docs/guide.md", "# The guide\n\n## `brew` and you\n")
+        self.write("docs/pictures/run.png", "")
+
+    def testLetsTrueLinksPass(self):
+        self.assertPassesEach("links", "README.md", (
+            "[guide](docs/guide.md), ![a run](docs/pictures/run.png)\n",
+            "[two\nlines](docs/guide.md#the-guide), [folder](docs/)\n",
+            '[code](docs/guide.md#brew-and-you "with a title")\n',
+            "# Here\n[above](#here)\n[guide]: docs/guide.md\n",
+            "[elsewhere](https://brew.sh), <https://brew.sh>\n",
+            "`[no](link.md)`\n```\n[no](link.md)\n```\n",
+        ))
+        self.assertPassesEach("links", "docs/site/a.html", (
+            '<p id="b"><a href="#b">b</a> <a href="../guide.md">c</a> <a href="mailto:d@e">d</a>\n',
+        ))
+
+    def testStopsLinksThatLeadNowhere(self):
+        self.assertStopsEach("links", "README.md", (
+            "[guide](docs/old.md)\n",
+            "![a run](docs/pictures/old.png)\n",
+            "[guide]: docs/old.md\n",
+            "[guide](docs/guide.md#old)\n",
+            "[above](#old)\n",
+            "[outside](../README.md)\n",
+        ))
+        self.assertStopsEach("links", "docs/site/a.html", (
+            '<a href="b.html">b</a>\n',
+            '<img src="../pictures/old.png" alt="">\n',
+            '<a href="#b">b</a>\n',
+        ))
+
+
 class Format(LintTest):
     def check(self, text):
         self.write(".clang-format", (PROJECT / ".clang-format").read_text())
