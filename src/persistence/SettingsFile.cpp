@@ -24,8 +24,12 @@ SettingsFile::SettingsFile(const QSettings& settings)
     : name_(settings.fileName()), format_(settings.format()) {
 }
 
-QByteArray SettingsFile::readBytes(QLatin1StringView key) const {
-  const QVariant value = QSettings(name_, format_).value(key);
+std::optional<QByteArray> SettingsFile::readBytes(QLatin1StringView key) const {
+  const QSettings settings(name_, format_);
+  if (settings.status() == QSettings::AccessError) {
+    return std::nullopt;
+  }
+  const QVariant value = settings.value(key);
   return value.typeId() == QMetaType::QByteArray ? value.toByteArray() : QByteArray();
 }
 

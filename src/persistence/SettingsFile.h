@@ -5,6 +5,8 @@
 #include <QtCore/QString>
 #include <QtCore/QVariant>
 
+#include <optional>
+
 namespace quillmere {
 
 /// The settings on the disk as every window of the program reads and writes them, also those of
@@ -15,8 +17,9 @@ class SettingsFile {
 
   [[nodiscard]] const QString& name() const { return name_; }
 
-  /// Empty where there are none, or something else.
-  [[nodiscard]] QByteArray readBytes(QLatin1StringView key) const;
+  /// Empty where there are none, or something else; nothing where nobody can tell, since the file
+  /// cannot be read.
+  [[nodiscard]] std::optional<QByteArray> readBytes(QLatin1StringView key) const;
 
   /// Replaces the value of one key, or removes it where `value` is invalid; what others wrote under
   /// other keys stays. Returns whether it is on the disk; where not, the whole file is as it was.

@@ -15,6 +15,10 @@ constexpr QByteArrayView none = "[]";
 /// Longer than anybody writes; whoever has stopped in the middle must not keep us from quitting.
 constexpr std::chrono::milliseconds patience{10'000};
 
+/// A program killed while it made the lock leaves one without its name, which only age makes void.
+/// Nobody who lives is robbed of an old lock: the system keeps it for them.
+constexpr std::chrono::milliseconds voidAfter = patience / 2;
+
 /// One JSON array of the elements of two, the first of them as we write it.
 QByteArray joined(QByteArray first, const QByteArray& second) {
   const QByteArrayView rest = QByteArrayView(second).sliced(second.indexOf('[') + 1);
@@ -44,18 +48,22 @@ void SharedHistory::replace(const CommandHistory& history) {
 
 std::optional<CommandHistory> SharedHistory::synchronize() {
   QLockFile lock(file_.name() + ".history.lock"_L1);
+  lock.setStaleLockTime(static_cast<int>(voidAfter.count()));
   const bool mayWrite = hasUnwritten() && lock.tryLock(static_cast<int>(patience.count()));
-  QByteArray base = replaces_ ? none.toByteArray() : file_.readBytes(key);
+  auto base = replaces_ ? none.toByteArray() : file_.readBytes(key);
+  if (!base) {
+    return std::nullopt;
+  }
   std::optional<CommandHistory> all;
   if (!replaces_ && base != known_) {
-    const auto others = decodeCommandHistory(base);
-    // What cannot be read is written over.
-    base = others ? base : none.toByteArray();
+    const auto others = decodeCommandHistory(*base);
+    // What is no history is written over.
+    base = others ? *base : none.toByteArray();
     all = unwritten_ + others.value_or(CommandHistory());
   }
   known_ = base;
   if (mayWrite) {
-    store(joined(encodeCommandHistory(unwritten_), base));
+    store(joined(encodeCommandHistory(unwritten_), *base));
   }
   return all;
 }

@@ -4,9 +4,12 @@
 #include <gtest/gtest.h>
 
 #include "StoreFixture.h"
+#include "persistence/SharedHistory.h"
+#include "platform/PrivateFile.h"
 #include "support/AnotherProcess.h"
 #include "support/FullDisk.h"
 #include "support/Rounds.h"
+#include "support/UnprivilegedUser.h"
 
 // Windows of several starts of the program, open at the same time on the same settings.
 
@@ -111,6 +114,36 @@ TEST_F(SeveralWindows, AddToAHistoryWrittenByHand) {
     store->appendHistory(copyOf(u"brew info b"_s));
     EXPECT_EQ(storedCommands(), QStringList(u"brew info b"_s));
   }
+}
+
+TEST_F(SeveralWindows, WaitNotForTheLockOfAProgramKilledWhileItMadeIt) {
+  QFile lock(settings_.file() + u".history.lock"_s);
+  ASSERT_TRUE(lock.open(QFile::WriteOnly));
+  ASSERT_TRUE(
+      lock.setFileTime(QDateTime::currentDateTime().addSecs(-10), QFile::FileModificationTime));
+  lock.close();
+  start()->appendHistory(copyOf(u"brew info a"_s));
+  EXPECT_EQ(storedCommands(), QStringList(u"brew info a"_s));
+}
+
+/// Out of descriptors, for a moment, say: what one window cannot see is not gone for the other.
+TEST(SharedHistory, WaitsWhileNobodyCanReadTheSettings) {
+  EXPECT_TRUE(test::holdsForUnprivilegedUser([] {
+    const test::TemporarySettings settings;
+    const SettingsFile file(*settings.open());
+    SharedHistory window(file);
+    (void)SharedHistory(file).prepend(copyOf(u"brew info of another window"_s));
+    QFile onDisk(settings.file());
+    const bool isChanged = onDisk.open(QFile::Append) && onDisk.write(";\n") == 2;
+    onDisk.close();
+    const bool isUnreadable =
+        isChanged && onDisk.setPermissions({}) && !file.readBytes(SharedHistory::key);
+    const bool knowsNothing = !window.prepend(copyOf(u"brew info a"_s)) && !window.synchronize();
+    const bool isBack = onDisk.setPermissions(ownerAlone);
+    const auto all = window.prepend(copyOf(u"brew info b"_s));
+    return isUnreadable && knowsNothing && isBack && all && all->size() == 3 &&
+           decodeCommandHistory(file.readBytes(SharedHistory::key).value_or(QByteArray())) == all;
+  }));
 }
 
 TEST_F(SeveralWindows, LoseNoRecordThatTheyWriteAtTheSameTime) {
