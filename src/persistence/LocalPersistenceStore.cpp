@@ -174,14 +174,18 @@ QCoro::Task<> LocalPersistenceStore::settled() {
 }
 
 template <typename T>
-void LocalPersistenceStore::set(T& property, const T& value, QLatin1StringView key,
-                                ChangeSignal changed) {
-  const bool isChange = property != value;
-  property = value;
-  write(key, property);
-  if (isChange) {
+void LocalPersistenceStore::show(T& property, const T& value, ChangeSignal changed) {
+  if (property != value) {
+    property = value;
     Q_EMIT(this->*changed)();
   }
+}
+
+template <typename T>
+void LocalPersistenceStore::set(T& property, const T& value, QLatin1StringView key,
+                                ChangeSignal changed) {
+  write(key, value);
+  show(property, value, changed);
 }
 
 void LocalPersistenceStore::setHasCompletedOnboarding(bool completed) {
@@ -212,14 +216,10 @@ void LocalPersistenceStore::setLocalInventoryLastScanDate(const std::optional<QD
 
 void LocalPersistenceStore::setCommandHistory(const CommandHistory& history) {
   finishReadingHistory();
-  const bool isChange = commandHistory_ != history;
-  commandHistory_ = history;
   ++replacedHistories_;
   settingsWriter_.start(
       QRunnable::create([shared = sharedHistory_, history] { shared->replace(history); }));
-  if (isChange) {
-    Q_EMIT commandHistoryChanged();
-  }
+  show(commandHistory_, history, &LocalPersistenceStore::commandHistoryChanged);
 }
 
 void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
@@ -244,12 +244,8 @@ QCoro::Task<> LocalPersistenceStore::takeOver(QFuture<std::optional<CommandHisto
   if (!self || !shared || replacedHistories != replacedHistories_) {
     co_return;
   }
-  const CommandHistory history =
-      commandHistory_.first(appendedRecords_ - appendedRecords) + *shared;
-  if (history != commandHistory_) {
-    commandHistory_ = history;
-    Q_EMIT commandHistoryChanged();
-  }
+  const auto history = commandHistory_.first(appendedRecords_ - appendedRecords) + *shared;
+  show(commandHistory_, history, &LocalPersistenceStore::commandHistoryChanged);
 }
 
 QUrl LocalPersistenceStore::formulaCacheURL() const {

@@ -146,6 +146,8 @@ class LocalPersistenceStore : public QObject {
   void removeCacheFile(const QString& path);
   QCoro::Task<> saveCatalog(QByteArray document, QUrl file, QDateTime refreshedAt);
   template <typename T>
+  void show(T& property, const T& value, ChangeSignal changed);
+  template <typename T>
   void set(T& property, const T& value, QLatin1StringView key, ChangeSignal changed);
   /// Syncs `value` to the disk, or the removal of the key where there is none.
   template <typename T>
