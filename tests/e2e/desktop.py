@@ -312,6 +312,21 @@ def take_first_steps(window):
     window.gone("dialog", "Welcome to Quillmere")
 
 
+def copy_services_list(window):
+    """The shortest way to a record in the history."""
+    window.key("ctrl+6")
+    copy_command(window, "Preview services list command")
+
+
+def copy_command(window, preview):
+    window.press("push button", preview)
+    window.has_focus("push button", "Copy Command")
+    window.key("Return")
+    window.says("Command copied")
+    window.key("Escape")
+    window.gone("dialog", "Command Preview")
+
+
 def is_alive(pid):
     """Whether the process is there, and not only waits to be reaped."""
     try:

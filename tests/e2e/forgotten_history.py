@@ -9,19 +9,9 @@ PROMPT = ("text", "Search command history")
 SERVICES = "Command brew services list, operation servicesList, "
 
 
-def copy(window, button):
-    window.press("push button", button)
-    window.has_focus("push button", "Copy Command")
-    window.key("Return")
-    window.says("Command copied")
-    window.key("Escape")
-    window.gone("dialog", "Command Preview")
-
-
 def three_commands_are_copied(window, catalog):
-    window.key("ctrl+6")
-    copy(window, "Preview services list command")
-    copy(window, "Preview services list command")
+    desktop.copy_services_list(window)
+    desktop.copy_services_list(window)
     window.key("ctrl+3")
     window.press("push button", "Load Cached All")
     window.says(f"Showing 250 of {catalog.count} packages")
@@ -30,7 +20,7 @@ def three_commands_are_copied(window, catalog):
     window.key("Return")
     window.get("heading", first)
     window.tab_to("push button", "Preview Info command")
-    copy(window, "Preview Info command")
+    desktop.copy_command(window, "Preview Info command")
     window.key("Escape")
     window.get("heading", "Browse Catalog")
 

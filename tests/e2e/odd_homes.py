@@ -11,7 +11,6 @@ import desktop
 from desktop import Window, expect
 
 SKIPPED = 77
-LISTING = "brew services list"
 # Takes the disk of the home away from the program alone: its own view of the mounts.
 ON_A_DISK = ["unshare", "--mount", "--propagation", "private", "sh", "-e", "-c"]
 READ_ONLY = 'mount --bind "$HOME" "$HOME"; mount -o remount,bind,ro "$HOME"; exec "$0"'
@@ -28,31 +27,30 @@ def settings_of(home):
     return f"{home}/.config/Quillmere/Quillmere.conf"
 
 
-def copy_a_command(window):
-    window.key("ctrl+6")
-    window.press("push button", "Preview services list command")
-    window.press("push button", "Copy Command")
-    window.says("Command copied")
-    window.key("Escape")
-    window.gone("dialog", "Command Preview")
+def works_in(program, home, wrapper=()):
+    window = Window(program, home, wrapper)
+    desktop.take_first_steps(window)
+    desktop.copy_services_list(window)
     shows_it(window)
+    window.quit()
+
+
+def remembers(program, home):
+    window = Window(program, home)
+    shows_it(window)
+    window.quit()
 
 
 def shows_it(window):
     window.key("ctrl+7")
-    window.get("list item", contains=f"Command {LISTING}, ")
+    window.get("list item", contains="Command brew services list, ")
 
 
 def on_a_path_of_foreign_letters(program, home):
     home = f"{home}/Zoë's \"home\" 你好 é %20 #1"
     os.mkdir(home, 0o700)
-    window = Window(program, home)
-    desktop.take_first_steps(window)
-    copy_a_command(window)
-    window.quit()
-    window = Window(program, home)
-    shows_it(window)
-    window.quit()
+    works_in(program, home)
+    remembers(program, home)
     mode = stat.S_IMODE(os.stat(settings_of(home)).st_mode)
     expect(mode == 0o600, f"others may use the settings: {mode:o}")
 
@@ -63,28 +61,17 @@ def with_rubbish_for_settings(program, home):
         os.makedirs(os.path.dirname(settings_of(home)), exist_ok=True)
         with open(settings_of(home), "wb") as settings:
             settings.write(content)
-        window = Window(program, home)
-        desktop.take_first_steps(window)
-        copy_a_command(window)
-        window.quit()
-        window = Window(program, home)
-        shows_it(window)
-        window.quit()
+        works_in(program, home)
+        remembers(program, home)
 
 
 def on_a_disk_that_may_not_be_written(program, home):
-    window = Window(program, home, [*ON_A_DISK, READ_ONLY])
-    desktop.take_first_steps(window)
-    copy_a_command(window)
-    window.quit()
+    works_in(program, home, [*ON_A_DISK, READ_ONLY])
     expect(not os.path.exists(settings_of(home)), "the disk was written after all")
 
 
 def on_a_disk_that_is_full(program, home):
-    window = Window(program, home, [*ON_A_DISK, FULL])
-    desktop.take_first_steps(window)
-    copy_a_command(window)
-    window.quit()
+    works_in(program, home, [*ON_A_DISK, FULL])
 
 
 def story(program, _demo_prefix):

@@ -20,12 +20,7 @@ def come_to(window):
 
 def copy(window):
     come_to(window)
-    window.key("ctrl+6")
-    window.press("push button", "Preview services list command")
-    window.press("push button", "Copy Command")
-    window.says("Command copied")
-    window.key("Escape")
-    window.gone("dialog", "Command Preview")
+    desktop.copy_services_list(window)
 
 
 def shows(window, count):
