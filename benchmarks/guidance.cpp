@@ -49,8 +49,8 @@ const Inventory& inventory(benchmark::State& state) {
 void guide(benchmark::State& state) {
   const Inventory& packages = inventory(state);
   for (auto _ : state) {
-    const auto updates = packageUpdateSummaries(packages);
-    const auto old = oldVersionPackages(packages);
+    auto updates = packageUpdateSummaries(packages);
+    auto old = oldVersionPackages(packages);
     if (updates.size() != packages.size() || old.size() * 3 < packages.size()) {
       state.SkipWithError("packages are missing");
     }

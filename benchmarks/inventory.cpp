@@ -10,8 +10,8 @@ namespace {
 void scanPrefix(benchmark::State& state) {
   const InstalledPrefix& prefix = InstalledPrefix::ofSize(static_cast<int>(state.range(0)));
   for (auto _ : state) {
-    const auto formulae = HomebrewFormulaInventoryScanner(prefix.url()).scan(prefix.catalog());
-    const auto casks = HomebrewCaskInventoryScanner(prefix.url()).scan(prefix.casks());
+    auto formulae = HomebrewFormulaInventoryScanner(prefix.url()).scan(prefix.catalog());
+    auto casks = HomebrewCaskInventoryScanner(prefix.url()).scan(prefix.casks());
     if (formulae.formulae.size() != prefix.catalog().size() ||
         casks.casks.size() != prefix.casks().size() ||
         formulae.formulae.back().installReason != InstalledFormula::InstallReason::dependency ||

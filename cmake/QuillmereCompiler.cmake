@@ -14,7 +14,10 @@ endif()
 
 target_compile_definitions(quillmere_compiler INTERFACE
   QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_NO_FOREACH
-  QT_STRICT_ITERATORS QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+  QT_STRICT_ITERATORS QT_DISABLE_DEPRECATED_BEFORE=0x060400
+  # What a later Qt gave up has no replacement in the oldest that we build with.
+  QT_WARN_DEPRECATED_UP_TO=0x060400
+  $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
 if(QUILLMERE_SANITIZE)
   target_compile_options(quillmere_compiler INTERFACE

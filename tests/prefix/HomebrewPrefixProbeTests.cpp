@@ -18,7 +18,7 @@ using test::DemoPrefix;
 using Status = HomebrewPrefixProbeResult::Status;
 
 const HomebrewPrefixProbeResult& row(const HomebrewPrefixProbeSummary& summary,
-                                     const QString& relativePath) {
+                                     QStringView relativePath) {
   return *std::ranges::find(summary.results, relativePath,
                             &HomebrewPrefixProbeResult::relativePath);
 }
@@ -52,8 +52,8 @@ TEST(HomebrewPrefixProbe, RejectsAFolderWithUnreadableBrew) {
   EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
     const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
     return !summary.looksLikeHomebrewPrefix() &&
-           statusText(row(summary, u"bin/brew"_s)) == u"Not readable" &&
-           !row(summary, u"bin/brew"_s).itemCount;
+           statusText(row(summary, u"bin/brew")) == u"Not readable" &&
+           !row(summary, u"bin/brew").itemCount;
   }));
 }
 
@@ -67,7 +67,7 @@ TEST(HomebrewPrefixProbe, CountsAnEmptyFolderAsNoItems) {
   DemoPrefix prefix;
   prefix.withFolder(u"Cellar"_s);
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
-  const HomebrewPrefixProbeResult& cellar = row(summary, u"Cellar"_s);
+  const HomebrewPrefixProbeResult& cellar = row(summary, u"Cellar");
   EXPECT_EQ(cellar.itemCount, 0);
   EXPECT_EQ(statusText(cellar), u"Readable (0 items)");
 }
@@ -77,8 +77,8 @@ TEST(HomebrewPrefixProbe, CountsVisibleItems) {
   prefix.withFolder(u"Caskroom/firefox"_s).withFolder(u"Caskroom/.metadata"_s);
   prefix.withFolder(u"Cellar/wget"_s).withFolder(u"Cellar/zlib"_s).withFile(u"Cellar/notes"_s);
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
-  EXPECT_EQ(statusText(row(summary, u"Caskroom"_s)), u"Readable (1 items)");
-  EXPECT_EQ(statusText(row(summary, u"Cellar"_s)), u"Readable (3 items)");
+  EXPECT_EQ(statusText(row(summary, u"Caskroom")), u"Readable (1 items)");
+  EXPECT_EQ(statusText(row(summary, u"Cellar")), u"Readable (3 items)");
 }
 
 /// Only a listing would tell what stands in the place of a location, and nobody waits for it.
