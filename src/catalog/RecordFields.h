@@ -40,8 +40,12 @@ class RecordFields {
   static constexpr std::size_t mostKeys = 8;
 
   /// `keys` are all that will be asked for; `path` stands before a key that has a problem.
-  RecordFields(const simdjson::dom::object& object, std::span<const std::string_view> keys,
-               DecodingContext& context, QLatin1StringView path = {});
+  template <std::size_t keyCount>
+    requires(keyCount <= mostKeys)
+  RecordFields(const simdjson::dom::object& object,
+               const std::array<std::string_view, keyCount>& keys, DecodingContext& context,
+               QLatin1StringView path = {})
+      : RecordFields(object, std::span<const std::string_view>(keys), context, path) {}
 
   [[nodiscard]] SharedText requiredText(std::string_view key);
   [[nodiscard]] std::optional<simdjson::dom::object> requiredObject(std::string_view key);
@@ -64,6 +68,9 @@ class RecordFields {
 
  private:
   using Field = std::optional<simdjson::dom::element>;
+
+  RecordFields(const simdjson::dom::object& object, std::span<const std::string_view> keys,
+               DecodingContext& context, QLatin1StringView path);
 
   [[nodiscard]] Field field(std::string_view key) const;
   [[nodiscard]] std::optional<std::string_view> text(std::string_view key, const Field& value);

@@ -53,16 +53,7 @@ constexpr std::array rows = {
     Row{Operation::doctor, "doctor"_L1, Risk::informational, "Runs Homebrew diagnostics."_L1, {}},
 };
 
-constexpr bool rowsFollowTheEnumeration() {
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    if (rows[i].operation != static_cast<Operation>(i)) {
-      return false;
-    }
-  }
-  return rows.size() == rawValues<Operation>.size();
-}
-
-static_assert(rowsFollowTheEnumeration());
+static_assert(hasRowForEach(rows, &Row::operation));
 
 const Row& rowOf(Operation operation) {
   return rows[static_cast<std::size_t>(operation)];

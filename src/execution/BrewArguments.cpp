@@ -1,6 +1,5 @@
 #include "execution/BrewArguments.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -32,18 +31,19 @@ constexpr std::array rows = {
     Row{servicesList, nullptr, nullptr, "services list", nullptr},
     Row{doctor, nullptr, nullptr, nullptr, "doctor"},
 };
+static_assert(hasRowForEach(rows, &Row::operation));
 
 const char* wordsFor(BrewCommandOperation operation, BrewCommandTargetKind kind) {
-  const auto row = std::ranges::find(rows, operation, &Row::operation);
+  const Row& row = rows[static_cast<std::size_t>(operation)];
   switch (kind) {
     case BrewCommandTargetKind::formula:
-      return row->formula;
+      return row.formula;
     case BrewCommandTargetKind::cask:
-      return row->cask;
+      return row.cask;
     case BrewCommandTargetKind::global:
-      return row->global;
+      return row.global;
     case BrewCommandTargetKind::diagnostic:
-      return row->diagnostic;
+      return row.diagnostic;
   }
   return nullptr;
 }

@@ -59,6 +59,7 @@ constexpr auto operationTexts = std::to_array<OperationTexts>({
      QLatin1StringView("stethoscope"), QLatin1StringView("Homebrew did not print diagnostics."),
      QLatin1StringView("Running diagnostics")},
 });
+static_assert(hasRowForEach(operationTexts, &OperationTexts::operation));
 
 constexpr const OperationTexts& textsOf(Operation operation) {
   return operationTexts[static_cast<std::size_t>(operation)];

@@ -38,4 +38,11 @@ template <HasRawValues Enum>
   return row == std::end(table) ? std::nullopt : std::optional(row->value);
 }
 
+/// Whether a table has a row for each value of an enumeration with raw values, in its order, so
+/// that a value is the number of its row. For the assertion beside the table.
+template <typename Table, typename Row, HasRawValues Enum>
+[[nodiscard]] consteval bool hasRowForEach(const Table& table, Enum Row::* value) {
+  return std::ranges::equal(table, rawValues<Enum>, {}, value, &RawValue<Enum>::value);
+}
+
 }  // namespace quillmere
