@@ -15,7 +15,7 @@ class InstalledPackagesViewModel : public quillmere::LocalInventoryViewModel {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")
-  Q_PROPERTY(State state READ state NOTIFY changed)
+  Q_PROPERTY(quillmere::InstalledPackagesViewModel::State state READ state NOTIFY changed)
   Q_PROPERTY(QString summary READ summary NOTIFY changed)
   Q_PROPERTY(QString accessibleSummary READ accessibleSummary NOTIFY changed)
   Q_PROPERTY(QString freshnessText READ freshnessText NOTIFY changed)
