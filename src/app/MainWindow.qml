@@ -12,8 +12,8 @@ ThemedWindow {
 
     width: memory.size.width
     height: memory.size.height
-    minimumWidth: 900
-    minimumHeight: 600
+    minimumWidth: memory.smallestSize.width
+    minimumHeight: memory.smallestSize.height
     title: "Quillmere"
     visibility: memory.maximized ? Window.Maximized : Window.Windowed
     visible: true

@@ -6,7 +6,6 @@ namespace quillmere {
 namespace {
 
 constexpr QSize firstSize(1120, 760);
-constexpr QSize smallestSize(900, 600);
 
 QString sizeKey() {
   return QStringLiteral("window/size");

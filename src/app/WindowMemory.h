@@ -15,9 +15,13 @@ class WindowMemory : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(QSize size READ size CONSTANT)
+  Q_PROPERTY(QSize smallestSize MEMBER smallestSize CONSTANT)
   Q_PROPERTY(bool maximized READ maximized CONSTANT)
 
  public:
+  /// What the screens can still be read in.
+  static constexpr QSize smallestSize{900, 600};
+
   /// Keeps its values in the group "window" of `settings`.
   explicit WindowMemory(std::unique_ptr<QSettings> settings, QObject* parent = nullptr);
 

@@ -7,7 +7,6 @@
 namespace quillmere {
 namespace {
 
-constexpr int catalogDays = 7;
 constexpr int inventoryDays = 1;
 
 /// In the order of the alternatives.
@@ -63,7 +62,7 @@ QString FreshnessIndicator::longText(const QString& label, const QLocale& region
 }
 
 FreshnessIndicator catalogFreshness(const std::optional<QDateTime>& date, const QDateTime& now) {
-  return freshness(date, now, catalogDays, QStringLiteral("Refresh catalog metadata"));
+  return freshness(date, now, catalogFreshDays, QStringLiteral("Refresh catalog metadata"));
 }
 
 FreshnessIndicator inventoryFreshness(const std::optional<QDateTime>& date, const QDateTime& now) {
@@ -71,7 +70,7 @@ FreshnessIndicator inventoryFreshness(const std::optional<QDateTime>& date, cons
 }
 
 QDateTime catalogStalePoint(const QDateTime& date) {
-  return stalePoint(date, catalogDays);
+  return stalePoint(date, catalogFreshDays);
 }
 
 QDateTime inventoryStalePoint(const QDateTime& date) {

@@ -49,7 +49,10 @@ struct FreshnessIndicator {
                                  const QLocale& region = QLocale::system()) const;
 };
 
-/// Of catalog metadata that was refreshed at `date`: stale after seven days.
+/// After how many days catalog metadata is stale.
+inline constexpr int catalogFreshDays = 7;
+
+/// Of catalog metadata that was refreshed at `date`.
 [[nodiscard]] FreshnessIndicator catalogFreshness(const std::optional<QDateTime>& date,
                                                   const QDateTime& now);
 /// Of an inventory that was scanned at `date`: stale after one day. A day ends at the same time of

@@ -42,7 +42,7 @@ class DashboardViewModel : public QObject {
 
   /// Into how many parts the picture divides the time in which data is fresh: a day each for the
   /// catalog, three hours each for the inventory.
-  static constexpr int catalogDays = 7;
+  static constexpr int catalogDays = catalogFreshDays;
   static constexpr int inventorySpans = 8;
 
   DashboardViewModel(LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
