@@ -21,6 +21,8 @@ if(UNIX AND NOT APPLE)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 endif()
 
+# The one program that is installed needs neither the demo nor the tests.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 set(CPACK_PACKAGE_NAME quillmere)
 set(CPACK_PACKAGE_VENDOR "The Quillmere developers")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "desktop companion for the Homebrew package manager")
@@ -37,9 +39,11 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_DIRECTORY "${PROJECT_BINARY_DIR}")
 
 # A Debian package: manual and changelog compressed as Debian has them, the shared libraries found
-# by what the program links, the rest from the list that `run` installs from.
+# by what the program links, the rest from the list that `run` installs from. Without
+# dpkg-shlibdeps CPack would make it all the same, depending on no library.
 find_program(GZIP_PROGRAM gzip)
-if(GZIP_PROGRAM AND EXISTS /etc/debian_version)
+find_program(DPKG_SHLIBDEPS_PROGRAM dpkg-shlibdeps)
+if(GZIP_PROGRAM AND DPKG_SHLIBDEPS_PROGRAM)
   configure_file("${_debian}/changelog.in" "${_made}/changelog" @ONLY)
   foreach(_file IN ITEMS quillmere.1 changelog)
     execute_process(COMMAND "${GZIP_PROGRAM}" -9nc "${_made}/${_file}"

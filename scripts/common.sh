@@ -21,15 +21,16 @@ reasonFor() {
   sed -n "/^[a-z]*  *$1 /{s/^[a-z]*  *$1  *//p;q}" scripts/packages.txt
 }
 
+canBeRoot() {
+  [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null
+}
+
 # Runs a command as root: sudo is asked only where we are not root already.
 asRoot() {
   if [ "$(id -u)" -eq 0 ]; then
     "$@"
-  elif command -v sudo >/dev/null; then
-    sudo "$@"
   else
-    sayError "Installing needs root and there is no sudo here. Run as root:" "$@"
-    return 1
+    sudo "$@"
   fi
 }
 
@@ -48,7 +49,7 @@ refuseUnknownPackages() {
   [ ${#unknown[@]} -eq 0 ] && return 0
   sayError "apt knows no package of these names:"
   printf '%s\n' "${unknown[@]}" >&2
-  sayError "Debian 12 has them all in its main section; see that /etc/apt names it."
+  sayError "Debian 12 and 13 have them all in their main section; see that /etc/apt names it."
   return 1
 }
 
@@ -67,6 +68,11 @@ needPackages() {
   [ ${#missing[@]} -eq 0 ] && return 0
   echo "Installing with apt what is missing $purpose: ${missing[*]}." \
     "What each is for stands in scripts/packages.txt."
+  if ! canBeRoot; then
+    sayError "Installing needs root and there is no sudo here. Run as root, then try again:" \
+      "apt-get update && apt-get install --no-install-recommends ${missing[*]}"
+    return 1
+  fi
   aptGet update || return 1
   refuseUnknownPackages "${missing[@]}" || return 1
   aptGet install --yes --no-install-recommends "${missing[@]}"
