@@ -3,6 +3,7 @@
 #include <array>
 
 #include "commands/BrewCommandBuilder.h"
+#include "screens/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,16 +46,18 @@ QString hint(const PackageCommand& command) {
 
 }  // namespace
 
-std::vector<PackageCommand> packageCommands(const BrewCommandTarget& target) {
-  std::vector<PackageCommand> commands;
-  if (!couldBePackage(target.name.value_or(QString()))) {
-    return commands;
+std::vector<PackageCommand> packageCommands(HomebrewPackageSummary::Kind kind,
+                                            const SharedText& id) {
+  const auto target = packageTarget(kind, id);
+  if (!target) {
+    return {};
   }
+  std::vector<PackageCommand> commands;
   for (const Row& row : rows) {
-    if (row.formulaeOnly && target.kind != BrewCommandTargetKind::formula) {
+    if (row.formulaeOnly && target->kind != BrewCommandTargetKind::formula) {
       continue;
     }
-    BrewCommandBuilder::Result built = row.build(target);
+    BrewCommandBuilder::Result built = row.build(*target);
     if (!built) {
       return {};
     }
@@ -64,8 +67,9 @@ std::vector<PackageCommand> packageCommands(const BrewCommandTarget& target) {
   return commands;
 }
 
-PackageCommandListModel::PackageCommandListModel(const BrewCommandTarget& target, QObject* parent)
-    : QAbstractListModel(parent), commands_(packageCommands(target)) {
+PackageCommandListModel::PackageCommandListModel(std::vector<PackageCommand> commands,
+                                                 QObject* parent)
+    : QAbstractListModel(parent), commands_(std::move(commands)) {
 }
 
 int PackageCommandListModel::rowCount(const QModelIndex& parent) const {

@@ -5,6 +5,7 @@
 
 #include <vector>
 
+#include "catalog/HomebrewPackageSummary.h"
 #include "commands/BrewCommand.h"
 
 namespace quillmere {
@@ -16,9 +17,10 @@ struct PackageCommand {
   BrewCommand command;
 };
 
-/// The commands for a formula or a cask, in the order of their buttons. Empty when the builder does
-/// not take the package's identifier. Pure but for the commands' fresh ids.
-[[nodiscard]] std::vector<PackageCommand> packageCommands(const BrewCommandTarget& target);
+/// The commands for a formula or a cask, in the order of their buttons; none for what cannot be the
+/// name of a package. Pure but for the commands' fresh ids.
+[[nodiscard]] std::vector<PackageCommand> packageCommands(HomebrewPackageSummary::Kind kind,
+                                                          const SharedText& id);
 
 /// The buttons of those commands; they never change. Owned by `PackageDetailViewModel`; UI thread
 /// only.
@@ -35,7 +37,7 @@ class PackageCommandListModel : public QAbstractListModel {
     DestructiveRole,
   };
 
-  explicit PackageCommandListModel(const BrewCommandTarget& target, QObject* parent = nullptr);
+  explicit PackageCommandListModel(std::vector<PackageCommand> commands, QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

@@ -34,7 +34,7 @@ PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewRequest pre
       previewRequest_(std::move(previewRequest)),
       clock_(std::move(clock)),
       openUrl_(std::move(openUrl)),
-      commands_(packageTarget(inputs_.package.kind, inputs_.package.id)) {
+      commands_(packageCommands(inputs_.package.kind, inputs_.package.id)) {
 }
 
 QString PackageDetailViewModel::name() const {
@@ -170,7 +170,7 @@ void PackageDetailViewModel::openHomepage() {
   Q_EMIT homepageProblemChanged();
 }
 
-void PackageDetailViewModel::sayUnknownFormula(const QString& name) {
+void PackageDetailViewModel::reportUnknownFormula(const QString& name) {
   formulaProblem_ = name + " is not in the loaded catalog."_L1;
   Q_EMIT formulaProblemChanged();
 }

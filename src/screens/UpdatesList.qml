@@ -16,7 +16,7 @@ FocusScope {
         x: (parent.width - width) / 2
         y: Theme.large
         width: Math.min(parent.width - 2 * Theme.large, Theme.textWidth)
-        // The room below the list is one item more, which a long list needs no distance from.
+        // The spacer at the end adds one spacing too many.
         height: parent.height - 2 * Theme.large + spacing
         spacing: Theme.normal
 
@@ -51,10 +51,17 @@ FocusScope {
             viewModel: root.viewModel
         }
 
+        CaptionText {
+            Layout.fillWidth: true
+            color: Theme.red
+            text: root.viewModel.upgradeProblem
+            visible: text.length > 0
+        }
+
         UpdatesState {
             Layout.fillWidth: true
             Layout.topMargin: list.count > 0 ? 0 : Theme.huge
-            leads: false
+            initialFocus: false
             viewModel: root.viewModel
             visible: root.viewModel.updateCount === 0
         }

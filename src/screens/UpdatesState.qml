@@ -9,7 +9,7 @@ StateMessage {
     required property UpdatesViewModel viewModel
 
     // Whether the keyboard begins here: not where there is a list as well.
-    property bool leads: true
+    property bool initialFocus: true
 
     readonly property bool idle: viewModel.phase === UpdatesViewModel.Idle
     readonly property bool accessNeeded: viewModel.phase === UpdatesViewModel.AccessNeeded
@@ -21,7 +21,7 @@ StateMessage {
     title: viewModel.title
 
     PrimaryButton {
-        focus: root.leads && root.accessNeeded
+        focus: root.initialFocus && root.accessNeeded
         text: "Select Homebrew Prefix"
         visible: root.accessNeeded
 
@@ -36,7 +36,7 @@ StateMessage {
     }
 
     PrimaryButton {
-        focus: root.leads && visible
+        focus: root.initialFocus && visible
         text: root.viewModel.scanTitle
         visible: !root.accessNeeded
 

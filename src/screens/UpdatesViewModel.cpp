@@ -4,6 +4,7 @@
 
 #include "commands/BrewCommandBuilder.h"
 #include "guidance/FreshnessIndicator.h"
+#include "platform/ShownText.h"
 #include "screens/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
@@ -39,6 +40,7 @@ UpdatesViewModel::UpdatesViewModel(PreviewRequest previewRequest, Clock clock, Q
 void UpdatesViewModel::follow(const LocalInventoryInputs& before) {
   // A scan reports its progress many times a second: only another list is worth comparing again.
   if (!(inputs().state == before.state)) {
+    upgradeProblem_.clear();
     const auto* const packages = inputs().state.packages();
     packages_.show(packages != nullptr ? packageUpdateSummaries(*packages)
                                        : std::vector<PackageUpdateSummary>());
@@ -141,10 +143,15 @@ void UpdatesViewModel::previewUpgrade(int row) {
   if (package == nullptr) {
     return;
   }
-  const BrewCommandTarget target = packageTarget(package->kind, package->id);
-  const auto command = BrewCommandBuilder().upgrade(target);
-  if (command && couldBePackage(target.name.value_or(QString()))) {
+  const auto target = packageTarget(package->kind, package->id);
+  const auto command = target ? BrewCommandBuilder().upgrade(*target)
+                              : BrewCommandBuilder::Result(std::unexpected(target.error()));
+  upgradeProblem_ = command ? QString() : shownText(command.error().description());
+  Q_EMIT changed();
+  if (command) {
     previewRequest_(*command, sourceScreen);
+  } else {
+    Q_EMIT announced(upgradeProblem_);
   }
 }
 

@@ -23,6 +23,7 @@ class UpdatesViewModel : public quillmere::LocalInventoryViewModel {
   Q_PROPERTY(int updateCount READ updateCount NOTIFY changed)
   Q_PROPERTY(int reviewCount READ reviewCount NOTIFY changed)
   Q_PROPERTY(int upToDateCount READ upToDateCount NOTIFY changed)
+  Q_PROPERTY(QString upgradeProblem READ upgradeProblem NOTIFY changed)
   Q_PROPERTY(quillmere::PackageUpdateListModel* packages READ packages CONSTANT)
 
  public:
@@ -54,9 +55,13 @@ class UpdatesViewModel : public quillmere::LocalInventoryViewModel {
 
   [[nodiscard]] PackageUpdateListModel* packages() { return &packages_; }
 
-  /// Asks for the preview of the upgrade of the package in this row. Does nothing when its
-  /// identifier is none that could stand in a command.
+  /// Why the last upgrade that was asked for has no preview; empty where it has one.
+  [[nodiscard]] const QString& upgradeProblem() const { return upgradeProblem_; }
+
+  /// Asks for the preview of the upgrade of the package in this row. What cannot be a package's
+  /// name becomes no command but an `upgradeProblem`.
   Q_INVOKABLE void previewUpgrade(int row);
+  /// Asks for the preview of `brew update`.
   Q_INVOKABLE void previewUpdate();
 
  Q_SIGNALS:
@@ -69,6 +74,7 @@ class UpdatesViewModel : public quillmere::LocalInventoryViewModel {
 
   PreviewRequest previewRequest_;
   PackageUpdateListModel packages_;
+  QString upgradeProblem_;
 };
 
 }  // namespace quillmere

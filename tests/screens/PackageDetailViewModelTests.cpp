@@ -227,7 +227,7 @@ TEST_F(PackageDetail, LeadsOnWhereThereIsACatalogToLookIn) {
 TEST_F(PackageDetail, SaysThatAFormulaIsNotInTheCatalog) {
   const auto wget = detail(formula());
   const QSignalSpy changed(wget.get(), &PackageDetailViewModel::formulaProblemChanged);
-  wget->sayUnknownFormula(u"own-tool"_s);
+  wget->reportUnknownFormula(u"own-tool"_s);
   EXPECT_EQ(changed.size(), 1);
   EXPECT_EQ(wget->formulaProblem(), u"own-tool is not in the loaded catalog."_s);
 }

@@ -176,10 +176,30 @@ TEST_F(Updates, PreviewNoUpgradeOfANameThatIsRefused) {
   updates_.setInputs(
       loaded({installed("formula:a b", {"1"}, "2"), installed("formula:--greedy", {"1"}, "2"),
               installed("cask:../x", {"1"}, "2")}));
+  const QSignalSpy said(&updates_, &UpdatesViewModel::announced);
+  QStringList problems;
   for (const int row : {0, 1, 2}) {
     updates_.previewUpgrade(row);
+    problems += updates_.upgradeProblem();
+    EXPECT_EQ(said.constLast(), QVariantList{problems.constLast()});
   }
+  problems.sort();
+  EXPECT_EQ(problems, QStringList({u"Invalid Homebrew package identifier: --greedy"_s,
+                                   u"Invalid Homebrew package identifier: ../x"_s,
+                                   u"Invalid Homebrew package identifier: a b"_s}));
   EXPECT_EQ(asked_, QStringList());
+}
+
+TEST_F(Updates, ForgetWhyANameWasRefused) {
+  const auto oddAndEven =
+      loaded({installed("formula:a b", {"1"}, "2"), installed("formula:wget", {"1"}, "2")});
+  for (const bool byThePreview : {true, false}) {
+    updates_.setInputs(oddAndEven);
+    updates_.previewUpgrade(0);
+    EXPECT_FALSE(updates_.upgradeProblem().isEmpty());
+    byThePreview ? updates_.previewUpgrade(1) : updates_.setInputs(loaded({}));
+    EXPECT_EQ(updates_.upgradeProblem(), QString());
+  }
 }
 
 TEST_F(Updates, PreviewTheUpdateOfHomebrew) {
