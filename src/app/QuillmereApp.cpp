@@ -17,6 +17,9 @@ namespace quillmere {
 void QuillmereApp::prepare() {
   QCoreApplication::setOrganizationName(QStringLiteral("Quillmere"));
   QCoreApplication::setApplicationName(QStringLiteral("Quillmere"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(QUILLMERE_VERSION));
+  // By this a Wayland desktop finds our icon and name.
+  QGuiApplication::setDesktopFileName(QStringLiteral("example.quillmere.Quillmere"));
   QNetworkProxyFactory::setUseSystemConfiguration(true);
   // The look is ours: a style named in the environment must not mix with it.
   QQuickStyle::setStyle(QStringLiteral("Basic"));
@@ -32,7 +35,7 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
                 .casks = {.apiURL = std::move(surroundings.casksURL), .session = &session_}},
                std::move(surroundings.resolver)) {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-  // Whoever comes back from another window of the program has perhaps used it.
+  // Another window of the program may have added records meanwhile.
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &localPersistenceStore_,
                    [this](Qt::ApplicationState state) {
                      if (state == Qt::ApplicationActive) {

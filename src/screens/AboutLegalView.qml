@@ -15,6 +15,7 @@ ScreenPage {
         Layout.bottomMargin: Theme.small
         Layout.fillWidth: true
         tagline: "A free, local-first macOS companion for Homebrew."
+        text: "Version " + Qt.application.version
     }
 
     SectionBlock {
@@ -39,7 +40,7 @@ ScreenPage {
         }
 
         LinkButton {
-            leads: true
+            initialFocus: true
             page: ExternalLinks.privacyPolicy
             text: "Privacy Policy"
         }

@@ -16,6 +16,7 @@ WindowCase {
         const names = spoken().map(item => item.Accessible.name);
         compare(names.slice(names.lastIndexOf("Quillmere")), ["Quillmere",
             "A free, local-first macOS companion for Homebrew.",
+            "Version " + Qt.application.version,
             "Homebrew Disclaimer", "Homebrew Disclaimer",
             "Quillmere is not affiliated with, endorsed by, or sponsored by Homebrew. Homebrew names, package metadata, and related marks belong to their respective owners.",
             "Privacy Summary", "Privacy Summary",
@@ -26,6 +27,11 @@ WindowCase {
             "Support", "Support", "Support information is available online for Quillmere users.",
             "Quillmere Support", "Homebrew Website", "Legal", "Legal",
             "Quillmere is free software for helping users view metadata and prepare manual commands. External links open only when selected."]);
+    }
+
+    function test_theVersionIsThatOfTheBuild() {
+        open();
+        showsLike(/^Version \d+\.\d+\.\d+$/);
     }
 
     function test_theLinksAreReachedByTabAndOpenedByReturn() {
