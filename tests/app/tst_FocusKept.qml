@@ -42,6 +42,25 @@ PackageCase {
         compare(stage.content.selectedSection, "updates");
     }
 
+    function test_aSectionIsChosenFromACommandThatCanBeCopied() {
+        stage.showInventory("idle-prefix");
+        stage.content.selectIndex(7);
+        shows("Settings");
+        named("Selected prefix " + stage.content.settings.prefixSelection.selectedPath)
+            .forceActiveFocus(Qt.TabFocusReason);
+        keyClick(Qt.Key_4, Qt.ControlModifier);
+        compare(stage.content.selectedSection, "updates");
+    }
+
+    function test_aPageThatFitsStaysWhereItIs() {
+        stage.content.selectIndex(0);
+        const action = button("View Installed");
+        const before = action.mapToItem(null, 0, 0).y;
+        action.forceActiveFocus(Qt.TabFocusReason);
+        wait(50);
+        compare(action.mapToItem(null, 0, 0).y, before);
+    }
+
     function test_aPageIsScrolledByItsKeys() {
         stage.content.selectIndex(7);
         shows("Settings");

@@ -16,28 +16,14 @@ Rectangle {
     border.color: Theme.hairline
     border.width: Theme.borderWidth
 
-    TextEdit {
+    SelectableText {
         id: edit
 
         anchors.fill: parent
         anchors.margins: Theme.medium
-        activeFocusOnTab: true
-        color: Theme.text
         font.family: Theme.monospacedFamily
-        font.pixelSize: Theme.bodySize
-        readOnly: true
-        selectByMouse: true
-        selectedTextColor: Theme.selectionText
-        selectionColor: Theme.selection
+        spokenText: root.accessibleName
         text: root.text
-        textFormat: TextEdit.PlainText
         wrapMode: TextEdit.WrapAnywhere
-
-        Accessible.role: Accessible.StaticText
-        Accessible.name: root.accessibleName
-    }
-
-    FocusRing {
-        shown: edit.activeFocus
     }
 }

@@ -27,8 +27,9 @@ FocusScope {
 
     function reveal(item: Item): void {
         const top = item.mapToItem(column, 0, 0).y;
-        flickable.contentY = Math.max(0, Math.min(top - root.margin, Math.max(
-            flickable.contentY, top + item.height + 3 * root.margin - flickable.height)));
+        const wanted = Math.min(top - root.margin, Math.max(
+            flickable.contentY, top + item.height + 3 * root.margin - flickable.height));
+        wheel.scrollBy(wanted - flickable.contentY);
     }
 
     Flickable {
