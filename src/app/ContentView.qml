@@ -10,6 +10,15 @@ FocusScope {
 
     required property ContentViewModel viewModel
 
+    // Back from a package, wherever the keyboard is.
+    Keys.onPressed: event => {
+        event.accepted = viewModel.details.current !== null
+            && (event.key === Qt.Key_Escape || event.key === Qt.Key_Back
+                || (event.key === Qt.Key_Left && event.modifiers === Qt.AltModifier));
+        if (event.accepted)
+            viewModel.details.back();
+    }
+
     Sidebar {
         id: sidebar
 

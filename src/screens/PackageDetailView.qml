@@ -12,13 +12,6 @@ ScreenPage {
     // Whatever had the keyboard in the section has it until it learns that it is covered.
     Component.onCompleted: focus = true
 
-    Keys.onPressed: event => {
-        event.accepted = event.key === Qt.Key_Escape || event.key === Qt.Key_Back
-                         || (event.key === Qt.Key_Left && event.modifiers === Qt.AltModifier);
-        if (event.accepted)
-            viewModel.backWanted();
-    }
-
     PackageHeader {
         Layout.fillWidth: true
         viewModel: root.viewModel
@@ -46,7 +39,7 @@ ScreenPage {
     }
 
     PackageTags {
-        leads: root.viewModel.detailItemsLead
+        clickable: root.viewModel.detailItemsLead
         names: root.viewModel.detailItems
         problem: root.viewModel.formulaProblem
         symbolName: root.viewModel.detailSymbolName
@@ -59,7 +52,7 @@ ScreenPage {
     }
 
     PackageTags {
-        leads: true
+        clickable: true
         names: root.viewModel.reverseDependencyNames
         symbolName: "arrow.triangle.branch"
         text: root.viewModel.reverseDependencyText

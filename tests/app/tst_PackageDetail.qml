@@ -68,6 +68,8 @@ PackagePageCase {
                  modifiers: Qt.NoModifier},
                 {tag: "Alt+Left from a text", from: "Latest known: 1.25.0", key: Qt.Key_Left,
                  modifiers: Qt.AltModifier},
+                {tag: "Escape from the sidebar", from: "Sections", key: Qt.Key_Escape,
+                 modifiers: Qt.NoModifier},
                 {tag: "Alt+Left from a name", from: "libidn2", key: Qt.Key_Left,
                  modifiers: Qt.AltModifier}];
     }
