@@ -37,8 +37,8 @@ void tellPreviews(Stage& stage) {
   stage.content().preview()->cancelConfirmation();
   stage.content().preview()->close();
   stage.show(AppSection::updates);
-  stage.openPreview(builder.upgrade(std::nullopt).value(), u"Updates"_s);
-  stage.picture(u"preview-upgrade-all"_s);
+  stage.openPreview(builder.update(), u"Updates"_s);
+  stage.picture(u"preview-update"_s);
   stage.content().preview()->run();
   stage.picture(u"confirmation-stronger"_s);
   stage.content().preview()->cancelConfirmation();
@@ -108,7 +108,7 @@ void tellQuestions(Stage& stage) {
   stage.openPreview(builder.info(formula(u"jq"_s)).value(), u"Browse"_s);
   stage.run(u"information-finished"_s);
   tellEnd(stage, u"information-finished"_s);
-  stage.openPreview(builder.doctor(), u"Dashboard"_s);
+  stage.openPreview(builder.upgrade(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
   stage.run(u"run-failed"_s);
   tellEnd(stage, u"run-failed"_s);
 }

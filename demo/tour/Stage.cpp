@@ -92,10 +92,6 @@ QUrl Stage::prefix() const {
   return fileUrl(home_.prefix());
 }
 
-void Stage::setPace(int percent) const {
-  writeFile(home_.prefix() + u"/var/pace"_s, QByteArray::number(percent) + '\n');
-}
-
 void Stage::setBrew(const QByteArray& script) const {
   writeFile(home_.prefix() + u"/bin/brew"_s, script);
 }

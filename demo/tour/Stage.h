@@ -29,9 +29,6 @@ class Stage {
 
   [[nodiscard]] QQuickWindow* window() const { return app_->window(); }
 
-  /// How fast the home's `brew` is, in percent of the usual.
-  void setPace(int percent) const;
-
   /// Replaces the home's `brew`.
   void setBrew(const QByteArray& script) const;
 
