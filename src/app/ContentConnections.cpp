@@ -10,7 +10,7 @@
 namespace quillmere {
 
 void ContentViewModel::connectCatalog() {
-  const auto tell = [this] { tellCatalog(); };
+  const auto tell = [this] { updateBrowse(); };
   connect(&catalog_, &CatalogWorkflows::stateChanged, this, tell);
   connect(&catalog_, &CatalogWorkflows::fetchProgressChanged, this, tell);
   connect(&store_, &LocalPersistenceStore::catalogCacheChanged, this, tell);
@@ -26,7 +26,7 @@ void ContentViewModel::connectCatalog() {
 }
 
 void ContentViewModel::connectInventory() {
-  const auto tell = [this] { tellInventory(); };
+  const auto tell = [this] { updateInventoryScreens(); };
   connect(&inventory_, &InventoryWorkflows::stateChanged, this, tell);
   connect(&inventory_, &InventoryWorkflows::scanProgressChanged, this, tell);
   connect(&store_, &LocalPersistenceStore::selectedHomebrewPrefixPathChanged, this, tell);
@@ -38,11 +38,11 @@ void ContentViewModel::connectInventory() {
 }
 
 /// The three screens that show the inventory ask for the same things.
-template <typename ViewModel>
-void ContentViewModel::connectInventoryScreen(ViewModel& screen) {
-  connect(&screen, &ViewModel::scanWanted, this, [this] { inventory_.scan(); });
-  connect(&screen, &ViewModel::cancelScanWanted, &inventory_, &InventoryWorkflows::cancelScans);
-  connect(&screen, &ViewModel::selectPrefixWanted, &prefixSelection_,
+void ContentViewModel::connectInventoryScreen(LocalInventoryViewModel& screen) {
+  connect(&screen, &LocalInventoryViewModel::scanWanted, this, [this] { inventory_.scan(); });
+  connect(&screen, &LocalInventoryViewModel::cancelScanWanted, &inventory_,
+          &InventoryWorkflows::cancelScans);
+  connect(&screen, &LocalInventoryViewModel::selectPrefixWanted, &prefixSelection_,
           &PrefixSelectionWorkflow::begin);
 }
 
@@ -54,8 +54,8 @@ void ContentViewModel::connectScreens() {
           &ContentViewModel::openInstalledPackage);
   // What becomes stale says so on every screen, not on the one alone that watches the time.
   connect(&dashboard_, &DashboardViewModel::changed, this, [this] {
-    tellCatalog();
-    tellInventory();
+    updateBrowse();
+    updateInventoryScreens();
   });
   connect(&dashboard_, &DashboardViewModel::viewInstalledWanted, this,
           [this] { select(AppSection::installed); });
@@ -63,7 +63,7 @@ void ContentViewModel::connectScreens() {
           &ContentViewModel::showsOnboardingChanged);
 }
 
-void ContentViewModel::tellCatalog() {
+void ContentViewModel::updateBrowse() {
   const auto progress = catalog_.fetchProgress().value_or(CatalogWorkflows::Progress());
   browse_.setInputs({.state = catalog_.state(),
                      .receivedBytes = progress.receivedBytes,
@@ -73,7 +73,7 @@ void ContentViewModel::tellCatalog() {
                      .lastRefreshDate = store_.catalogLastRefreshDate()});
 }
 
-void ContentViewModel::tellInventory() {
+void ContentViewModel::updateInventoryScreens() {
   const auto progress = inventory_.scanProgress().value_or(InventoryWorkflows::Progress());
   const auto& path = store_.selectedHomebrewPrefixPath();
   const LocalInventoryInputs inputs{
@@ -90,12 +90,12 @@ void ContentViewModel::tellInventory() {
   cleanup_.setInputs(inputs);
   // While a scan goes on, what was known before it stands: nothing flickers.
   if (!std::holds_alternative<InstalledPackagesState::Loading>(inputs.state.value)) {
-    tellSidebar();
+    updateSidebarCounts();
   }
 }
 
 /// How much is behind a section helps to choose it.
-void ContentViewModel::tellSidebar() {
+void ContentViewModel::updateSidebarCounts() {
   const auto* const packages = inventory_.state().packages();
   const auto installed = packages != nullptr ? static_cast<int>(packages->size()) : 0;
   sections_.setCount(AppSection::installed, installed,
@@ -164,7 +164,7 @@ void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& 
       return;
     }
   }
-  from.sayUnknownFormula(name);
+  from.reportUnknownFormula(name);
 }
 
 void ContentViewModel::openDetail(PackageDetailViewModel::Inputs inputs) {

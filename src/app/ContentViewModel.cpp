@@ -32,8 +32,8 @@ ContentViewModel::ContentViewModel(
   connectCatalog();
   connectInventory();
   connectScreens();
-  tellCatalog();
-  tellInventory();
+  updateBrowse();
+  updateInventoryScreens();
 }
 
 ContentViewModel::~ContentViewModel() = default;
@@ -58,10 +58,6 @@ QString ContentViewModel::selectedSectionName() const {
 
 QString ContentViewModel::selectedTitle() const {
   return selectedSection_ ? QString(title(*selectedSection_)) : QString();
-}
-
-QString ContentViewModel::selectedSymbolName() const {
-  return selectedSection_ ? QString(symbolName(*selectedSection_)) : QString();
 }
 
 void ContentViewModel::selectIndex(int index) {

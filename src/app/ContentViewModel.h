@@ -43,9 +43,6 @@ class ContentViewModel : public QObject {
   Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedSectionChanged)
   Q_PROPERTY(QString selectedSection READ selectedSectionName NOTIFY selectedSectionChanged)
   Q_PROPERTY(QString selectedTitle READ selectedTitle NOTIFY selectedSectionChanged)
-  Q_PROPERTY(QString selectedSymbolName READ selectedSymbolName NOTIFY selectedSectionChanged)
-  Q_PROPERTY(
-      QUuid detailNavigationResetID READ detailNavigationResetID NOTIFY selectedSectionChanged)
   Q_PROPERTY(quillmere::PrefixSelectionWorkflow* prefixSelection READ prefixSelection CONSTANT)
   Q_PROPERTY(quillmere::DetailNavigation* details READ details CONSTANT)
   Q_PROPERTY(bool showsOnboarding READ showsOnboarding NOTIFY showsOnboardingChanged)
@@ -92,7 +89,6 @@ class ContentViewModel : public QObject {
   [[nodiscard]] int selectedIndex() const;
   [[nodiscard]] QString selectedSectionName() const;
   [[nodiscard]] QString selectedTitle() const;
-  [[nodiscard]] QString selectedSymbolName() const;
 
   /// The packages that are open over the selected section.
   [[nodiscard]] DetailNavigation* details() { return &details_; }
@@ -141,12 +137,11 @@ class ContentViewModel : public QObject {
  private:
   void connectCatalog();
   void connectInventory();
-  template <typename ViewModel>
-  void connectInventoryScreen(ViewModel& screen);
+  void connectInventoryScreen(LocalInventoryViewModel& screen);
   void connectScreens();
-  void tellCatalog();
-  void tellInventory();
-  void tellSidebar();
+  void updateBrowse();
+  void updateInventoryScreens();
+  void updateSidebarCounts();
   void openCatalogPackage(const HomebrewPackageSummary& package);
   void openInstalledPackage(const InstalledPackageSummary& package);
   void openFormula(PackageDetailViewModel& from, const QString& name);

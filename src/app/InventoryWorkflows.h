@@ -52,7 +52,7 @@ class InventoryWorkflows : public QObject {
   void cancelScans();
 
  Q_SIGNALS:
-  /// `state` or `isOvertaken` has.
+  /// `state` or `isOvertaken` changed.
   void stateChanged();
   void scanProgressChanged();
 

@@ -22,7 +22,7 @@ ThemedWindow {
     onClosing: event => {
         event.accepted = content.quitGuard.mayQuit();
         if (event.accepted) {
-            memory.remember(Qt.size(width, height), visibility === Window.Maximized);
+            memory.remember(Qt.size(width, height), visibility !== Window.Windowed);
             Qt.quit();
         }
     }

@@ -10,7 +10,7 @@ T.ItemDelegate {
     required property int index
     required property string title
     required property string symbolName
-    // Nothing is shown of nothing.
+    // 0 hides the count.
     required property int count
     required property string countText
     required property bool selected

@@ -27,7 +27,7 @@ Card {
         Layout.fillWidth: true
         activeFocusOnTab: true
         boundsBehavior: Flickable.StopAtBounds
-        // A row is made in no time: none is begun beforehand, to be given up when the list changes.
+        // Rows are cheap: none is made outside the view.
         cacheBuffer: 0
         clip: true
         focus: true

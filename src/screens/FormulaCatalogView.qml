@@ -11,8 +11,7 @@ FocusScope {
 
     required property FormulaCatalogViewModel viewModel
 
-    // What follows asks this alone, so that nothing loses the keyboard between one state and the
-    // next.
+    // Read once, so that all bindings switch together and the keyboard's focus is kept.
     readonly property int phase: viewModel.state
     readonly property bool listed: phase === FormulaCatalogViewModel.Listed
     readonly property bool loading: phase === FormulaCatalogViewModel.Loading

@@ -137,7 +137,6 @@ void FormulaCatalogViewModel::open(int row) {
 void FormulaCatalogViewModel::setInputs(const CatalogInputs& inputs) {
   inputs_ = inputs;
   setCatalog(inputs_.state.catalog());
-  Q_EMIT inputsChanged();
   Q_EMIT stateChanged();
   announce();
 }
@@ -150,7 +149,6 @@ void FormulaCatalogViewModel::setCatalog(PackageCatalogSnapshot catalog) {
   // Results are places in the catalog before.
   filteredResults_.reset();
   shownResults_.reset();
-  Q_EMIT catalogChanged();
   filter();
 }
 

@@ -122,7 +122,6 @@ class FormulaCatalogViewModel : public QObject {
   Q_INVOKABLE void open(int row);
 
  Q_SIGNALS:
-  void inputsChanged();
   // What the user wants of the main window.
   void fetchWanted(quillmere::CatalogScope scope);
   void loadCachedWanted(quillmere::CatalogScope scope);
@@ -131,7 +130,6 @@ class FormulaCatalogViewModel : public QObject {
 
   /// What `state` and all that goes with it say has changed.
   void stateChanged();
-  void catalogChanged();
   void resultsChanged();
   /// Something came about that a user who does not see the screen wants to know.
   void announced(const QString& text);

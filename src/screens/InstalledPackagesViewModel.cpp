@@ -67,7 +67,7 @@ InstalledPackagesViewModel::InstalledPackagesViewModel(Clock clock, QObject* par
     : LocalInventoryViewModel(std::move(clock), parent) {
   connect(&search_, &PackageSearch::changed, this, [this] {
     filter();
-    tellChanges();
+    notifyChanges();
   });
 }
 

@@ -13,12 +13,12 @@ ColumnLayout {
     property string symbolName: "arrow.up.right.square"
     property bool failed: false
     // Whether the keyboard begins here.
-    property bool leads: false
+    property bool initialFocus: false
 
     spacing: Theme.small
 
     ActionButton {
-        focus: root.leads
+        focus: root.initialFocus
         help: "Opens " + root.page + " in the browser"
         ink: Theme.accent
         symbolName: root.symbolName

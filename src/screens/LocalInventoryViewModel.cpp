@@ -12,7 +12,7 @@ LocalInventoryViewModel::LocalInventoryViewModel(Clock clock, QObject* parent)
 void LocalInventoryViewModel::setInputs(const LocalInventoryInputs& inputs) {
   const LocalInventoryInputs before = std::exchange(inputs_, inputs);
   follow(before);
-  tellChanges();
+  notifyChanges();
 }
 
 LocalInventoryViewModel::Phase LocalInventoryViewModel::phase() const {
@@ -58,7 +58,7 @@ QString LocalInventoryViewModel::spokenState() const {
   return {};
 }
 
-void LocalInventoryViewModel::tellChanges() {
+void LocalInventoryViewModel::notifyChanges() {
   Q_EMIT changed();
   const QString spoken = spokenState();
   if (spoken_.isNews(spoken)) {

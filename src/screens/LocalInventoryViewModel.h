@@ -76,7 +76,7 @@ class LocalInventoryViewModel : public QObject {
   /// What a loaded inventory comes to, as it is said aloud.
   [[nodiscard]] virtual QString spokenResult() const = 0;
 
-  void tellChanges();
+  void notifyChanges();
 
  private:
   [[nodiscard]] QString spokenState() const;

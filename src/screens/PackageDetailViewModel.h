@@ -124,7 +124,7 @@ class PackageDetailViewModel : public QObject {
   [[nodiscard]] QString formulaProblem() const { return formulaProblem_; }
 
   /// The formula of this name, which was wanted, is not in the loaded catalog.
-  void sayUnknownFormula(const QString& name);
+  void reportUnknownFormula(const QString& name);
 
   /// What is said above the dependants, or in place of them.
   [[nodiscard]] QString reverseDependencyText() const;

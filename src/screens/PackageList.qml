@@ -17,7 +17,7 @@ ListView {
 
     activeFocusOnTab: true
     boundsBehavior: Flickable.StopAtBounds
-    // A row is made in no time: none is begun beforehand, to be given up when the list changes.
+    // Rows are cheap: none is made outside the view.
     cacheBuffer: 0
     clip: true
     highlightMoveDuration: 0

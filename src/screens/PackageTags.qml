@@ -12,7 +12,7 @@ SectionBlock {
     required property real viewTop
     required property real viewHeight
 
-    property bool leads: false
+    property bool clickable: false
     // Why what was chosen did not open.
     property string problem: ""
 
@@ -29,7 +29,7 @@ SectionBlock {
         Layout.fillWidth: true
         accessibleName: root.title
         items: root.names
-        leads: root.leads
+        clickable: root.clickable
         viewHeight: root.viewHeight
         viewTop: root.viewTop - root.padding - y
         visible: items.length > 0

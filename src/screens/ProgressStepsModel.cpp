@@ -37,8 +37,6 @@ QVariant ProgressStepsModel::data(const QModelIndex& index, int role) const {
   }
   const auto& step = steps_[static_cast<std::size_t>(index.row())];
   switch (role) {
-    case StepIdRole:
-      return step.id;
     case Qt::DisplayRole:
     case TitleRole:
       return step.title;
@@ -50,7 +48,7 @@ QVariant ProgressStepsModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ProgressStepsModel::roleNames() const {
-  return {{StepIdRole, "stepId"}, {TitleRole, "title"}, {StateRole, "stepState"}};
+  return {{TitleRole, "title"}, {StateRole, "stepState"}};
 }
 
 void ProgressStepsModel::setSteps(Steps steps) {

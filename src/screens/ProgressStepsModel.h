@@ -17,7 +17,7 @@ class ProgressStepsModel : public QAbstractListModel {
  public:
   using Steps = std::array<DirectExecutionProgressStep, 4>;
 
-  enum Role { StepIdRole = Qt::UserRole, TitleRole, StateRole };
+  enum Role { TitleRole = Qt::UserRole, StateRole };
 
   explicit ProgressStepsModel(Steps steps, QObject* parent = nullptr);
 

@@ -15,7 +15,7 @@ Sheet {
 
     sheetWidth: Theme.alertWidth
 
-    // Not where it was when another question was answered here.
+    // The keyboard starts on the cancel button each time.
     onAboutToShow: (contentItem as AlertContent).begin()
     onRejected: cancelled()
     onAccepted: confirmed()

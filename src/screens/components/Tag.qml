@@ -6,7 +6,7 @@ Rectangle {
 
     required property string text
 
-    property bool leads: false
+    property bool clickable: false
 
     signal clicked
 
@@ -14,7 +14,7 @@ Rectangle {
     color: Theme.neutralFill
     radius: Theme.smallRadius
 
-    Accessible.role: leads ? Accessible.Button : Accessible.StaticText
+    Accessible.role: clickable ? Accessible.Button : Accessible.StaticText
     Accessible.name: text
     Accessible.onPressAction: root.choose(false)
 
@@ -24,7 +24,7 @@ Rectangle {
     Keys.onSpacePressed: event => choose(event.isAutoRepeat)
 
     function choose(repeated: bool): void {
-        if (leads && !repeated)
+        if (clickable && !repeated)
             clicked();
     }
 
@@ -32,7 +32,7 @@ Rectangle {
         anchors.fill: parent
         color: tap.pressed ? Theme.pressed : hover.hovered ? Theme.hover : "transparent"
         radius: parent.radius
-        visible: root.leads
+        visible: root.clickable
     }
 
     CaptionText {
@@ -43,7 +43,7 @@ Rectangle {
         anchors.leftMargin: Theme.small
         anchors.rightMargin: Theme.small
         anchors.topMargin: Theme.tiny
-        color: root.leads ? Theme.accent : Theme.secondaryText
+        color: root.clickable ? Theme.accent : Theme.secondaryText
         elide: Text.ElideRight
         text: root.text
         verticalAlignment: Text.AlignVCenter
@@ -55,14 +55,14 @@ Rectangle {
     HoverHandler {
         id: hover
 
-        cursorShape: root.leads ? Qt.PointingHandCursor : Qt.ArrowCursor
-        enabled: root.leads
+        cursorShape: root.clickable ? Qt.PointingHandCursor : Qt.ArrowCursor
+        enabled: root.clickable
     }
 
     TapHandler {
         id: tap
 
-        enabled: root.leads
+        enabled: root.clickable
 
         onTapped: {
             root.forceActiveFocus(Qt.MouseFocusReason);

@@ -13,7 +13,7 @@ FocusScope {
     required property real viewTop
     required property real viewHeight
 
-    property bool leads: false
+    property bool clickable: false
     property string accessibleName: ""
 
     // Wide enough for the longest name within reason: what is cut off cannot be told apart.
@@ -30,17 +30,17 @@ FocusScope {
 
     implicitWidth: Theme.tagWidth
     implicitHeight: rows * grid.cellHeight - Theme.small
-    activeFocusOnTab: leads
+    activeFocusOnTab: clickable
 
     Accessible.role: Accessible.List
     Accessible.name: accessibleName
 
     Keys.onPressed: event => {
-        event.accepted = leads && event.modifiers === Qt.NoModifier
+        event.accepted = clickable && event.modifiers === Qt.NoModifier
                          && go(grid.currentIndex + step(event.key));
     }
 
-    // How far a key leads; nothing for a key that does not.
+    // How far a key goes; nothing for a key that does not.
     function step(key: int): int {
         return key === Qt.Key_Left ? -1 : key === Qt.Key_Right ? 1
              : key === Qt.Key_Up ? -columns : key === Qt.Key_Down ? columns
@@ -90,7 +90,7 @@ FocusScope {
             width: grid.cellWidth - Theme.small
             height: root.tagHeight
             focus: GridView.isCurrentItem
-            leads: root.leads
+            clickable: root.clickable
             text: modelData
 
             onActiveFocusChanged: if (activeFocus) grid.currentIndex = index

@@ -28,7 +28,7 @@ bool addUnpackedSymbolFont() {
 }  // namespace
 
 Typeface::Typeface(QObject* parent) : QObject(parent) {
-  // Before any text is laid out: what is known of fonts by then would be found anew.
+  // Adding a font empties Qt's font cache, so it comes before any text is laid out.
   [[maybe_unused]] static const bool isAdded = addUnpackedSymbolFont();
 }
 
