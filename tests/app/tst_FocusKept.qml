@@ -43,7 +43,7 @@ PackageCase {
     }
 
     function test_aSectionIsChosenFromACommandThatCanBeCopied() {
-        stage.showInventory("idle-prefix");
+        stage.selectPrefix();
         stage.content.selectIndex(7);
         shows("Settings");
         named("Selected prefix " + stage.content.settings.prefixSelection.selectedPath)
