@@ -95,6 +95,7 @@ PackageCase {
         compare(stage.content.details.current.name, "openssl@3");
         press("Back");
         compare(stage.content.details.current.name, "wget");
+        tryVerify(() => button("own-tool") !== null);
         button("own-tool").Accessible.pressAction();
         compare(stage.content.details.current.name, "wget");
         shows("own-tool is not in the loaded catalog.");

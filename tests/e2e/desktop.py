@@ -18,6 +18,10 @@ PATIENCE = 30.0
 COMPLAINT = re.compile(r"qrc:/|TypeError|ReferenceError|Binding loop|QML |QObject::|QQuick|Could not")
 
 
+# Newer versions of the accessibility bus call some roles otherwise.
+OLDER_ROLE_NAMES = {"button": "push button"}
+
+
 class Failed(AssertionError):
     pass
 
@@ -36,6 +40,11 @@ def wait_for(what, question):
             return answer
         time.sleep(0.05)
     raise Failed(f"waited {PATIENCE:.0f} s in vain for {what}")
+
+
+def role_of(node):
+    name = node.getRoleName()
+    return OLDER_ROLE_NAMES.get(name, name)
 
 
 class Listener:
@@ -106,7 +115,7 @@ class Window:
             if node is None:
                 return
             states = node.getState()
-            if node.getRoleName() != "application" and not states.contains(
+            if role_of(node) != "application" and not states.contains(
                 self._atspi.STATE_SHOWING
             ):
                 return
@@ -121,7 +130,7 @@ class Window:
         return [
             node
             for node in self.everything(inside)
-            if node.getRoleName() == role
+            if role_of(node) == role
             and (name is None or node.name == name)
             and (contains is None or contains in node.name)
         ]
@@ -136,7 +145,7 @@ class Window:
     def focused(self):
         """The roles and names of what has the keyboard, from the outside in."""
         return [
-            (node.getRoleName(), node.name)
+            (role_of(node), node.name)
             for node in self.everything()
             if node.getState().contains(self._atspi.STATE_FOCUSED)
         ]
@@ -223,12 +232,12 @@ class Window:
         """Holds the order in which a screen reader meets what is showing: the landmarks, each a
         role and a name, and nothing that lies above and not beside what was read before it."""
         nodes = list(self.everything())
-        met = iter((node.getRoleName(), node.name) for node in nodes)
+        met = iter((role_of(node), node.name) for node in nodes)
         for landmark in landmarks:
             expect(landmark in met, f"{landmark} is not read, or too early, in\n{self.tree()}")
         before = None
         for node in nodes:
-            if node.getRoleName() not in ("heading", "label", "push button", "list item", "text"):
+            if role_of(node) not in ("heading", "label", "push button", "list item", "text"):
                 continue
             box = node.queryComponent().getExtents(self._atspi.DESKTOP_COORDS)
             if before and box.y + box.height <= before[0].y and box.x < before[0].x + before[0].width:
@@ -238,7 +247,7 @@ class Window:
     def tree(self):
         """The tree as text, for people who look into a failure."""
         return "\n".join(
-            f"{node.getRoleName()} | {node.name!r} | {node.description!r}"
+            f"{role_of(node)} | {node.name!r} | {node.description!r}"
             for node in self.everything()
         )
 

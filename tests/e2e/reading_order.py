@@ -46,8 +46,8 @@ def a_section_is_read(window, number, name, landmarks):
     for landmark in landmarks:
         window.get(*landmark)
     window.reads(SECTIONS, *(("list item", title) for title, _ in LANDMARKS), *landmarks)
-    nameless = [node.getRoleName() for node in window.everything()
-                if not node.name and node.getRoleName() in
+    nameless = [desktop.role_of(node) for node in window.everything()
+                if not node.name and desktop.role_of(node) in
                 ("push button", "text", "list item", "heading", "list", "radio button")]
     expect(not nameless, f"{name} has nameless {nameless}")
 

@@ -49,7 +49,7 @@ class TracedWindow(desktop.Window):
 
     def everything(self, inside=None):
         for node in super().everything(inside):
-            if node.getRoleName() == "label" and node.name.startswith("brew "):
+            if desktop.role_of(node) == "label" and node.name.startswith("brew "):
                 self._shown.add(node.name)
             yield node
 

@@ -59,6 +59,7 @@ struct Request {
   QByteArray method;
   QByteArray path;
   QByteArray version;
+  /// Their names in small letters.
   HttpHeaders headers;
 };
 

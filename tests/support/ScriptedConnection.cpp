@@ -28,7 +28,7 @@ std::optional<Request> parsed(const QByteArray& head) {
   Request request{.method = first[0], .path = first[1], .version = first[2], .headers = {}};
   for (const QByteArray& line : lines) {
     const auto colon = line.indexOf(':');
-    request.headers.emplaceBack(line.left(colon), line.mid(colon + 1).trimmed());
+    request.headers.emplaceBack(line.left(colon).toLower(), line.mid(colon + 1).trimmed());
   }
   return request;
 }
