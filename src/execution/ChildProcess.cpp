@@ -28,6 +28,19 @@ FileDescriptor aboveStandardStreams(FileDescriptor fd) {
              : FileDescriptor(fcntl(fd.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
+/// Has the system keep the exit status of a child until it is asked for. Whoever started this
+/// program may have told it not to: that a signal is ignored outlives the start of a program.
+void keepExitStatuses() {
+  struct sigaction action = {};
+  sigaction(SIGCHLD, nullptr, &action);
+  const bool isIgnored = action.sa_handler == SIG_IGN;
+  if (isIgnored || (action.sa_flags & SA_NOCLDWAIT) != 0) {
+    action.sa_handler = isIgnored ? SIG_DFL : action.sa_handler;
+    action.sa_flags &= ~SA_NOCLDWAIT;
+    sigaction(SIGCHLD, &action, nullptr);
+  }
+}
+
 class SpawnAttributes {
  public:
   SpawnAttributes() {
@@ -167,6 +180,7 @@ std::expected<ChildProcess, std::error_code> ChildProcess::launch(const Launch& 
   if (const auto folder = replacementWorkingDirectory()) {
     actions.startIn(*folder);
   }
+  keepExitStatuses();
   pid_t pid = 0;
   const int error = posix_spawn(&pid, launch.program.c_str(), actions.get(), attributes.get(),
                                 pointers(arguments).data(), pointers(environment).data());
@@ -208,9 +222,12 @@ void ChildProcess::terminateSession() const {
   }
 }
 
-std::int32_t ChildProcess::reap() {
+std::expected<std::int32_t, std::error_code> ChildProcess::reap() {
   siginfo_t information{};
-  while (waitid(P_PID, static_cast<id_t>(pid_), &information, WEXITED) != 0 && errno == EINTR) {
+  while (waitid(P_PID, static_cast<id_t>(pid_), &information, WEXITED) != 0) {
+    if (errno != EINTR) {
+      return std::unexpected(lastError());
+    }
   }
   return information.si_status;
 }

@@ -35,7 +35,8 @@ class ChildProcess {
   [[nodiscard]] static std::expected<Pipe, std::error_code> openPipe();
 
   /// Starts the program directly, never through a shell, in the working directory of this process,
-  /// or at home where that is gone. Both writing ends are closed here afterwards.
+  /// or at home where that is gone. Both writing ends are closed here afterwards. Where this
+  /// process ignores SIGCHLD, it no longer does, because the exit status would be lost.
   [[nodiscard]] static std::expected<ChildProcess, std::error_code> launch(const Launch& launch,
                                                                            Pipe& standardOutput,
                                                                            Pipe& standardError);
@@ -54,9 +55,9 @@ class ChildProcess {
   /// come before `reap`.
   void terminateSession() const;
 
-  /// The exit status of the child, or the number of the signal that ended it. Call once, when it
-  /// has exited.
-  [[nodiscard]] std::int32_t reap();
+  /// The exit status of the child, or the number of the signal that ended it. Fails where somebody
+  /// else of this process has reaped the child. Call once, when it has exited.
+  [[nodiscard]] std::expected<std::int32_t, std::error_code> reap();
 
  private:
   explicit ChildProcess(pid_t pid);

@@ -13,7 +13,7 @@ QString describe(const UnsupportedTarget& error) {
   return QStringLiteral("This command cannot be run for a %1 target.").arg(rawValue(error.kind));
 }
 
-QString describe(const LaunchFailure& error) {
+QString describe(const SystemFailure& error) {
   return QString::fromStdString(error.error.message());
 }
 

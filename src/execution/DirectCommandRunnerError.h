@@ -22,14 +22,14 @@ struct UnsupportedTarget {
   bool operator==(const UnsupportedTarget&) const = default;
 };
 
-/// The operating system did not start the program.
-struct LaunchFailure {
+/// The operating system did not start the program, or did not tell how it ended.
+struct SystemFailure {
   std::error_code error;
-  bool operator==(const LaunchFailure&) const = default;
+  bool operator==(const SystemFailure&) const = default;
 };
 
 using DirectCommandRunnerError =
-    std::variant<UnresolvedBrewExecutable, UnsupportedTarget, LaunchFailure>;
+    std::variant<UnresolvedBrewExecutable, UnsupportedTarget, SystemFailure>;
 
 /// The sentence for the user.
 [[nodiscard]] QString description(const DirectCommandRunnerError& error);

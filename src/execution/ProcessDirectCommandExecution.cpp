@@ -24,8 +24,8 @@ constexpr auto graceAfterExit = 500ms;
 // How often the child is looked at where the system offers no descriptor to wait for.
 constexpr auto exitPollInterval = 50ms;
 
-std::unexpected<DirectCommandRunnerError> launchFailure(std::error_code error) {
-  return std::unexpected(DirectCommandRunnerError(LaunchFailure{error}));
+std::unexpected<DirectCommandRunnerError> systemFailure(std::error_code error) {
+  return std::unexpected(DirectCommandRunnerError(SystemFailure{error}));
 }
 
 QString valueOrUnset(const Environment& environment, const std::string& name) {
@@ -54,7 +54,7 @@ auto ProcessDirectCommandExecution::start(Run run)
   auto standardError = ChildProcess::openPipe();
   FileDescriptor cancelSignal(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
   if (!standardOutput || !standardError || !cancelSignal.isOpen()) {
-    return launchFailure(std::make_error_code(std::errc::too_many_files_open));
+    return systemFailure(std::make_error_code(std::errc::too_many_files_open));
   }
   std::shared_ptr<ProcessDirectCommandExecution> execution(
       new ProcessDirectCommandExecution(std::move(run), std::move(*standardOutput),
@@ -65,7 +65,7 @@ auto ProcessDirectCommandExecution::start(Run run)
     // owns all that it touches.
     std::thread([execution] { execution->runToEnd(); }).detach();
   } catch (const std::system_error& error) {
-    return launchFailure(error.code());
+    return systemFailure(error.code());
   }
   return execution;
 }
@@ -146,9 +146,9 @@ DirectCommandOutcome ProcessDirectCommandExecution::launchAndFollow() {
   auto child = ChildProcess::launch(launch, standardOutput_, standardError_);
   if (!child) {
     logger_.log(QStringLiteral("Process launch failed: ") +
-                description(LaunchFailure{child.error()}));
+                description(SystemFailure{child.error()}));
     output_->finish();
-    return launchFailure(child.error());
+    return systemFailure(child.error());
   }
 
   logger_.log(QStringLiteral("Process launched with pid %1. Waiting for exit.").arg(child->pid()));
@@ -158,13 +158,22 @@ DirectCommandOutcome ProcessDirectCommandExecution::launchAndFollow() {
     child->terminateSession();
   }
   followUntilExit(*child);
-  const std::int32_t exitCode = child->reap();
-  logger_.log(
-      QStringLiteral("Process exited with status %1. Collecting remaining output.").arg(exitCode));
+  const auto exitCode = child->reap();
+  if (exitCode) {
+    logger_.log(QStringLiteral("Process exited with status %1. Collecting remaining output.")
+                    .arg(*exitCode));
+  } else {
+    logger_.log(QStringLiteral("Process exited, but its status is lost: %1. "
+                               "Collecting remaining output.")
+                    .arg(description(SystemFailure{exitCode.error()})));
+  }
   collectRemainingOutput();
   logger_.log(QStringLiteral("Output collection finished. Closing Direct session stream."));
   output_->finish();
-  return makeResult(exitCode);
+  if (!exitCode) {
+    return systemFailure(exitCode.error());
+  }
+  return makeResult(*exitCode);
 }
 
 void ProcessDirectCommandExecution::followUntilExit(const ChildProcess& child) {

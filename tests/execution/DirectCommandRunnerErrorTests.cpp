@@ -26,7 +26,7 @@ TEST(DirectCommandRunnerError, NamesTheKindOfAnUnsupportedTarget) {
 }
 
 TEST(DirectCommandRunnerError, SaysWhyTheLaunchFailed) {
-  EXPECT_EQ(description(LaunchFailure{std::make_error_code(std::errc::permission_denied)}),
+  EXPECT_EQ(description(SystemFailure{std::make_error_code(std::errc::permission_denied)}),
             u"Permission denied"_s);
 }
 

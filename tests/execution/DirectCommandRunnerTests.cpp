@@ -206,7 +206,7 @@ TEST(DirectCommandRunner, PassesOnWhyTheProgramDidNotStart) {
   const DirectCommandOutcome outcome = execution->result().result();
   ASSERT_FALSE(outcome);
   const DirectCommandRunnerError expected =
-      LaunchFailure{std::error_code(ENOENT, std::system_category())};
+      SystemFailure{std::error_code(ENOENT, std::system_category())};
   EXPECT_EQ(outcome.error(), expected);
   const FinishedRun run{{}, execution->output()->take()};
   EXPECT_TRUE(execution->output()->isFinished());

@@ -147,16 +147,16 @@ TEST_F(Session, IsCancelledOnRequestEvenIfTheChildEndsWell) {
 
 TEST_F(Session, FailsWithTheErrorOfItsExecution) {
   controller->start();
-  execution.end(std::unexpected(LaunchFailure{std::error_code(EACCES, std::system_category())}));
+  execution.end(std::unexpected(SystemFailure{std::error_code(EACCES, std::system_category())}));
   expectEnd(
-      SessionFailed{description(LaunchFailure{std::error_code(EACCES, std::system_category())})});
+      SessionFailed{description(SystemFailure{std::error_code(EACCES, std::system_category())})});
   EXPECT_FALSE(controller->result());
 }
 
 TEST_F(Session, IsCancelledByAnErrorAfterTheRequest) {
   controller->start();
   controller->cancel();
-  execution.end(std::unexpected(LaunchFailure{std::error_code(EACCES, std::system_category())}));
+  execution.end(std::unexpected(SystemFailure{std::error_code(EACCES, std::system_category())}));
   expectEnd(SessionCancelled{});
 }
 
