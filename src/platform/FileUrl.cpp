@@ -8,8 +8,8 @@ QUrl fileUrl(const QString& path) {
     return QUrl::fromLocalFile(path);
   }
   // Scans make many of these, and what `fromLocalFile` does is mostly to set the scheme and to look
-  // for percent signs, slowly.
-  static const QUrl root = QUrl::fromLocalFile(QStringLiteral("/"));
+  // for percent signs, slowly. Never destroyed: a scan may outlive the end of `main`.
+  static const auto& root = *new QUrl(QUrl::fromLocalFile(QStringLiteral("/")));
   QUrl url = root;
   url.setPath(path, path.contains(u'%') ? QUrl::DecodedMode : QUrl::TolerantMode);
   return url;

@@ -52,7 +52,9 @@ class PlatformFileSystem final : public HomebrewPrefixFileSystem {
 }  // namespace
 
 HomebrewPrefixFileSystemPtr platformFileSystem() {
-  static const auto fileSystem = std::make_shared<const PlatformFileSystem>();
+  // Never destroyed: a scan may outlive the end of `main`.
+  static const auto& fileSystem =
+      *new HomebrewPrefixFileSystemPtr(std::make_shared<const PlatformFileSystem>());
   return fileSystem;
 }
 

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/FileUrl.h"
+#include "support/AnotherProcess.h"
 
 namespace quillmere {
 namespace {
@@ -24,6 +25,12 @@ TEST(FileUrl, IsTheUrlThatQtMakesOfThePath) {
     EXPECT_EQ(fileUrl(path), QUrl::fromLocalFile(path)) << path.toStdString();
     EXPECT_EQ(fileUrl(path).toEncoded(), QUrl::fromLocalFile(path).toEncoded());
   }
+}
+
+TEST(FileUrl, IsMadeThoughTheProgramIsEnding) {
+  EXPECT_FALSE(fileUrl(u"/opt"_s).isEmpty());  // what is made once is made now
+  EXPECT_TRUE(test::hasEndedWell(test::atTheEndOfAnotherProcess(
+      [] { return filePath(fileUrl(u"/opt/homebrew"_s)) == u"/opt/homebrew"_s; })));
 }
 
 TEST(FileUrl, HasAPathWithoutATrailingSlash) {

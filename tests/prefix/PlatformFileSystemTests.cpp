@@ -6,6 +6,7 @@
 
 #include "platform/FileUrl.h"
 #include "prefix/HomebrewPrefixFileSystem.h"
+#include "support/AnotherProcess.h"
 #include "support/DemoPrefix.h"
 #include "support/UnprivilegedUser.h"
 
@@ -122,6 +123,12 @@ TEST(PlatformFileSystem, FindsNothingThatIsNotOfThisMachine) {
   const QUrl remote(u"https://www.example.org/etc"_s);
   EXPECT_FALSE(platformFileSystem()->contentsOfDirectory(remote).has_value());
   EXPECT_FALSE(platformFileSystem()->readData(remote).has_value());
+}
+
+TEST(PlatformFileSystem, IsThereThoughTheProgramIsEnding) {
+  EXPECT_TRUE(platformFileSystem()->fileExists(u"/"_s));  // what is made once is made now
+  EXPECT_TRUE(test::hasEndedWell(
+      test::atTheEndOfAnotherProcess([] { return platformFileSystem()->fileExists(u"/"_s); })));
 }
 
 }  // namespace

@@ -1,9 +1,13 @@
 #include "support/AnotherProcess.h"
 
+#include <array>
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
+#include <malloc.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace quillmere::test {
 namespace {
@@ -12,6 +16,37 @@ int statusOf(pid_t process) {
   int status = -1;
   return process > 0 && waitpid(process, &status, 0) == process ? status : -1;
 }
+
+/// Has the C library overwrite what is freed from now on, so that whoever goes on using it is found
+/// out without a sanitizer too. It does not while its cache of small pieces has room, which is
+/// filled here.
+void spoilWhatIsFreed() {
+  constexpr std::size_t largest = 1024;
+  constexpr std::size_t step = 16;
+  for (std::size_t size = step; size <= largest; size += step) {
+    std::array<void* volatile, 16> pieces = {};
+    for (void* volatile& piece : pieces) {
+      piece = std::malloc(size);
+    }
+    for (void* const piece : pieces) {
+      std::free(piece);
+    }
+  }
+  mallopt(M_PERTURB, 1);
+}
+
+/// Made before `main`, and so destroyed behind all that is made later.
+struct LastToGo {
+  std::function<bool()> body;
+
+  ~LastToGo() {
+    if (body) {
+      _exit(body() ? 0 : 1);
+    }
+  }
+};
+
+LastToGo lastToGo;
 
 }  // namespace
 
@@ -22,6 +57,14 @@ pid_t inAnotherProcess(const std::function<void()>& body) {
     _exit(0);
   }
   return child;
+}
+
+pid_t atTheEndOfAnotherProcess(std::function<bool()> body) {
+  return inAnotherProcess([&body] {
+    lastToGo.body = std::move(body);
+    spoilWhatIsFreed();
+    std::exit(1);
+  });
 }
 
 bool hasEndedWell(pid_t process) {
