@@ -54,6 +54,11 @@ inline constexpr auto rawValues<BrewCommandTargetKind> =
         {BrewCommandTargetKind::diagnostic, QLatin1StringView("diagnostic")},
     });
 
+/// Whether a target of this kind is a package and has its name.
+[[nodiscard]] constexpr bool namesPackage(BrewCommandTargetKind kind) {
+  return kind == BrewCommandTargetKind::formula || kind == BrewCommandTargetKind::cask;
+}
+
 /// What a command acts on: the name of a formula or the token of a cask; none for the kinds that
 /// name no package.
 struct BrewCommandTarget {

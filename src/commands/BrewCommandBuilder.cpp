@@ -72,22 +72,11 @@ bool isValidIdentifier(QStringView identifier) {
 }
 
 std::optional<BrewCommandBuilderError> problemOf(const BrewCommandTarget& target) {
-  if (target.kind == Kind::global || target.kind == Kind::diagnostic) {
+  if (!namesPackage(target.kind)) {
     return BrewCommandBuilderError{target.name.value_or(QString(rawValue(target.kind)))};
   }
   const QString name = target.name.value_or(QString());
   return isValidIdentifier(name) ? std::nullopt : std::optional(BrewCommandBuilderError{name});
-}
-
-QString commandText(const Row& row, const BrewCommandTarget& target) {
-  QString text = "brew "_L1 + row.subcommand;
-  if (target.kind == Kind::cask) {
-    text += " --cask"_L1;
-  }
-  if (target.name) {
-    text += u' ' + *target.name;
-  }
-  return text;
 }
 
 QString explanation(const Row& row, const BrewCommandTarget& target) {
@@ -101,7 +90,7 @@ BrewCommand build(Operation operation, const BrewCommandTarget& target) {
   const Row& row = rowOf(operation);
   return {
       .id = QUuid::createUuid(),
-      .commandText = commandText(row, target),
+      .commandText = "brew "_L1 + brewWords(operation, target).join(u' '),
       .operation = operation,
       .target = target,
       .riskLevel = row.risk,
@@ -121,6 +110,17 @@ BrewCommandBuilder::Result buildForPackage(Operation operation, const BrewComman
 
 QString BrewCommandBuilderError::description() const {
   return "Invalid Homebrew package identifier: "_L1 + invalidPackageIdentifier;
+}
+
+QStringList brewWords(Operation operation, const BrewCommandTarget& target) {
+  QStringList words = QString(rowOf(operation).subcommand).split(u' ');
+  if (target.kind == Kind::cask) {
+    words += u"--cask"_s;
+  }
+  if (namesPackage(target.kind) && target.name) {
+    words += *target.name;
+  }
+  return words;
 }
 
 QStringList possibleEffects(Operation operation, const BrewCommandTarget& target) {

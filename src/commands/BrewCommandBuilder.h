@@ -21,6 +21,11 @@ struct BrewCommandBuilderError {
   [[nodiscard]] QString description() const;
 };
 
+/// The words behind "brew": what is shown of a command and what is run are both made of them. The
+/// name of a package is one word, the last. Pure; any thread.
+[[nodiscard]] QStringList brewWords(BrewCommandOperation operation,
+                                    const BrewCommandTarget& target);
+
 /// What running such a command may do, in the order in which it is shown. A target without a name
 /// stands for "packages" in general.
 [[nodiscard]] QStringList possibleEffects(BrewCommandOperation operation,

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 #include <optional>
+#include <vector>
 
+#include "commands/BrewCommandBuilder.h"
 #include "execution/BrewArguments.h"
 
 namespace quillmere {
@@ -51,6 +53,59 @@ TEST_P(BrewArgumentsOfOperation, RefuseAPackageWithoutName) {
 TEST_P(BrewArgumentsOfOperation, RefuseTheOtherKindThatNamesNoPackage) {
   const Kind other = GetParam().noPackageKind == Kind::global ? Kind::diagnostic : Kind::global;
   expectArguments(commandFor(GetParam().operation, other, std::nullopt), nullptr);
+}
+
+/// Every command of one operation that can be shown.
+std::vector<BrewCommandBuilder::Result> commandsOf(Operation operation) {
+  const BrewCommandBuilder builder;
+  const QString name = QStringLiteral("user/tap/openssl@3");
+  const BrewCommandTarget formula{Kind::formula, name};
+  const BrewCommandTarget cask{Kind::cask, name};
+  switch (operation) {
+    case Operation::info:
+      return {builder.info(formula), builder.info(cask)};
+    case Operation::install:
+      return {builder.install(formula), builder.install(cask)};
+    case Operation::uninstall:
+      return {builder.uninstall(formula), builder.uninstall(cask)};
+    case Operation::update:
+      return {builder.update()};
+    case Operation::upgrade:
+      return {builder.upgrade(formula), builder.upgrade(cask), builder.upgrade(std::nullopt)};
+    case Operation::outdated:
+      return {builder.outdated()};
+    case Operation::cleanup:
+      return {builder.cleanup()};
+    case Operation::dependencies:
+      return {builder.dependencies(name)};
+    case Operation::reverseDependencies:
+      return {builder.reverseDependencies(name)};
+    case Operation::servicesList:
+      return {builder.servicesList()};
+    case Operation::doctor:
+      return {builder.doctor()};
+  }
+  return {};
+}
+
+TEST_P(BrewArgumentsOfOperation, AreWhatIsShownOfTheCommand) {
+  const auto commands = commandsOf(GetParam().operation);
+  EXPECT_FALSE(commands.empty());
+  for (const auto& command : commands) {
+    ASSERT_TRUE(command);
+    EXPECT_EQ(command->operation, GetParam().operation);
+    const auto arguments = brewArguments(*command);
+    ASSERT_TRUE(arguments) << command->commandText.toStdString();
+    EXPECT_EQ(command->commandText, QStringLiteral("brew ") + arguments->join(u' '));
+  }
+}
+
+TEST_P(BrewArgumentsOfOperation, LeaveOutANameThatIsNoPackages) {
+  if (const char* const expected = GetParam().noPackage) {
+    expectArguments(
+        commandFor(GetParam().operation, GetParam().noPackageKind, QStringLiteral("wget")),
+        expected);
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(
