@@ -61,31 +61,52 @@ constexpr qsizetype maxFirstLines(BrewCommandOperation operation) {
   return 4;
 }
 
+/// What makes a line notable, in lower case.
+constexpr std::array<std::string_view, 9> notableWords{"==>",     "error",     "warning",
+                                                       "already", "installed", "upgraded",
+                                                       "removed", "deleted",   "downloaded"};
+
+/// Two characters in a row, rare in other lines, of which each of those words has a pair.
+constexpr std::array<std::string_view, 5> notablePairs{"=>", "rr", "rn", "lr", "ed"};
+
+constexpr bool hasNotablePair(std::string_view word) {
+  return std::ranges::any_of(notablePairs,
+                             [word](std::string_view pair) { return word.contains(pair); });
+}
+
+static_assert(std::ranges::all_of(notableWords, hasNotablePair));
+
+/// Lower-cases ASCII letters; the other characters of the pairs stay.
+constexpr std::uint8_t loweredBit(char character) {
+  return static_cast<std::uint8_t>(static_cast<std::uint8_t>(character) | 0x20);
+}
+
+static_assert(std::ranges::all_of(notablePairs, [](std::string_view pair) {
+  return std::ranges::all_of(pair, [](char c) { return loweredBit(c) == std::uint8_t(c); });
+}));
+
 /// `line` is UTF-8. The words are ASCII, and no other letter becomes one of theirs when it is
 /// lower-cased.
 bool isNotable(QByteArrayView line) {
-  static constexpr std::array<std::string_view, 9> words{"==>",     "error",     "warning",
-                                                         "already", "installed", "upgraded",
-                                                         "removed", "deleted",   "downloaded"};
   const QByteArray lowered = line.toByteArray().toLower();
   const std::string_view text(lowered.constData(), static_cast<std::size_t>(lowered.size()));
-  return std::ranges::any_of(words, [text](std::string_view word) { return text.contains(word); });
+  return std::ranges::any_of(notableWords,
+                             [text](std::string_view word) { return text.contains(word); });
 }
 
-/// False only where `isNotable` is false: whether one of the pairs of characters occurs that the
-/// words of notable lines have between them. Without a branch, so that the compiler may look at
-/// many characters at a time; nearly all lines of a long build log end here.
+/// False only where `isNotable` is false: whether one of the pairs occurs. Without a branch, so
+/// that the compiler may look at many characters at a time; nearly all lines of a long build log
+/// end here.
 bool mayBeNotable(QByteArrayView line) {
-  constexpr auto lowered = [](char character) {
-    return static_cast<std::uint8_t>(static_cast<std::uint8_t>(character) | 0x20);
-  };
   std::uint8_t found = 0;
   for (qsizetype i = 0; i + 1 < line.size(); ++i) {
-    const std::uint8_t first = lowered(line.data()[i]);
-    const std::uint8_t second = lowered(line.data()[i + 1]);
-    found |= std::uint8_t(((first == '=') & (second == '>')) | ((first == 'r') & (second == 'r')) |
-                          ((first == 'r') & (second == 'n')) | ((first == 'l') & (second == 'r')) |
-                          ((first == 'e') & (second == 'd')));
+    const std::uint8_t first = loweredBit(line.data()[i]);
+    const std::uint8_t second = loweredBit(line.data()[i + 1]);
+    for (const std::string_view pair : notablePairs) {
+      const std::uint8_t isFirst = first == pair[0];
+      const std::uint8_t isSecond = second == pair[1];
+      found |= std::uint8_t(isFirst & isSecond);
+    }
   }
   return found != 0;
 }
