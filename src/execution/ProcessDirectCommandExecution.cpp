@@ -3,6 +3,7 @@
 #include <QtCore/QFile>
 
 #include <array>
+#include <cerrno>
 #include <chrono>
 #include <poll.h>
 #include <sys/eventfd.h>
@@ -51,10 +52,16 @@ void readIfReady(FileHandleDataReader& reader, const pollfd& entry) {
 auto ProcessDirectCommandExecution::start(Run run)
     -> std::expected<std::shared_ptr<DirectCommandExecution>, DirectCommandRunnerError> {
   auto standardOutput = ChildProcess::openPipe();
+  if (!standardOutput) {
+    return systemFailure(standardOutput.error());
+  }
   auto standardError = ChildProcess::openPipe();
+  if (!standardError) {
+    return systemFailure(standardError.error());
+  }
   FileDescriptor cancelSignal(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-  if (!standardOutput || !standardError || !cancelSignal.isOpen()) {
-    return systemFailure(std::make_error_code(std::errc::too_many_files_open));
+  if (!cancelSignal.isOpen()) {
+    return systemFailure({errno, std::system_category()});
   }
   std::shared_ptr<ProcessDirectCommandExecution> execution(
       new ProcessDirectCommandExecution(std::move(run), std::move(*standardOutput),
@@ -220,8 +227,7 @@ void ProcessDirectCommandExecution::collectRemainingOutput() {
     readIfReady(standardOutputReader_, entries[0]);
     readIfReady(standardErrorReader_, entries[1]);
   }
-  for (FileHandleDataReader* reader : {static_cast<FileHandleDataReader*>(&standardOutputReader_),
-                                       static_cast<FileHandleDataReader*>(&standardErrorReader_)}) {
+  for (auto* const reader : {&standardOutputReader_, &standardErrorReader_}) {
     if (reader->fileHandle().isOpen()) {
       reader->finish();
     }
