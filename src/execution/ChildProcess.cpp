@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <spawn.h>
 #include <sys/syscall.h>

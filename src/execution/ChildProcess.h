@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <expected>
-#include <optional>
 #include <string>
 #include <sys/types.h>
 #include <system_error>

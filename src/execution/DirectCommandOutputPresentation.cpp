@@ -2,8 +2,6 @@
 
 #include <QtCore/QStringList>
 
-#include <algorithm>
-
 namespace quillmere {
 namespace {
 
