@@ -46,11 +46,6 @@ OutputChunkStream::Chunks OutputChunkStream::take() {
   return std::exchange(waiting_, {});
 }
 
-bool OutputChunkStream::isFinished() const {
-  const std::scoped_lock lock(mutex_);
-  return finished_;
-}
-
 void OutputChunkStream::wake() {
   if (!consumer_ || std::exchange(consumer_->isCalled, true)) {
     return;

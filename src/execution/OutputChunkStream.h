@@ -30,13 +30,12 @@ class OutputChunkStream : public std::enable_shared_from_this<OutputChunkStream>
 
   /// All chunks that wait, in order.
   [[nodiscard]] Chunks take();
-  [[nodiscard]] bool isFinished() const;
 
  private:
   struct Consumer;
   void wake();
 
-  mutable std::mutex mutex_;
+  std::mutex mutex_;
   Chunks waiting_;
   bool finished_ = false;
   std::shared_ptr<Consumer> consumer_;

@@ -209,7 +209,7 @@ TEST(DirectCommandRunner, PassesOnWhyTheProgramDidNotStart) {
       SystemFailure{std::error_code(ENOENT, std::system_category())};
   EXPECT_EQ(outcome.error(), expected);
   const FinishedRun run{{}, execution->output()->take()};
-  EXPECT_TRUE(execution->output()->isFinished());
+  EXPECT_TRUE(hasFinished(*execution->output()));
   EXPECT_EQ(run.diagnostics().last(),
             QStringLiteral("Process launch failed: ") + description(expected));
   EXPECT_EQ(SecurityScopedAccess::counts(),

@@ -5,6 +5,7 @@
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
+#include <utility>
 
 #include "platform/FileUrl.h"
 
@@ -51,8 +52,14 @@ std::shared_ptr<DirectCommandExecution> startRun(const DemoPrefix& prefix,
 
 FinishedRun finish(const std::shared_ptr<DirectCommandExecution>& execution) {
   const DirectCommandOutcome outcome = execution->result().result();
-  EXPECT_TRUE(execution->output()->isFinished());
-  return {outcome.value(), execution->output()->take()};
+  auto chunks = execution->output()->take();
+  EXPECT_TRUE(hasFinished(*execution->output()));
+  return {outcome.value(), std::move(chunks)};
+}
+
+bool hasFinished(OutputChunkStream& stream) {
+  stream.yield({});
+  return stream.take().empty();
 }
 
 FinishedRun runScript(const QByteArray& script) {

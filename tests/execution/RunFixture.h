@@ -31,6 +31,9 @@ struct FinishedRun {
 /// Waits for the end of a run that was launched.
 [[nodiscard]] FinishedRun finish(const std::shared_ptr<DirectCommandExecution>& execution);
 
+/// Whether a stream of which all is taken lets nothing more in.
+[[nodiscard]] bool hasFinished(OutputChunkStream& stream);
+
 /// Runs a script as `bin/brew`.
 [[nodiscard]] FinishedRun runScript(const QByteArray& script);
 
