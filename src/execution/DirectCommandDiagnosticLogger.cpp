@@ -8,10 +8,6 @@ QString diagnosticLine(const QString& message) {
   return QStringLiteral("[quillmere] ") + message;
 }
 
-DirectExecutionOutputChunk makeChunk(DirectExecutionOutputStream stream, const QByteArray& text) {
-  return {QUuid::createUuid(), stream, text, QDateTime::currentDateTimeUtc()};
-}
-
 DirectCommandDiagnosticLogger::DirectCommandDiagnosticLogger(
     std::shared_ptr<OutputChunkStream> stream)
     : stream_(std::move(stream)) {

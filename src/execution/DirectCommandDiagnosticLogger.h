@@ -22,8 +22,4 @@ class DirectCommandDiagnosticLogger {
   std::shared_ptr<OutputChunkStream> stream_;
 };
 
-/// A chunk received just now.
-[[nodiscard]] DirectExecutionOutputChunk makeChunk(DirectExecutionOutputStream stream,
-                                                   const QByteArray& text);
-
 }  // namespace quillmere

@@ -33,4 +33,8 @@ struct DirectExecutionOutputChunk {
   bool operator==(const DirectExecutionOutputChunk&) const = default;
 };
 
+/// A chunk that came just now. Any thread.
+[[nodiscard]] DirectExecutionOutputChunk makeChunk(DirectExecutionOutputStream stream,
+                                                   const QByteArray& text);
+
 }  // namespace quillmere
