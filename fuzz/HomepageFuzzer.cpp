@@ -2,6 +2,7 @@
 #include <cstdint>
 
 #include "platform/UrlText.h"
+#include "platform/WebPage.h"
 #include "require.h"
 
 namespace quillmere {

@@ -12,11 +12,4 @@ QUrl UrlText::url() const {
   return QUrl(text_.toString(), QUrl::StrictMode);
 }
 
-bool isWebPage(const QUrl& address) {
-  const QString scheme = address.scheme();
-  const bool isOfTheWeb =
-      scheme == QLatin1StringView("https") || scheme == QLatin1StringView("http");
-  return isOfTheWeb && !address.host().isEmpty() && address.userInfo().isEmpty();
-}
-
 }  // namespace quillmere

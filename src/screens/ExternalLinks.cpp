@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "platform/UrlText.h"
+#include "platform/WebPage.h"
 
 namespace quillmere {
 namespace {

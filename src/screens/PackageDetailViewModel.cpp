@@ -4,7 +4,7 @@
 
 #include "guidance/FreshnessIndicator.h"
 #include "platform/ShownText.h"
-#include "platform/UrlText.h"
+#include "platform/WebPage.h"
 #include "screens/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
