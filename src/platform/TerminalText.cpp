@@ -4,7 +4,8 @@
 
 #include <algorithm>
 #include <limits>
-#include <vector>
+
+#include "platform/TerminalLine.h"
 
 namespace quillmere {
 namespace {
@@ -39,125 +40,6 @@ QString decoded(QByteArrayView line) {
                          QStringDecoder::Flag::Stateless | QStringDecoder::Flag::ConvertInitialBom);
   return decoder.decode(line);
 }
-
-/// One line of a terminal: what was written into which column, and what was erased since. Every
-/// operation takes constant time, however wide the line is, so that no output can be made to cost
-/// more than its length.
-class Line {
- public:
-  void put(QStringView character) {
-    const Cell cell{.begin = pool_.size(), .length = character.size(), .writtenAt = now()};
-    pool_ += character;
-    if (column() >= cells_.size()) {
-      cells_.resize(column() + 1);
-    }
-    cells_[column()] = cell;
-    ++column_;
-  }
-
-  /// Puts characters that are one UTF-16 unit wide each.
-  void putUnits(QStringView units) {
-    const auto count = static_cast<std::size_t>(units.size());
-    const qsizetype begin = pool_.size();
-    pool_ += units;
-    cells_.resize(std::max(cells_.size(), column() + count));
-    for (std::size_t i = 0; i < count; ++i) {
-      cells_[column() + i] = {.begin = begin + qsizetype(i), .length = 1, .writtenAt = now()};
-    }
-    column_ += units.size();
-  }
-
-  /// Adds what has no width of its own to the character before the cursor.
-  void attach(QStringView mark) {
-    if (column_ == 0 || column() > cells_.size()) {
-      put(mark);
-      return;
-    }
-    Cell& cell = cells_[column() - 1];
-    if (cell.begin + cell.length != pool_.size()) {
-      if (cell.length > maxMovedLength) {
-        return;
-      }
-      const QString moved = pool_.sliced(cell.begin, cell.length);
-      cell.begin = pool_.size();
-      pool_ += moved;
-    }
-    pool_ += mark;
-    cell.length += mark.size();
-  }
-
-  /// Blanks come into being only within the width that a terminal may have.
-  void moveTo(qsizetype column) {
-    column_ = std::clamp<qsizetype>(column, 0, std::max<qsizetype>(std::ssize(cells_), maxBlanks));
-  }
-
-  void moveBy(qsizetype columns) { moveTo(column_ + columns); }
-
-  void eraseToEnd() { cells_.resize(std::min(column(), cells_.size())); }
-
-  void eraseToStart() { erasures_.push_back({.lastColumn = column_, .erasedAt = now()}); }
-
-  void eraseAll() {
-    erasures_.push_back({.lastColumn = std::numeric_limits<qsizetype>::max(), .erasedAt = now()});
-  }
-
-  /// What stands, from the first column to the last one that holds anything. The line is done with.
-  [[nodiscard]] QString takeText() {
-    erase();
-    while (!cells_.empty() && cells_.back().length == 0) {
-      cells_.pop_back();
-    }
-    QString text;
-    text.reserve(pool_.size());
-    for (const Cell& cell : cells_) {
-      text +=
-          cell.length == 0 ? QStringView(u" ") : QStringView(pool_).sliced(cell.begin, cell.length);
-    }
-    return text;
-  }
-
- private:
-  /// A column: a character with its marks, as a part of the pool; blank when it has no length.
-  struct Cell {
-    qsizetype begin = 0;
-    qsizetype length = 0;
-    qsizetype writtenAt = 0;
-  };
-
-  struct Erasure {
-    qsizetype lastColumn = 0;
-    qsizetype erasedAt = 0;
-  };
-
-  static constexpr qsizetype maxBlanks = 512;
-  static constexpr qsizetype maxMovedLength = 32;
-
-  [[nodiscard]] std::size_t column() const { return static_cast<std::size_t>(column_); }
-
-  /// Erasures are the ticks of this clock: a character is erased by those that come after it.
-  [[nodiscard]] qsizetype now() const { return std::ssize(erasures_); }
-
-  /// Makes the erased columns blank. From the last column to the first, the latest of the erasures
-  /// that reach the column decides.
-  void erase() {
-    std::ranges::sort(erasures_, {}, &Erasure::lastColumn);
-    qsizetype latest = -1;
-    for (qsizetype column = std::ssize(cells_) - 1; column >= 0; --column) {
-      for (; !erasures_.empty() && erasures_.back().lastColumn >= column; erasures_.pop_back()) {
-        latest = std::max(latest, erasures_.back().erasedAt);
-      }
-      Cell& cell = cells_[static_cast<std::size_t>(column)];
-      if (cell.writtenAt <= latest) {
-        cell.length = 0;
-      }
-    }
-  }
-
-  QString pool_;
-  std::vector<Cell> cells_;
-  std::vector<Erasure> erasures_;
-  qsizetype column_ = 0;
-};
 
 /// A control sequence without its introducer: parameters, intermediates and the final character.
 struct ControlSequence {
@@ -317,7 +199,7 @@ class LineReader {
   }
 
   QStringView rest_;
-  Line line_;
+  TerminalLine line_;
   /// Whether the next character becomes one with the last one.
   bool joins_ = false;
 };
