@@ -65,8 +65,8 @@ constexpr bool isAllowed(QChar character) {
          std::u16string_view(u"@._+-/").contains(c);
 }
 
-/// Nothing in such a name means anything to a shell. Where a name may begin or how long it is, is
-/// Homebrew's business.
+/// Whether no character of the name means anything to a shell. The first character and the length
+/// are not looked at: `couldBePackage` does.
 bool isValidIdentifier(QStringView identifier) {
   return !identifier.isEmpty() && std::ranges::all_of(identifier, isAllowed);
 }

@@ -21,8 +21,8 @@ struct BrewCommandBuilderError {
   [[nodiscard]] QString description() const;
 };
 
-/// The words behind "brew": what is shown of a command and what is run are both made of them. The
-/// name of a package is one word, the last. Pure; any thread.
+/// The words after "brew". Both the text of a command and the arguments of its process are made of
+/// them. A package's name is the last word. Pure; any thread.
 [[nodiscard]] QStringList brewWords(BrewCommandOperation operation,
                                     const BrewCommandTarget& target);
 
@@ -31,14 +31,12 @@ struct BrewCommandBuilderError {
 [[nodiscard]] QStringList possibleEffects(BrewCommandOperation operation,
                                           const BrewCommandTarget& target);
 
-/// Whether Homebrew can take `name` for nothing but a package. The builder's identifiers mean
-/// nothing to a shell, but "--force" would be an option to Homebrew, "../x" a file, and neither
-/// names a package: of those, each part between slashes begins with a letter or a digit. Nor is one
-/// longer than the folder that is made for it may be called. Pure; any thread.
+/// False for names that Homebrew would read as an option or a path ("--force", "../x") and for
+/// names longer than a folder name may be (255). Pure; any thread.
 [[nodiscard]] bool couldBePackage(QStringView name);
 
-/// The only place where a package name reaches a command line: it refuses every character that a
-/// shell could take for anything but itself, so that the text can be copied and run as it stands.
+/// The only place where a package name reaches a command line. It refuses every character that
+/// means something to a shell, so that the text needs no quoting when it is copied and run.
 /// Stateless; each operation is a pure function but for the command's fresh `id`. Any thread.
 class BrewCommandBuilder {
  public:

@@ -37,7 +37,7 @@ struct CommandHistoryRecord {
   bool operator==(const CommandHistoryRecord&) const = default;
 };
 
-/// The record of a copy made at `now` from `sourceScreen`.
+/// The record of a copy made at `now` from `sourceScreen`. Pure but for its fresh `id`; any thread.
 [[nodiscard]] CommandHistoryRecord copyRecord(const BrewCommand& command,
                                               const std::optional<QString>& sourceScreen,
                                               const QDateTime& now);

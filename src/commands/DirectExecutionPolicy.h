@@ -42,8 +42,8 @@ struct DirectExecutionPolicyDecision {
 [[nodiscard]] DirectExecutionPolicyDecision decide(const BrewCommand& command,
                                                    const AppCapabilities& capabilities);
 
-/// The label of the button that confirms running `command`: it names the exact command, so that
-/// nobody confirms a question without an object.
+/// The label of the button that confirms running `command`. It names the exact command, so that the
+/// user sees what the click will run. Pure; any thread.
 [[nodiscard]] QString confirmTitle(const BrewCommand& command);
 
 }  // namespace quillmere

@@ -11,7 +11,7 @@ namespace quillmere {
 /// Names and values as bytes: an inherited value need not be text in any encoding.
 using Environment = std::map<std::string, std::string>;
 
-/// The environment of this process.
+/// The environment of this process. Any thread, while no other thread changes the environment.
 [[nodiscard]] Environment inheritedEnvironment();
 
 /// `inherited` with what every run of `brew` gets: a search path of the prefix's own tools and the

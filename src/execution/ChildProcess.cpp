@@ -21,16 +21,16 @@ std::error_code lastError() {
   return {errno, std::system_category()};
 }
 
-/// Moves a descriptor above the three standard ones, which it must not be mistaken for when the
-/// child's are set up. It could be one where this process was started without them.
+/// Moves a descriptor above the three standard ones. Where this process was started without those,
+/// a pipe could get one of their numbers and be overwritten when the child's are set up.
 FileDescriptor aboveStandardStreams(FileDescriptor fd) {
   return fd.get() > STDERR_FILENO
              ? std::move(fd)
              : FileDescriptor(fcntl(fd.get(), F_DUPFD_CLOEXEC, STDERR_FILENO + 1));
 }
 
-/// Has the system keep the exit status of a child until it is asked for. Whoever started this
-/// program may have told it not to: that a signal is ignored outlives the start of a program.
+/// Undoes an ignored SIGCHLD, with which the system would reap children and drop their exit
+/// statuses. An ignored signal is inherited through exec, so whoever started us may have set it.
 void keepExitStatuses() {
   struct sigaction action = {};
   sigaction(SIGCHLD, nullptr, &action);
@@ -91,7 +91,7 @@ class SpawnFileActions {
   posix_spawn_file_actions_t actions_{};
 };
 
-/// The folder to start in where the inherited one was deleted: `brew` refuses to work without one.
+/// The folder to start in where the current one was deleted: `brew` refuses to work without one.
 std::optional<std::string> replacementWorkingDirectory() {
   std::error_code error;
   if (std::filesystem::exists(std::filesystem::current_path(error), error)) {
@@ -111,11 +111,11 @@ std::vector<char*> pointers(std::vector<std::string>& texts) {
   return result;
 }
 
-/// SIGTERM, and SIGCONT after it: a process that was stopped hears of nothing until it goes on.
+/// SIGCONT follows because a stopped process handles SIGTERM only once it continues.
 constexpr std::array terminateRequest{SIGTERM, SIGCONT};
 
-/// Sends the request through a descriptor of the process, so that the number cannot have gone to
-/// another one between the look and the request. A zombie does not mind.
+/// Signals through a descriptor of the process, so that its number cannot be reused between the
+/// check and the signal. A zombie ignores it.
 void terminateMember(pid_t member, pid_t session) {
   const FileDescriptor process(static_cast<int>(syscall(SYS_pidfd_open, member, 0)));
   if (process.isOpen()) {
@@ -125,16 +125,16 @@ void terminateMember(pid_t member, pid_t session) {
       }
     }
   } else if (errno != ESRCH) {
-    // No such descriptors here, or none left: better a request on a number just seen than none.
+    // The system has no such descriptors, or none are left: signal by number, which was just seen.
     for (const int signal : terminateRequest) {
       kill(member, signal);
     }
   }
 }
 
-/// The session of a process is asked for, not read in its folder: one look at every process of a
-/// busy machine takes a millisecond instead of many. Its leader is known without a look, which may
-/// be impossible for want of descriptors.
+/// Asks `getsid` instead of reading each /proc/PID/stat: a millisecond for all processes of a busy
+/// machine instead of many. The leader is listed even where /proc cannot be opened for lack of
+/// descriptors.
 std::vector<pid_t> membersOfSession(pid_t session) {
   std::vector<pid_t> members = {session};
   std::error_code error;
@@ -205,8 +205,8 @@ bool ChildProcess::hasExited() const {
 }
 
 void ChildProcess::terminateSession() const {
-  // The session may start further processes while it is being read, so it is read again until it
-  // holds no new one. The bound is for a session that starts processes faster than we look.
+  // The session may start processes while it is being read, so it is read again until there is no
+  // new one. The bound is for a session that starts processes faster than we read.
   constexpr int mostRounds = 50;
   std::set<pid_t> asked;
   for (int round = 0; round < mostRounds; ++round) {

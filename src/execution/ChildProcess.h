@@ -12,10 +12,9 @@
 
 namespace quillmere {
 
-/// One child process in a session of its own. Its standard input is the null device, so that a
-/// question fails at once instead of hanging; being in a session without a terminal, so does a
-/// password prompt. It has default signal dispositions and none of our descriptors. Owned and used
-/// by one thread.
+/// One child process in a session of its own. Its standard input is the null device and its session
+/// has no terminal, so that a question or a password prompt fails at once instead of hanging. It
+/// has default signal dispositions and none of our descriptors. Owned and used by one thread.
 class ChildProcess {
  public:
   struct Launch {

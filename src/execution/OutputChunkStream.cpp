@@ -7,8 +7,8 @@
 
 namespace quillmere {
 
-/// Lives on the consumer's thread, so that a producer can post to it without asking whether the
-/// consumer is still there; only the consumer's own thread asks that.
+/// Lives on the consumer's thread. Producers post to it and not to the consumer, because only the
+/// consumer's own thread can tell whether the consumer still exists.
 struct OutputChunkStream::Consumer : QObject {
   Consumer(QObject* owner, std::function<void()> call) : object(owner), notify(std::move(call)) {}
 
@@ -50,8 +50,8 @@ void OutputChunkStream::wake() {
   if (!consumer_ || std::exchange(consumer_->isCalled, true)) {
     return;
   }
-  // A call that is never carried out is dropped while the application ends, under the lock of the
-  // queue that the end of a stream has to post to: it must not be what a stream lives by.
+  // Weak: at exit Qt drops queued calls while holding the event-queue lock. If that released the
+  // last reference to the stream, its consumer's `deleteLater` would try to take the same lock.
   const auto call = [weak = weak_from_this()] {
     const auto stream = weak.lock();
     if (!stream) {

@@ -23,12 +23,12 @@ class OutputChunkStream : public std::enable_shared_from_this<OutputChunkStream>
   /// Says that no chunk will follow. Any thread; later calls do nothing.
   void finish();
 
-  /// Calls `onChunksWaiting` on the thread of `consumer` whenever chunks wait to be taken, and once
-  /// when the stream has finished; never again once `consumer` is gone. However many chunks arrive
-  /// meanwhile, at most one call is under way, so that a flood cannot drown an event loop.
+  /// Must be called on the thread of `consumer`. `onChunksWaiting` is called there whenever chunks
+  /// wait to be taken, and once when the stream has finished; never again once `consumer` is gone.
+  /// At most one call is queued at a time, so that much output cannot flood the event loop.
   void consume(QObject* consumer, std::function<void()> onChunksWaiting);
 
-  /// All chunks that wait, in order.
+  /// All chunks that wait, in order. Any thread.
   [[nodiscard]] Chunks take();
 
  private:

@@ -19,10 +19,10 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-// How long a pipe that someone else still holds is listened to after the child's exit. All that the
-// child wrote is in the pipe by then; this is for the last words of what it started.
+// How long to read on after the child's exit while another process still holds a pipe. The child's
+// own output is in the pipe by then; this is for the last output of the processes it started.
 constexpr auto graceAfterExit = 500ms;
-// How often the child is looked at where the system offers no descriptor to wait for.
+// How often to check for the child's exit where the system has no descriptor to wait for.
 constexpr auto exitPollInterval = 50ms;
 
 std::unexpected<DirectCommandRunnerError> systemFailure(std::error_code error) {
@@ -36,7 +36,7 @@ QString valueOrUnset(const Environment& environment, const std::string& name) {
 }
 
 pollfd listenTo(const FileDescriptor& fd) {
-  // A negative descriptor is passed over, so that a closed one needs no case of its own.
+  // `poll` skips a negative descriptor, so that a closed one needs no case of its own.
   return {.fd = fd.get(), .events = POLLIN, .revents = 0};
 }
 
@@ -140,7 +140,7 @@ DirectCommandOutcome ProcessDirectCommandExecution::launchAndFollow() {
     logger_.log(QStringLiteral(
         "Cancellation requested before process launch. Closing Direct session stream."));
     output_->finish();
-    // Tells a child that never ran from every exit status that one could have.
+    // No child's exit status can be negative.
     constexpr std::int32_t neverLaunched = -1;
     return makeResult(neverLaunched);
   }
@@ -192,7 +192,7 @@ void ProcessDirectCommandExecution::followUntilExit(const ChildProcess& child) {
     }
   }
   if (cancellationState_.isCancelled()) {
-    // What the child started between the request and its own end has not heard of it yet.
+    // Again, for processes that the child started between the first request and its own exit.
     child.terminateSession();
   }
 }

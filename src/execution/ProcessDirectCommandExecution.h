@@ -65,8 +65,8 @@ class ProcessDirectCommandExecution
   StreamingFileHandleDataReader standardOutputReader_;
   StreamingFileHandleDataReader standardErrorReader_;
   ProcessCancellationState cancellationState_;
-  /// Wakes the run's thread when the run is cancelled: only that thread sends requests to the
-  /// child, so that none can reach a process that took its number.
+  /// Wakes the run's thread when the run is cancelled. Only that thread signals the child, because
+  /// only it knows that the child is not reaped yet and its number not reused.
   FileDescriptor cancelSignal_;
   std::optional<SecurityScopedAccess> access_;
   QPromise<DirectCommandOutcome> promise_;

@@ -5,7 +5,7 @@
 
 namespace quillmere {
 
-/// Owns one open file descriptor, or none.
+/// Owns one open file descriptor, or none. Used by one thread at a time.
 class FileDescriptor {
  public:
   FileDescriptor() = default;

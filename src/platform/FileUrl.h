@@ -3,6 +3,8 @@
 #include <QtCore/QString>
 #include <QtCore/QUrl>
 
+// All of these are pure; any thread, also while the program ends.
+
 namespace quillmere {
 
 /// A file URL for a path of this machine; every character of the path is meant as itself.

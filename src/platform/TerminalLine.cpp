@@ -6,7 +6,10 @@
 namespace quillmere {
 namespace {
 
+/// How far the cursor can move beyond the text.
 constexpr qsizetype maxBlanks = 512;
+/// A longer character takes no more marks once another was written: moving it in the pool for each
+/// mark would cost the square of their number.
 constexpr qsizetype maxMovedLength = 32;
 
 }  // namespace
