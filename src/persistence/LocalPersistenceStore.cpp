@@ -2,17 +2,11 @@
 
 #include <QCoroFuture>
 #include <QtConcurrent/QtConcurrentRun>
-#include <QtCore/QDir>
-#include <QtCore/QFile>
-#include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtCore/QRunnable>
-#include <QtCore/QStandardPaths>
 
-#include <cstdio>
 #include <utility>
 
-#include "platform/AtomicFile.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/FileUrl.h"
 #include "platform/PrivateFile.h"
@@ -64,18 +58,6 @@ QVariant toVariant(const std::optional<T>& value) {
   return value ? QVariant(*value) : QVariant();
 }
 
-bool isReadableFile(const QString& path) {
-  // A pipe by that name would keep open() waiting.
-  return QFileInfo(path).isFile() && QFile(path).open(QIODevice::ReadOnly);
-}
-
-/// A document that could not be written is downloaded again: there is nothing to tell anybody.
-void replaceCacheFile(const QString& path, const QByteArray& document) {
-  if (QDir().mkpath(QFileInfo(path).path())) {
-    (void)replaceFile(path, document);
-  }
-}
-
 }  // namespace
 
 LocalPersistenceStore::LocalPersistenceStore(
@@ -85,14 +67,11 @@ LocalPersistenceStore::LocalPersistenceStore(
       defaults_(std::move(defaults)),
       settingsFile_(*defaults_),
       sharedHistory_(std::make_shared<SharedHistory>(settingsFile_)),
-      cacheDirectoryURL_(std::move(cacheDirectoryURL)),
-      bookmarks_(std::move(bookmarks)) {
-  cacheWriter_.setMaxThreadCount(1);
+      bookmarks_(std::move(bookmarks)),
+      catalogCache_(std::move(cacheDirectoryURL)) {
   settingsWriter_.setMaxThreadCount(1);
-  // Earlier versions left them to everybody's eyes.
+  // Earlier versions left it to everybody's eyes.
   restrictToOwner(settingsFile_.name());
-  restrictToOwner(filePath(formulaCacheURL()));
-  restrictToOwner(filePath(caskCacheURL()));
   // What the user has reset must not come back out of settings of the whole machine.
   defaults_->setFallbacksEnabled(false);
   load();
@@ -101,14 +80,6 @@ LocalPersistenceStore::LocalPersistenceStore(
 }
 
 LocalPersistenceStore::~LocalPersistenceStore() = default;
-
-QUrl LocalPersistenceStore::defaultCacheDirectoryURL() {
-  QString base = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
-  if (base.isEmpty()) {
-    base = QDir::tempPath();
-  }
-  return appendingPath(fileUrl(base), u"Quillmere/CatalogCache/");
-}
 
 void LocalPersistenceStore::load() {
   hasCompletedOnboarding_ = flagOf(*defaults_, keys::onboarding);
@@ -160,8 +131,8 @@ void LocalPersistenceStore::write(QLatin1StringView key, const T& value) {
 
 void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file) {
   const auto document = valueOf<QByteArray>(*defaults_, oldKey);
-  if (document && !isReadableFile(filePath(file))) {
-    writeCacheFile(document, file);
+  if (document) {
+    catalogCache_.adopt(*document, file);
   }
   if (defaults_->contains(oldKey)) {
     write(oldKey, std::optional<QByteArray>());
@@ -248,26 +219,6 @@ QCoro::Task<> LocalPersistenceStore::takeOver(QFuture<std::optional<CommandHisto
   show(commandHistory_, history, &LocalPersistenceStore::commandHistoryChanged);
 }
 
-QUrl LocalPersistenceStore::formulaCacheURL() const {
-  return appendingPath(cacheDirectoryURL_, u"formula.json");
-}
-
-QUrl LocalPersistenceStore::caskCacheURL() const {
-  return appendingPath(cacheDirectoryURL_, u"cask.json");
-}
-
-bool LocalPersistenceStore::hasCachedFormulaCatalog() const {
-  return QFile::exists(filePath(formulaCacheURL()));
-}
-
-bool LocalPersistenceStore::hasCachedCaskCatalog() const {
-  return QFile::exists(filePath(caskCacheURL()));
-}
-
-bool LocalPersistenceStore::hasReadableCatalogCache() const {
-  return isReadableFile(filePath(formulaCacheURL())) || isReadableFile(filePath(caskCacheURL()));
-}
-
 QCoro::Task<> LocalPersistenceStore::saveFormulaCatalog(QByteArray document,
                                                         QDateTime refreshedAt) {
   return saveCatalog(std::move(document), formulaCacheURL(), std::move(refreshedAt));
@@ -280,37 +231,11 @@ QCoro::Task<> LocalPersistenceStore::saveCaskCatalog(QByteArray document, QDateT
 QCoro::Task<> LocalPersistenceStore::saveCatalog(QByteArray document, QUrl file,
                                                  QDateTime refreshedAt) {
   const QPointer<LocalPersistenceStore> self(this);
-  const int clearedCaches = clearedCaches_;
-  const QFuture<void> writing =
-      QtConcurrent::run(&cacheWriter_, &replaceCacheFile, filePath(file), std::move(document));
-  co_await writing;
-  if (!self) {
-    co_return;
-  }
-  if (clearedCaches != clearedCaches_) {
-    writeCacheFile(std::nullopt, file);
-    co_return;
-  }
-  setCatalogLastRefreshDate(refreshedAt);
-  Q_EMIT catalogCacheChanged();
-}
-
-void LocalPersistenceStore::writeCacheFile(const std::optional<QByteArray>& bytes,
-                                           const QUrl& file) {
-  if (bytes) {
-    replaceCacheFile(filePath(file), *bytes);
-  } else {
-    removeCacheFile(filePath(file));
-  }
-}
-
-/// A file of many megabytes takes longer than a frame to go. Another name takes no time; one that
-/// is left under it by a crash is replaced by the next.
-void LocalPersistenceStore::removeCacheFile(const QString& path) {
-  const QString aside = path + ".cleared"_L1;
-  // One that stays is written over by the next.
-  if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(aside).constData()) == 0) {
-    cacheWriter_.start(QRunnable::create([aside] { (void)QFile::remove(aside); }));
+  auto saving = catalogCache_.save(std::move(document), std::move(file));
+  const bool isKept = co_await saving;
+  if (self && isKept) {
+    setCatalogLastRefreshDate(refreshedAt);
+    Q_EMIT catalogCacheChanged();
   }
 }
 
@@ -346,10 +271,8 @@ void LocalPersistenceStore::renewBookmark(const QUrl& folder) {
 }
 
 void LocalPersistenceStore::clearCacheMarkers() {
-  ++clearedCaches_;
   setCatalogLastRefreshDate(std::nullopt);
-  writeCacheFile(std::nullopt, formulaCacheURL());
-  writeCacheFile(std::nullopt, caskCacheURL());
+  catalogCache_.clear();
   Q_EMIT catalogCacheChanged();
 }
 

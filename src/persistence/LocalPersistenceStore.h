@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 
+#include "persistence/CatalogCache.h"
 #include "persistence/CommandHistory.h"
 #include "persistence/SettingsFile.h"
 #include "persistence/SharedHistory.h"
@@ -37,8 +38,9 @@ class LocalPersistenceStore : public QObject {
       QObject* parent = nullptr);
   ~LocalPersistenceStore() override;
 
-  /// "Quillmere/CatalogCache" under the user's application data.
-  [[nodiscard]] static QUrl defaultCacheDirectoryURL();
+  [[nodiscard]] static QUrl defaultCacheDirectoryURL() {
+    return CatalogCache::defaultDirectoryURL();
+  }
 
   [[nodiscard]] bool hasCompletedOnboarding() const { return hasCompletedOnboarding_; }
 
@@ -77,24 +79,28 @@ class LocalPersistenceStore : public QObject {
 
   void setCommandHistory(const CommandHistory& history);
 
-  [[nodiscard]] const QUrl& cacheDirectoryURL() const { return cacheDirectoryURL_; }
+  // The cached catalog documents, as `CatalogCache` keeps them.
 
-  [[nodiscard]] QUrl formulaCacheURL() const;
-  [[nodiscard]] QUrl caskCacheURL() const;
+  [[nodiscard]] const QUrl& cacheDirectoryURL() const { return catalogCache_.directoryURL(); }
 
-  [[nodiscard]] bool hasCachedFormulaCatalog() const;
-  [[nodiscard]] bool hasCachedCaskCatalog() const;
-  /// Whether a document of the cache can be read, so that there is something to forget.
-  [[nodiscard]] bool hasReadableCatalogCache() const;
+  [[nodiscard]] QUrl formulaCacheURL() const { return catalogCache_.formulaURL(); }
 
-  /// Writes the document as it was downloaded, on a thread of the store's own, and then records
-  /// when, even where the write failed. Where the cache is cleared meanwhile it stays cleared. A
-  /// write that has begun is finished before the store is gone.
+  [[nodiscard]] QUrl caskCacheURL() const { return catalogCache_.caskURL(); }
+
+  [[nodiscard]] bool hasCachedFormulaCatalog() const { return catalogCache_.hasFormulae(); }
+
+  [[nodiscard]] bool hasCachedCaskCatalog() const { return catalogCache_.hasCasks(); }
+
+  [[nodiscard]] bool hasReadableCatalogCache() const { return catalogCache_.isReadable(); }
+
+  /// Writes the document without holding up the caller, and then records when, even where the write
+  /// failed. Where the cache is cleared meanwhile it stays cleared.
   QCoro::Task<> saveFormulaCatalog(QByteArray document, QDateTime refreshedAt);
   QCoro::Task<> saveCaskCatalog(QByteArray document, QDateTime refreshedAt);
-  /// Replaces a file of the cache, making its folder first, or removes it when there are no bytes.
-  /// Blocks on the disk while it writes.
-  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file);
+
+  void writeCacheFile(const std::optional<QByteArray>& bytes, const QUrl& file) {
+    catalogCache_.write(bytes, file);
+  }
 
   /// Remembers a folder that the user chose: its path and a bookmark of it. Another folder than
   /// before has not been scanned yet, so that the scan date goes.
@@ -143,7 +149,6 @@ class LocalPersistenceStore : public QObject {
   QCoro::Task<> takeOver(QFuture<std::optional<CommandHistory>> reading);
   void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
   void renewBookmark(const QUrl& folder);
-  void removeCacheFile(const QString& path);
   QCoro::Task<> saveCatalog(QByteArray document, QUrl file, QDateTime refreshedAt);
   template <typename T>
   void show(T& property, const T& value, ChangeSignal changed);
@@ -158,7 +163,6 @@ class LocalPersistenceStore : public QObject {
   /// For one thread at a time: the one that reads a long history, then the one that writes
   /// settings.
   std::shared_ptr<SharedHistory> sharedHistory_;
-  QUrl cacheDirectoryURL_;
   std::shared_ptr<const SecurityScopedBookmarks> bookmarks_;
   bool hasCompletedOnboarding_ = false;
   std::optional<QString> selectedHomebrewPrefixPath_;
@@ -171,11 +175,9 @@ class LocalPersistenceStore : public QObject {
   /// Count what was done here, so that what others did goes behind it.
   int replacedHistories_ = 0;
   qsizetype appendedRecords_ = 0;
-  /// Counts how often the cache was cleared.
-  int clearedCaches_ = 0;
-  /// One thread each, so that writes keep their order; their ends wait for them. A setting does not
-  /// wait for a document of many megabytes.
-  QThreadPool cacheWriter_;
+  /// Has a thread of its own: a setting does not wait for a document of many megabytes.
+  CatalogCache catalogCache_;
+  /// One thread, so that writes keep their order; its end waits for them.
   QThreadPool settingsWriter_;
 };
 

@@ -1,6 +1,7 @@
 #include <QCoroTask>
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
+#include <QtCore/QThread>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -89,6 +90,29 @@ TEST_F(CatalogCache, StaysClearedWhereItIsClearedDuringAWrite) {
   QCoro::waitFor(saving);
   EXPECT_FALSE(store->hasCachedCaskCatalog());
   EXPECT_EQ(store->catalogLastRefreshDate(), std::nullopt);
+}
+
+TEST_F(CatalogCache, StaysClearedWhereTheStoreGoesDuringTheWrite) {
+  auto store = start();
+  const auto saving = store->saveFormulaCatalog(QByteArray(8'000'000, ' '), monday);
+  store->clearCacheMarkers();
+  store.reset();
+  EXPECT_FALSE(QFile::exists(cacheFile(u"formula.json"_s)));
+}
+
+TEST_F(CatalogCache, KeepsADocumentSavedAfterItWasCleared) {
+  const auto store = start();
+  auto before = store->saveFormulaCatalog("[1]", monday);
+  store->clearCacheMarkers();
+  auto after = store->saveFormulaCatalog("[2]", friday);
+  // Only after both writes does the event loop hear of the first.
+  while (contentOf(u"formula.json"_s) != "[2]") {
+    QThread::yieldCurrentThread();
+  }
+  QCoro::waitFor(before);
+  QCoro::waitFor(after);
+  EXPECT_EQ(contentOf(u"formula.json"_s), "[2]");
+  EXPECT_EQ(store->catalogLastRefreshDate(), friday);
 }
 
 TEST_F(CatalogCache, LeavesNothingBehindWhereItWasCleared) {
