@@ -157,7 +157,9 @@ void ContentViewModel::openInstalledPackage(const InstalledPackageSummary& packa
 
 void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& name) {
   if (const PackageCatalogSnapshot catalog = catalog_.state().catalog()) {
-    const SharedText id(QStringView(QStringLiteral("formula:") + name));
+    SharedTextBuilder texts;
+    const SharedText id =
+        packageId(HomebrewPackageSummary::Kind::formula, name.toStdString(), texts);
     const auto found = std::ranges::find(catalog->packages(), id, &HomebrewPackageSummary::id);
     if (found != catalog->packages().end()) {
       openCatalogPackage(*found);

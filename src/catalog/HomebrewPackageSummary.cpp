@@ -5,9 +5,13 @@
 namespace quillmere {
 namespace {
 
+constexpr std::string_view leadOf(HomebrewPackageSummary::Kind kind) {
+  return kind == HomebrewPackageSummary::Kind::formula ? "formula:" : "cask:";
+}
+
 HomebrewPackageSummary summaryOf(HomebrewFormula&& formula, SharedTextBuilder& texts) {
   return {
-      .id = texts.add("formula:", formula.name.view()),
+      .id = packageId(HomebrewPackageSummary::Kind::formula, formula.name.view(), texts),
       .kind = HomebrewPackageSummary::Kind::formula,
       .name = std::move(formula.name),
       .description = std::move(formula.description),
@@ -22,9 +26,9 @@ HomebrewPackageSummary summaryOf(HomebrewFormula&& formula, SharedTextBuilder& t
 
 HomebrewPackageSummary summaryOf(HomebrewCask&& cask, SharedTextBuilder& texts) {
   return {
-      .id = texts.add("cask:", cask.token.view()),
+      .id = packageId(HomebrewPackageSummary::Kind::cask, cask.token.view(), texts),
       .kind = HomebrewPackageSummary::Kind::cask,
-      .name = std::move(cask.names.empty() ? cask.token : cask.names.front()),
+      .name = shownName(cask),
       .description = std::move(cask.description),
       .version = std::move(cask.version),
       .alternateVersion = std::nullopt,
@@ -47,6 +51,24 @@ std::vector<HomebrewPackageSummary> summariesOf(std::vector<Record>&& records) {
 }
 
 }  // namespace
+
+SharedText packageId(HomebrewPackageSummary::Kind kind, std::string_view name,
+                     SharedTextBuilder& texts) {
+  return texts.add(leadOf(kind), name);
+}
+
+std::string_view nameInPackageId(HomebrewPackageSummary::Kind kind, const SharedText& id) {
+  const std::string_view lead = leadOf(kind);
+  std::string_view name = id.view();
+  if (name.starts_with(lead)) {
+    name.remove_prefix(lead.size());
+  }
+  return name;
+}
+
+const SharedText& shownName(const HomebrewCask& cask) {
+  return cask.names.empty() ? cask.token : cask.names.front();
+}
 
 QLatin1StringView displayLabel(HomebrewPackageSummary::Kind kind) {
   return kind == HomebrewPackageSummary::Kind::formula ? QLatin1StringView("Formula")

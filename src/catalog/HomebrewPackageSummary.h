@@ -3,6 +3,7 @@
 #include <QtCore/QLatin1StringView>
 
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "catalog/HomebrewCask.h"
@@ -17,7 +18,7 @@ namespace quillmere {
 struct HomebrewPackageSummary {
   enum class Kind { formula, cask };
 
-  /// "formula:" or "cask:" and the formula's name or the cask's token: the two may share a name.
+  /// As `packageId` makes it.
   SharedText id;
   Kind kind = Kind::formula;
   SharedText name;
@@ -37,6 +38,19 @@ struct HomebrewPackageSummary {
     return qHash(summary.id, seed);
   }
 };
+
+/// The identity of a package: "formula:" or "cask:", because the two may share a name, and `name`,
+/// which is the formula's name or the cask's token. Pure; any thread.
+[[nodiscard]] SharedText packageId(HomebrewPackageSummary::Kind kind, std::string_view name,
+                                   SharedTextBuilder& texts);
+
+/// The name or token in an identity that `packageId` made for a package of this kind; a view of
+/// `id`. Pure; any thread.
+[[nodiscard]] std::string_view nameInPackageId(HomebrewPackageSummary::Kind kind,
+                                               const SharedText& id);
+
+/// What a cask is called: its first name, or its token where it has none. A member of `cask`.
+[[nodiscard]] const SharedText& shownName(const HomebrewCask& cask);
 
 /// "Formula" or "Cask".
 [[nodiscard]] QLatin1StringView displayLabel(HomebrewPackageSummary::Kind kind);

@@ -43,7 +43,7 @@ std::vector<SharedText> added(SharedTextBuilder& texts, const QStringList& list)
 InstalledPackageSummary summaryOf(const InstalledFormula& formula, SharedTextBuilder& texts) {
   InstalledPackageSummary summary;
   summary.name = added(texts, formula.name);
-  summary.id = texts.add("formula:", summary.name.view());
+  summary.id = packageId(HomebrewPackageSummary::Kind::formula, summary.name.view(), texts);
   summary.kind = HomebrewPackageSummary::Kind::formula;
   summary.installedVersions = added(texts, formula.installedVersions);
   summary.installedVersion = added(texts, formula.currentVersion);
@@ -63,16 +63,13 @@ InstalledPackageSummary summaryOf(const InstalledFormula& formula, SharedTextBui
 InstalledPackageSummary summaryOf(const InstalledCask& cask, SharedTextBuilder& texts) {
   const SharedText token = added(texts, cask.token);
   InstalledPackageSummary summary;
-  summary.id = texts.add("cask:", token.view());
+  summary.id = packageId(HomebrewPackageSummary::Kind::cask, token.view(), texts);
   summary.kind = HomebrewPackageSummary::Kind::cask;
-  summary.name = token;
   summary.installedVersions = added(texts, cask.installedVersions);
   summary.installedVersion = added(texts, cask.currentVersion);
   summary.detail = texts.add("Cask token: ", token.view());
+  summary.name = cask.catalogCask ? shownName(*cask.catalogCask) : token;
   if (const auto& known = cask.catalogCask) {
-    if (!known->names.empty()) {
-      summary.name = known->names.front();
-    }
     summary.description = known->description;
     summary.latestKnownVersion = known->version;
     summary.homepage = known->homepage;

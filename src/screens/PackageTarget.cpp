@@ -4,18 +4,14 @@ namespace quillmere {
 
 std::expected<BrewCommandTarget, BrewCommandBuilderError> packageTarget(
     HomebrewPackageSummary::Kind kind, const SharedText& id) {
-  const bool isFormula = kind == HomebrewPackageSummary::Kind::formula;
-  const QString lead = isFormula ? QStringLiteral("formula:") : QStringLiteral("cask:");
-  QString name = id.toString();
-  if (name.startsWith(lead)) {
-    name.remove(0, lead.size());
-  }
+  const QString name = QString::fromUtf8(nameInPackageId(kind, id));
   if (!couldBePackage(name)) {
     return std::unexpected(BrewCommandBuilderError{name});
   }
-  return BrewCommandTarget{
-      .kind = isFormula ? BrewCommandTargetKind::formula : BrewCommandTargetKind::cask,
-      .name = name};
+  return BrewCommandTarget{.kind = kind == HomebrewPackageSummary::Kind::formula
+                                       ? BrewCommandTargetKind::formula
+                                       : BrewCommandTargetKind::cask,
+                           .name = name};
 }
 
 }  // namespace quillmere

@@ -83,6 +83,14 @@ TEST(HomebrewPackageSummary, TellsAFormulaFromACaskOfTheSameName) {
   EXPECT_EQ(set.size(), 2);
 }
 
+TEST(HomebrewPackageSummary, KeepsItsNameOrTokenInItsId) {
+  SharedTextBuilder texts;
+  const SharedText formula = packageId(Kind::formula, "formula:odd", texts);
+  EXPECT_EQ(formula, "formula:formula:odd");
+  EXPECT_EQ(nameInPackageId(Kind::formula, formula), "formula:odd");
+  EXPECT_EQ(nameInPackageId(Kind::cask, packageId(Kind::cask, "firefox", texts)), "firefox");
+}
+
 TEST(HomebrewPackageSummary, NamesItsKind) {
   EXPECT_EQ(displayLabel(Kind::formula), QLatin1StringView("Formula"));
   EXPECT_EQ(displayLabel(Kind::cask), QLatin1StringView("Cask"));
