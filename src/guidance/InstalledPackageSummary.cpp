@@ -1,8 +1,5 @@
 #include "guidance/InstalledPackageSummary.h"
 
-#include <algorithm>
-#include <iterator>
-
 #include "platform/NameOrdering.h"
 
 namespace quillmere {
@@ -80,16 +77,6 @@ InstalledPackageSummary summaryOf(const InstalledCask& cask, SharedTextBuilder& 
 }
 
 }  // namespace
-
-InstalledPackageSummary installedPackageSummary(const InstalledFormula& formula) {
-  SharedTextBuilder texts;
-  return summaryOf(formula, texts);
-}
-
-InstalledPackageSummary installedPackageSummary(const InstalledCask& cask) {
-  SharedTextBuilder texts;
-  return summaryOf(cask, texts);
-}
 
 std::vector<InstalledPackageSummary> installedPackageSummaries(
     const std::vector<InstalledFormula>& formulae, const std::vector<InstalledCask>& casks) {

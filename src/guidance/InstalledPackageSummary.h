@@ -42,9 +42,6 @@ struct InstalledPackageSummary {
   }
 };
 
-[[nodiscard]] InstalledPackageSummary installedPackageSummary(const InstalledFormula& formula);
-[[nodiscard]] InstalledPackageSummary installedPackageSummary(const InstalledCask& cask);
-
 /// The whole inventory, ordered by name; of a formula and a cask with equal names the formula comes
 /// first. Pure; any thread.
 [[nodiscard]] std::vector<InstalledPackageSummary> installedPackageSummaries(

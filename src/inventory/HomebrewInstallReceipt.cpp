@@ -67,8 +67,4 @@ std::optional<HomebrewInstallReceipt> HomebrewInstallReceiptReader::read(QByteAr
   return parser_->read(json, !isPadded);
 }
 
-std::optional<HomebrewInstallReceipt> HomebrewInstallReceipt::fromJson(QByteArrayView json) {
-  return HomebrewInstallReceiptReader().read(QByteArray::fromRawData(json.data(), json.size()));
-}
-
 }  // namespace quillmere

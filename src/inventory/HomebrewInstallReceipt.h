@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QtCore/QByteArray>
-#include <QtCore/QByteArrayView>
 
 #include <memory>
 #include <optional>
@@ -14,12 +13,6 @@ struct HomebrewInstallReceipt {
   std::optional<bool> installedOnRequest;
 
   bool operator==(const HomebrewInstallReceipt&) const = default;
-
-  /// Absent when `json` is no receipt: not a JSON object in UTF-8, or one whose
-  /// "installed_on_request" is neither a truth value nor null. Other keys may hold anything that
-  /// fits a JSON reader: no number beyond 64 bits, nothing a thousand levels deep. Pure; any
-  /// thread.
-  [[nodiscard]] static std::optional<HomebrewInstallReceipt> fromJson(QByteArrayView json);
 };
 
 /// Reads one receipt after another and keeps its working memory in between. For one thread at a
@@ -31,8 +24,10 @@ class HomebrewInstallReceiptReader {
   HomebrewInstallReceiptReader(const HomebrewInstallReceiptReader&) = delete;
   HomebrewInstallReceiptReader& operator=(const HomebrewInstallReceiptReader&) = delete;
 
-  /// As `HomebrewInstallReceipt::fromJson`. Text with `readAheadPadding` of capacity behind it is
-  /// read where it stands.
+  /// Absent when `json` is no receipt: not a JSON object in UTF-8, or one whose
+  /// "installed_on_request" is neither a truth value nor null. Other keys may hold anything that
+  /// fits a JSON reader: no number beyond 64 bits, nothing a thousand levels deep. Text with
+  /// `readAheadPadding` of capacity behind it is read where it stands.
   [[nodiscard]] std::optional<HomebrewInstallReceipt> read(QByteArray json);
 
  private:

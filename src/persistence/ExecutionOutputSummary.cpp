@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/TextLines.h"
+#include "platform/AbbreviatedText.h"
 
 namespace quillmere {
 namespace {

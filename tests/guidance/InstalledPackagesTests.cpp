@@ -47,8 +47,16 @@ InstalledCask firefox() {
                            .artifacts = texts({"app", "zap"})}};
 }
 
+InstalledPackageSummary summaryOf(const InstalledFormula& formula) {
+  return installedPackageSummaries({formula}, {}).front();
+}
+
+InstalledPackageSummary summaryOf(const InstalledCask& cask) {
+  return installedPackageSummaries({}, {cask}).front();
+}
+
 TEST(InstalledPackageSummary, JoinsAFormulaWithItsRecord) {
-  EXPECT_EQ(installedPackageSummary(wget()),
+  EXPECT_EQ(summaryOf(wget()),
             (InstalledPackageSummary{
                 .id = text("formula:wget"),
                 .kind = Kind::formula,
@@ -69,7 +77,7 @@ TEST(InstalledPackageSummary, KnowsOfAFormulaWithoutRecordWhatIsOnTheDisk) {
   InstalledFormula formula = wget();
   formula.catalogFormula.reset();
   formula.installReason = Reason::dependency;
-  EXPECT_EQ(installedPackageSummary(formula),
+  EXPECT_EQ(summaryOf(formula),
             (InstalledPackageSummary{.id = text("formula:wget"),
                                      .kind = Kind::formula,
                                      .name = text("wget"),
@@ -80,15 +88,15 @@ TEST(InstalledPackageSummary, KnowsOfAFormulaWithoutRecordWhatIsOnTheDisk) {
 
 TEST(InstalledPackageSummary, SaysHowAFormulaCameToBeInstalled) {
   InstalledFormula formula = wget();
-  EXPECT_EQ(installedPackageSummary(formula).detail, text("Installed on request"));
+  EXPECT_EQ(summaryOf(formula).detail, text("Installed on request"));
   formula.installReason = Reason::dependency;
-  EXPECT_EQ(installedPackageSummary(formula).detail, text("Installed as dependency"));
+  EXPECT_EQ(summaryOf(formula).detail, text("Installed as dependency"));
   formula.installReason = Reason::unknown;
-  EXPECT_EQ(installedPackageSummary(formula).detail, text("Install reason unknown"));
+  EXPECT_EQ(summaryOf(formula).detail, text("Install reason unknown"));
 }
 
 TEST(InstalledPackageSummary, JoinsACaskWithItsRecord) {
-  EXPECT_EQ(installedPackageSummary(firefox()),
+  EXPECT_EQ(summaryOf(firefox()),
             (InstalledPackageSummary{
                 .id = text("cask:firefox"),
                 .kind = Kind::cask,
@@ -108,38 +116,35 @@ TEST(InstalledPackageSummary, JoinsACaskWithItsRecord) {
 TEST(InstalledPackageSummary, NamesACaskByItsTokenWhereNothingElseIsKnown) {
   InstalledCask cask = firefox();
   cask.catalogCask->names.clear();
-  EXPECT_EQ(installedPackageSummary(cask).name, text("firefox"));
-  EXPECT_EQ(installedPackageSummary(cask).latestKnownVersion, text("154.0"));
+  EXPECT_EQ(summaryOf(cask).name, text("firefox"));
+  EXPECT_EQ(summaryOf(cask).latestKnownVersion, text("154.0"));
   cask.catalogCask.reset();
-  EXPECT_EQ(installedPackageSummary(cask),
-            (InstalledPackageSummary{.id = text("cask:firefox"),
-                                     .kind = Kind::cask,
-                                     .name = text("firefox"),
-                                     .installedVersions = texts({"153.0"}),
-                                     .installedVersion = text("153.0"),
-                                     .detail = text("Cask token: firefox")}));
+  EXPECT_EQ(summaryOf(cask), (InstalledPackageSummary{.id = text("cask:firefox"),
+                                                      .kind = Kind::cask,
+                                                      .name = text("firefox"),
+                                                      .installedVersions = texts({"153.0"}),
+                                                      .installedVersion = text("153.0"),
+                                                      .detail = text("Cask token: firefox")}));
 }
 
 TEST(InstalledPackageSummary, HasTheIdOfTheCatalogRow) {
   const HomebrewFormula formula = *wget().catalogFormula;
   const HomebrewCask cask = *firefox().catalogCask;
-  EXPECT_EQ(installedPackageSummary(wget()).id, packageSummaries(std::vector{formula})[0].id);
-  EXPECT_EQ(installedPackageSummary(firefox()).id, packageSummaries(std::vector{cask})[0].id);
+  EXPECT_EQ(summaryOf(wget()).id, packageSummaries(std::vector{formula})[0].id);
+  EXPECT_EQ(summaryOf(firefox()).id, packageSummaries(std::vector{cask})[0].id);
 }
 
 TEST(InstalledPackageSummary, KeepsVersionsInTheOrderOfTheScan) {
   InstalledFormula formula = wget();
   formula.installedVersions = {u"2"_s, u"10"_s, u"1"_s};
   formula.currentVersion.reset();
-  EXPECT_EQ(installedPackageSummary(formula).installedVersions, texts({"2", "10", "1"}));
-  EXPECT_EQ(installedPackageSummary(formula).installedVersion, std::nullopt);
+  EXPECT_EQ(summaryOf(formula).installedVersions, texts({"2", "10", "1"}));
+  EXPECT_EQ(summaryOf(formula).installedVersion, std::nullopt);
 }
 
 TEST(InstalledPackageSummary, CanBeKeptInASet) {
-  const auto formula = installedPackageSummary(wget());
-  EXPECT_EQ(
-      QSet<InstalledPackageSummary>({formula, installedPackageSummary(firefox()), formula}).size(),
-      2);
+  const auto formula = summaryOf(wget());
+  EXPECT_EQ(QSet<InstalledPackageSummary>({formula, summaryOf(firefox()), formula}).size(), 2);
 }
 
 TEST(InstalledPackageSummary, ComesBeforeAnotherByItsNameAlone) {

@@ -1,44 +1,11 @@
-#include <QtCore/QStringList>
-
 #include <gtest/gtest.h>
 
-#include "platform/TextLines.h"
+#include "platform/AbbreviatedText.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-QStringList linesOf(const QString& text) {
-  QStringList lines;
-  for (const QStringView line : trimmedLines(text)) {
-    lines += line.toString();
-  }
-  return lines;
-}
-
-TEST(TrimmedLines, EndsALineAtEveryLineBreak) {
-  const QStringList expected{u"one"_s, u"two"_s};
-  for (const QString& lineBreak :
-       {u"\n"_s, u"\r"_s, u"\r\n"_s, u"\v"_s, u"\f"_s, u"\u0085"_s, u"\u2028"_s, u"\u2029"_s}) {
-    EXPECT_EQ(linesOf(u"one"_s + lineBreak + u"two"_s), expected);
-  }
-}
-
-TEST(TrimmedLines, TrimsWhiteSpaceAndDropsWhatIsThenEmpty) {
-  EXPECT_EQ(linesOf(u"  one\t\n\n \u00a0\u3000\n\u2003two words \n"_s),
-            (QStringList{u"one"_s, u"two words"_s}));
-}
-
-TEST(TrimmedLines, FindsNoneInBlankText) {
-  EXPECT_TRUE(linesOf({}).isEmpty());
-  EXPECT_TRUE(linesOf(u" \n\t\r\n"_s).isEmpty());
-}
-
-TEST(TrimmedLines, PointIntoTheText) {
-  const QString text = u" one \n two "_s;
-  EXPECT_EQ(trimmedLines(text).back().data(), text.data() + 7);
-}
 
 TEST(Abbreviated, LeavesATextOfTheLimitWhole) {
   EXPECT_EQ(abbreviated({}, 3), QString());

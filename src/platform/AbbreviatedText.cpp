@@ -1,4 +1,4 @@
-#include "platform/TextLines.h"
+#include "platform/AbbreviatedText.h"
 
 #include <QtCore/QTextBoundaryFinder>
 
@@ -6,12 +6,6 @@
 
 namespace quillmere {
 namespace {
-
-constexpr bool isLineBreak(QChar character) {
-  const char16_t code = character.unicode();
-  return (code >= u'\n' && code <= u'\r') || code == u'\u0085' || code == u'\u2028' ||
-         code == u'\u2029';
-}
 
 /// Where the first `limit` grapheme clusters of `text` end; -1 where `text` has no more of them.
 qsizetype endOfClusters(QStringView text, qsizetype limit) {
@@ -24,18 +18,6 @@ qsizetype endOfClusters(QStringView text, qsizetype limit) {
 }
 
 }  // namespace
-
-std::vector<QStringView> trimmedLines(QStringView text) {
-  std::vector<QStringView> lines;
-  for (auto begin = text.begin(); begin != text.end();) {
-    const auto end = std::find_if(begin, text.end(), isLineBreak);
-    if (const QStringView line = QStringView(begin, end).trimmed(); !line.isEmpty()) {
-      lines.push_back(line);
-    }
-    begin = end == text.end() ? end : end + 1;
-  }
-  return lines;
-}
 
 QString abbreviated(const QString& text, qsizetype limit) {
   // The finder reads all that it is given, so a long text is shown to it by growing windows.
