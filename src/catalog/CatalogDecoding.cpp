@@ -175,7 +175,7 @@ std::expected<std::vector<Record>, CatalogDecodingError> decodeDocument(
     return failure(problemOf(simdjson::EMPTY));
   }
   static_assert(readAheadPadding >= qsizetype{simdjson::SIMDJSON_PADDING});
-  const bool isPadded = QByteArray(document).data_ptr().freeSpaceAtEnd() >= readAheadPadding;
+  const bool isPadded = hasReadAheadPadding(document);
   simdjson::dom::parser parser;
   simdjson::dom::element root;
   const auto error =

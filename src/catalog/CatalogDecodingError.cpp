@@ -12,13 +12,7 @@ constexpr qsizetype longestExcerpt = 80;
 }  // namespace
 
 QString quotedExcerpt(const QString& text) {
-  QString line = text.left(longestExcerpt);
-  if (line.size() < text.size()) {
-    if (line.back().isHighSurrogate()) {
-      line.chop(1);
-    }
-    line += QChar(u'\u2026');
-  }
+  QString line = shortened(text, longestExcerpt);
   std::ranges::replace_if(
       line, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; },
       QChar(u' '));

@@ -19,27 +19,22 @@ std::string_view detailOf(InstallReason reason) {
   return "Install reason unknown";
 }
 
-SharedText added(SharedTextBuilder& texts, const QString& text) {
-  const QByteArray utf8 = text.toUtf8();
-  return texts.add(std::string_view(utf8.constData(), utf8.size()));
-}
-
 std::optional<SharedText> added(SharedTextBuilder& texts, const std::optional<QString>& text) {
-  return text ? std::optional(added(texts, *text)) : std::nullopt;
+  return text ? std::optional(texts.add(*text)) : std::nullopt;
 }
 
 std::vector<SharedText> added(SharedTextBuilder& texts, const QStringList& list) {
   std::vector<SharedText> result;
   result.reserve(static_cast<std::size_t>(list.size()));
   for (const QString& text : list) {
-    result.push_back(added(texts, text));
+    result.push_back(texts.add(text));
   }
   return result;
 }
 
 InstalledPackageSummary summaryOf(const InstalledFormula& formula, SharedTextBuilder& texts) {
   InstalledPackageSummary summary;
-  summary.name = added(texts, formula.name);
+  summary.name = texts.add(formula.name);
   summary.id = packageId(HomebrewPackageSummary::Kind::formula, summary.name.view(), texts);
   summary.kind = HomebrewPackageSummary::Kind::formula;
   summary.installedVersions = added(texts, formula.installedVersions);
@@ -58,7 +53,7 @@ InstalledPackageSummary summaryOf(const InstalledFormula& formula, SharedTextBui
 }
 
 InstalledPackageSummary summaryOf(const InstalledCask& cask, SharedTextBuilder& texts) {
-  const SharedText token = added(texts, cask.token);
+  const SharedText token = texts.add(cask.token);
   InstalledPackageSummary summary;
   summary.id = packageId(HomebrewPackageSummary::Kind::cask, token.view(), texts);
   summary.kind = HomebrewPackageSummary::Kind::cask;

@@ -63,8 +63,7 @@ HomebrewInstallReceiptReader::HomebrewInstallReceiptReader() : parser_(std::make
 HomebrewInstallReceiptReader::~HomebrewInstallReceiptReader() = default;
 
 std::optional<HomebrewInstallReceipt> HomebrewInstallReceiptReader::read(QByteArray json) {
-  const bool isPadded = json.data_ptr().freeSpaceAtEnd() >= readAheadPadding;
-  return parser_->read(json, !isPadded);
+  return parser_->read(json, !hasReadAheadPadding(json));
 }
 
 }  // namespace quillmere

@@ -2,11 +2,9 @@
 
 #include <QtCore/QtGlobal>
 
-#include <algorithm>
-#include <vector>
-
 #include "platform/FileUrl.h"
 #include "platform/NameOrdering.h"
+#include "prefix/HomebrewPrefixReader.h"
 
 namespace quillmere {
 namespace {
@@ -19,11 +17,7 @@ QStringList packageNames(const HomebrewPrefixLocation* location) {
 }
 
 QStringList versionsIn(const HomebrewPrefixFileSystem& fileSystem, const QUrl& folder) {
-  QStringList versions;
-  if (const auto contents = fileSystem.contentsOfDirectory(folder)) {
-    versions.reserve(contents->size());
-    std::ranges::transform(*contents, std::back_inserter(versions), lastPathComponent);
-  }
+  QStringList versions = childNames(fileSystem, folder);
   // Most packages have one version, which is in order.
   if (versions.size() > 1) {
     NameOrdering::ofUser().stableSort(versions, [](const QString& name) { return name; });

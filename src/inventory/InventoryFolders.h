@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QByteArrayView>
 #include <QtCore/QStringList>
 #include <QtCore/QUrl>
 
@@ -59,8 +60,7 @@ class CatalogLookup {
     if (records_.empty()) {
       return std::nullopt;
     }
-    const QByteArray utf8 = name.toUtf8();
-    const auto found = records_.find(std::string_view(utf8.constData(), utf8.size()));
+    const auto found = records_.find(std::string_view(QByteArrayView(name.toUtf8())));
     return found == records_.end() ? std::nullopt : std::optional(*found->second);
   }
 

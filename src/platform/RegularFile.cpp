@@ -51,6 +51,11 @@ std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype
 
 }  // namespace
 
+bool hasReadAheadPadding(const QByteArray& bytes) {
+  // Only a copy, which shares the bytes, gives a look at where they are kept.
+  return QByteArray(bytes).data_ptr().freeSpaceAtEnd() >= readAheadPadding;
+}
+
 std::expected<QByteArray, QString> readRegularFile(const QString& path, qint64 mostBytes) {
   // Opening a pipe would wait for its other end, and opening some devices acts on them.
   const FileDescriptor file(

@@ -1,5 +1,7 @@
 #include "platform/SharedText.h"
 
+#include <QtCore/QByteArrayView>
+
 #include <algorithm>
 
 namespace quillmere {
@@ -19,7 +21,8 @@ SharedText::SharedText(std::string_view utf8)
   }
 }
 
-SharedText::SharedText(QStringView text) : SharedText(text.toUtf8().toStdString()) {
+SharedText::SharedText(QStringView text)
+    : SharedText(std::string_view(QByteArrayView(text.toUtf8()))) {
 }
 
 std::string_view SharedText::view() const {
@@ -32,6 +35,10 @@ QString SharedText::toString() const {
 
 SharedText SharedTextBuilder::add(std::string_view utf8) {
   return add(utf8, {});
+}
+
+SharedText SharedTextBuilder::add(QStringView text) {
+  return add(std::string_view(QByteArrayView(text.toUtf8())));
 }
 
 SharedText SharedTextBuilder::addOnce(std::string_view utf8) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QtCore/QByteArrayView>
 #include <QtCore/QHashFunctions>
 #include <QtCore/QSharedData>
 #include <QtCore/QString>
@@ -59,6 +58,7 @@ class SharedText {
 class SharedTextBuilder {
  public:
   [[nodiscard]] SharedText add(std::string_view utf8);
+  [[nodiscard]] SharedText add(QStringView text);
   /// The same for a text that others are likely to repeat: it is stored once.
   [[nodiscard]] SharedText addOnce(std::string_view utf8);
   /// One text from two pieces.

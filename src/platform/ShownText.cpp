@@ -1,6 +1,7 @@
 #include "platform/ShownText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillmere {
 namespace {
@@ -26,10 +27,7 @@ QChar shownCharacter(QChar character) {
 }  // namespace
 
 QString shownText(QString text) {
-  if (text.size() > longestText) {
-    text.truncate(text[longestText - 1].isHighSurrogate() ? longestText - 1 : longestText);
-    text += QChar(u'\u2026');
-  }
+  text = shortened(std::move(text), longestText);
   const auto differs = [](QChar character) { return shownCharacter(character) != character; };
   // Looked at first: hardly any text has to be detached from its copies.
   if (std::ranges::any_of(std::as_const(text), differs)) {
@@ -40,6 +38,14 @@ QString shownText(QString text) {
 
 QString shownText(const SharedText& text) {
   return shownText(text.toString());
+}
+
+QString shortened(QString text, qsizetype limit) {
+  if (text.size() > limit) {
+    text.truncate(text[limit - 1].isHighSurrogate() ? limit - 1 : limit);
+    text += QChar(u'\u2026');
+  }
+  return text;
 }
 
 }  // namespace quillmere

@@ -15,4 +15,8 @@ namespace quillmere {
 [[nodiscard]] QString shownText(QString text);
 [[nodiscard]] QString shownText(const SharedText& text);
 
+/// `text` whole when it has at most `limit` UTF-16 units, else as many of them as make whole
+/// characters, followed by "…". Pure; any thread.
+[[nodiscard]] QString shortened(QString text, qsizetype limit);
+
 }  // namespace quillmere

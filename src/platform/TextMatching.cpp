@@ -1,5 +1,6 @@
 #include "platform/TextMatching.h"
 
+#include <QtCore/QByteArrayView>
 #include <QtCore/QList>
 #include <QtCore/QString>
 
@@ -45,8 +46,7 @@ std::string searchableForm(std::string_view utf8) {
 }
 
 std::string searchableForm(QStringView text) {
-  const QByteArray utf8 = text.toUtf8();
-  return searchableForm(std::string_view(utf8.constData(), static_cast<std::size_t>(utf8.size())));
+  return searchableForm(std::string_view(QByteArrayView(text.toUtf8())));
 }
 
 void appendSearchableForm(std::string& folded, std::string_view utf8) {

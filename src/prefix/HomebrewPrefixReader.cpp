@@ -1,6 +1,7 @@
 #include "prefix/HomebrewPrefixReader.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "platform/FileUrl.h"
@@ -22,12 +23,8 @@ bool comesBefore(const QString& left, const QString& right) {
 }
 
 QStringList sortedChildNames(const HomebrewPrefixFileSystem& fileSystem, const QUrl& url) {
-  QStringList names;
-  if (const auto contents = fileSystem.contentsOfDirectory(url)) {
-    names.reserve(contents->size());
-    std::ranges::transform(*contents, std::back_inserter(names), lastPathComponent);
-    std::ranges::sort(names, comesBefore);
-  }
+  QStringList names = childNames(fileSystem, url);
+  std::ranges::sort(names, comesBefore);
   return names;
 }
 
@@ -52,6 +49,15 @@ HomebrewPrefixLocation readLocation(const HomebrewPrefixFileSystem& fileSystem,
 }
 
 }  // namespace
+
+QStringList childNames(const HomebrewPrefixFileSystem& fileSystem, const QUrl& folder) {
+  QStringList names;
+  if (const auto contents = fileSystem.contentsOfDirectory(folder)) {
+    names.reserve(contents->size());
+    std::ranges::transform(*contents, std::back_inserter(names), lastPathComponent);
+  }
+  return names;
+}
 
 HomebrewPrefixReader::HomebrewPrefixReader(QUrl prefixURL, HomebrewPrefixFileSystemPtr fileSystem)
     : prefixURL_(std::move(prefixURL)), fileSystem_(std::move(fileSystem)) {

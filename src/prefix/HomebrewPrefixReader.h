@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QStringList>
 #include <QtCore/QUrl>
 
 #include "prefix/HomebrewPrefixFileSystem.h"
@@ -21,5 +22,10 @@ class HomebrewPrefixReader {
   QUrl prefixURL_;
   HomebrewPrefixFileSystemPtr fileSystem_;
 };
+
+/// The names of what `folder` holds, in the file system's order; none where it cannot be listed.
+/// Any thread; blocks on the disk.
+[[nodiscard]] QStringList childNames(const HomebrewPrefixFileSystem& fileSystem,
+                                     const QUrl& folder);
 
 }  // namespace quillmere
