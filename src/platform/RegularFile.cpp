@@ -24,11 +24,11 @@ std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype
                                            qint64 mostBytes) {
   constexpr qsizetype least = 4096;
   QByteArray data;
-  data.reserve(size + readAheadPadding);
   qsizetype length = 0;
   // Room for one byte more than was promised shows whether that was all. Where nothing was, the
   // system makes the content up as it is read.
   for (qsizetype room = size == 0 ? least : size + 1;;) {
+    data.reserve(room + readAheadPadding);
     data.resize(room);
     const ssize_t count =
         read(file.get(), data.data() + length, static_cast<std::size_t>(room - length));
