@@ -1,5 +1,7 @@
 #include "persistence/SharedHistory.h"
 
+#include <QtCore/QDir>
+#include <QtCore/QFileInfo>
 #include <QtCore/QLockFile>
 
 #include <chrono>
@@ -49,7 +51,9 @@ void SharedHistory::replace(const CommandHistory& history) {
 std::optional<CommandHistory> SharedHistory::synchronize() {
   QLockFile lock(file_.name() + ".history.lock"_L1);
   lock.setStaleLockTime(static_cast<int>(voidAfter.count()));
-  const bool mayWrite = hasUnwritten() && lock.tryLock(static_cast<int>(patience.count()));
+  // The lock stands beside the settings, whose folder may not be there yet.
+  const bool mayWrite = hasUnwritten() && QDir().mkpath(QFileInfo(file_.name()).path()) &&
+                        lock.tryLock(static_cast<int>(patience.count()));
   auto base = replaces_ ? none.toByteArray() : file_.readBytes(key);
   if (!base) {
     return std::nullopt;

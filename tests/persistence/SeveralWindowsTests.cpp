@@ -1,4 +1,5 @@
 #include <QtCore/QSet>
+#include <QtCore/QTemporaryDir>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>
@@ -144,6 +145,17 @@ TEST(SharedHistory, WaitsWhileNobodyCanReadTheSettings) {
     return isUnreadable && knowsNothing && isBack && all && all->size() == 3 &&
            decodeCommandHistory(file.readBytes(SharedHistory::key).value_or(QByteArray())) == all;
   }));
+}
+
+/// A user who cleans up while the program runs may remove it.
+TEST(SharedHistory, MakesTheFolderOfTheSettings) {
+  const QTemporaryDir folder;
+  const SettingsFile file(
+      QSettings(folder.filePath(u"missing/folder/Quillmere.conf"_s), QSettings::IniFormat));
+  const CommandHistoryRecord record = copyOf(u"brew info a"_s);
+  (void)SharedHistory(file).prepend(record);
+  EXPECT_EQ(decodeCommandHistory(file.readBytes(SharedHistory::key).value_or(QByteArray())),
+            CommandHistory{record});
 }
 
 TEST_F(SeveralWindows, LoseNoRecordThatTheyWriteAtTheSameTime) {
