@@ -10,9 +10,14 @@
 namespace quillmere {
 namespace {
 
-template <typename Records>
+/// The catalog of one document; an empty one where there is no document.
+template <auto Decode>
 std::expected<PackageCatalog, CatalogDecodingError> catalogOf(
-    std::expected<Records, CatalogDecodingError> records) {
+    const std::optional<QByteArray>& document) {
+  if (!document) {
+    return PackageCatalog();
+  }
+  auto records = Decode(*document);
   if (!records) {
     return std::unexpected(std::move(records).error());
   }
@@ -53,22 +58,10 @@ std::optional<std::vector<SharedText>> PackageCatalog::reverseDependencyNames(
   return names;
 }
 
-std::expected<PackageCatalog, CatalogDecodingError> formulaCatalog(const QByteArray& document) {
-  return catalogOf(decodeFormulae(document));
-}
-
-std::expected<PackageCatalog, CatalogDecodingError> caskCatalog(const QByteArray& document) {
-  return catalogOf(decodeCasks(document));
-}
-
 std::expected<PackageCatalogSnapshot, CatalogDecodingError> decodeCatalog(
     const CatalogDocuments& documents) {
-  const auto decoded = [](const std::optional<QByteArray>& document, auto decode) {
-    return document ? decode(*document)
-                    : std::expected<PackageCatalog, CatalogDecodingError>(std::in_place);
-  };
-  auto decodingCasks = std::async(std::launch::async, decoded, documents.casks, &caskCatalog);
-  auto formulae = decoded(documents.formulae, &formulaCatalog);
+  auto decodingCasks = std::async(std::launch::async, &catalogOf<decodeCasks>, documents.casks);
+  auto formulae = catalogOf<decodeFormulae>(documents.formulae);
   auto casks = decodingCasks.get();
   if (!formulae) {
     return std::unexpected(std::move(formulae).error());

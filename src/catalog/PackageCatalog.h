@@ -54,12 +54,6 @@ class PackageCatalog {
 
 using PackageCatalogSnapshot = std::shared_ptr<const PackageCatalog>;
 
-/// The catalog of one document. Slow, as decoding is; any thread.
-[[nodiscard]] std::expected<PackageCatalog, CatalogDecodingError> formulaCatalog(
-    const QByteArray& document);
-[[nodiscard]] std::expected<PackageCatalog, CatalogDecodingError> caskCatalog(
-    const QByteArray& document);
-
 /// Catalog documents as they come from the server or the cache; one that was not asked for is
 /// absent.
 struct CatalogDocuments {

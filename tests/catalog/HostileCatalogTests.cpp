@@ -96,8 +96,9 @@ TEST(HostileCatalog, MayHaveAMillionRecords) {
         R"({"name":"n)" + QByteArray::number(i) + R"(","versions":{},"dependencies":["n0"]})" + end;
   }
   EXPECT_EQ(withoutDuplicates(decodeFormulae(same).value()).size(), 1U);
-  const auto catalog = formulaCatalog(all);
-  ASSERT_TRUE(catalog);
+  const auto decoded = decodeCatalog({.formulae = all});
+  ASSERT_TRUE(decoded);
+  const PackageCatalogSnapshot& catalog = *decoded;
   EXPECT_EQ(catalog->packages().size(), static_cast<std::size_t>(count));
   EXPECT_EQ(catalog->reverseDependencyNames(catalog->packages().front()).value().size(),
             static_cast<std::size_t>(count - 1));

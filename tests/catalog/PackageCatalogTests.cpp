@@ -89,8 +89,8 @@ TEST(PackageCatalog, PassesOnWhatIsWrongWithADocument) {
   EXPECT_EQ(faultyDocument("[{}]", "[]"), Document::formulae);
   EXPECT_EQ(faultyDocument("[]", "[{}]"), Document::casks);
   EXPECT_EQ(faultyDocument("[{}]", "<html>"), Document::formulae);
-  EXPECT_EQ(formulaCatalog("[{}]").error().document, CatalogDecodingError::Document::formulae);
-  EXPECT_EQ(caskCatalog("<html>").error().document, CatalogDecodingError::Document::casks);
+  EXPECT_EQ(decodeCatalog({.formulae = "[{}]"}).error().document, Document::formulae);
+  EXPECT_EQ(decodeCatalog({.casks = "<html>"}).error().document, Document::casks);
 }
 
 TEST(PackageCatalogState, IsComparedByWhatItShows) {
