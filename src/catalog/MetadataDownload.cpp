@@ -17,8 +17,8 @@
 namespace quillmere {
 namespace {
 
-/// How much the platform may take from the line before it is taken from there. It unpacks that in
-/// one go on the UI thread; JSON unpacks to some seven times the size.
+/// How many bytes QNetworkReply may receive before we read them. It decompresses them at once on
+/// the UI thread; JSON grows to some seven times the size.
 constexpr qint64 readBufferBytes = qint64{64} * 1024;
 constexpr qint64 progressInterval = 34;
 constexpr qint64 mebibyte = qint64{1024} * 1024;
@@ -41,14 +41,13 @@ QNetworkRequest requestFor(const QUrl& url) {
   request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
                        QNetworkRequest::NoLessSafeRedirectPolicy);
-  // The platform would tell the language of the user's desktop. This is what it says where there is
-  // none.
+  // Qt would send the language of the user's desktop. This is what it sends if there is none.
   request.setRawHeader("Accept-Language", "en,*");
   return request;
 }
 
-/// One transfer: takes the body as it comes and says in the end what came of it. Whoever waits is
-/// woken from the event loop, so that nothing here is on the stack when this object goes.
+/// One transfer: collects the body as it arrives and then has a result. Whoever waits is resumed
+/// from the event loop, so that no method of this object is on the stack when it is destroyed.
 class Download : public QObject {
  public:
   Download(QNetworkAccessManager& session, const QUrl& url, MetadataFetchOptions options);
@@ -90,9 +89,9 @@ Download::Download(QNetworkAccessManager& session, const QUrl& url, MetadataFetc
     : options_(std::move(options)), reply_(session.get(requestFor(url))) {
   ended_.start();
   reserve(std::clamp(options_.expectedBytes, qint64{0}, options_.maximumBytes));
-  // What a slot of the reply does must not delete it, and a callback of ours might: so its signals
-  // only set the next step going. A timer and not a posted call, because posted calls go on being
-  // delivered as long as each of them posts another.
+  // A slot must not delete the reply that called it, and our callbacks might. So the reply's
+  // signals only schedule the next step. They do so with a timer: of posted calls that each post
+  // the next one, Qt would deliver all before it returns to the event loop.
   nextStep_.setSingleShot(true);
   connect(&nextStep_, &QTimer::timeout, this, &Download::step);
   patience_.setSingleShot(true);
@@ -152,9 +151,10 @@ void Download::step() {
   }
 }
 
-/// Reads behind what is there already: the document is never copied from one place to another.
-/// Takes all that waits, because the platform lets a full buffer follow whatever little is taken,
-/// and unpacks from the start again once ten megabytes wait.
+/// Appends everything that the reply has ready to `body_`, without a buffer in between. Reading
+/// less would not help: QNetworkReply refills its buffer after every read, however small, so unread
+/// bytes would pile up, and at ten megabytes of them it starts to decompress from the beginning
+/// again.
 qint64 Download::takeBytes() {
   const qint64 available = reply_->bytesAvailable();
   if (available <= 0) {
@@ -189,15 +189,15 @@ void Download::reportProgress() {
   }
 }
 
-/// The status of an HTTP response; not valid for anything else, even where the platform makes up a
-/// status, as it does for files.
+/// The status of an HTTP response; invalid for any other, although Qt makes up a status for files.
 QVariant Download::status() const {
   return reply_->url().scheme().startsWith(u"http")
              ? reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute)
              : QVariant();
 }
 
-/// The document's size as the server says it; what it says of a packed body is of no use here.
+/// The document's size as the server states it; absent for a compressed body, of which the server
+/// states only the compressed size.
 std::optional<qint64> Download::statedLength() const {
   const QVariant length = reply_->header(QNetworkRequest::ContentLengthHeader);
   return length.isValid() && !isPacked() ? std::optional(length.toLongLong()) : std::nullopt;
@@ -207,9 +207,9 @@ bool Download::isPacked() const {
   return reply_->hasRawHeader("Content-Encoding");
 }
 
-/// Whether the end of the body is missing. The platform takes a chunked or packed body for whole
-/// wherever the connection ends, so the document itself has to say it: an array that begins must
-/// end. One that is cut right behind an inner bracket gets past this and is refused by the decoder.
+/// Whether the end of the body is missing. Qt takes a chunked or compressed body for complete
+/// wherever the connection ends, so we look at the document: an array that begins must end. One
+/// that was cut right behind an inner bracket passes here and is refused by the decoder.
 bool Download::isCut() const {
   if (const auto length = statedLength()) {
     return body_.size() < *length;
@@ -222,7 +222,7 @@ bool Download::isCut() const {
 MetadataFetchResult Download::judge() {
   const int code = status().toInt();
   const QNetworkReply::NetworkError error = reply_->error();
-  // The platform has errors of its own for the status of an answer that arrived.
+  // Qt reports an HTTP status from 400 on as a network error too.
   const bool isStatus = code >= 400 && (error == QNetworkReply::ProxyAuthenticationRequiredError ||
                                         error >= QNetworkReply::ContentAccessDenied);
   if (error != QNetworkReply::NoError && !isStatus) {
@@ -250,7 +250,7 @@ void Download::end(MetadataFetchResult result) {
   patience_.stop();
   if (reply_) {
     disconnect(reply_, nullptr, this, nullptr);
-    // What is still under way ends with it.
+    // Deleting it aborts the transfer.
     reply_->deleteLater();
     reply_.clear();
   }

@@ -16,7 +16,7 @@ namespace quillmere {
 
 using MetadataFetchResult = std::expected<QByteArray, MetadataFetchError>;
 
-/// One GET of `url` through `session`, which is borrowed and lives on the UI thread, as does this.
+/// One GET of `url` through `session`, which is borrowed. UI thread only, like the session.
 /// The result is the whole body of an answer with a status from 200 to 299, unpacked, with
 /// `readAheadPadding` of capacity behind it. A body that is known to be cut is an error even where
 /// the platform takes it for whole.

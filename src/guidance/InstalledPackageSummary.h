@@ -20,7 +20,7 @@ struct InstalledPackageSummary {
   std::optional<SharedText> description;
   /// Oldest first.
   std::vector<SharedText> installedVersions;
-  /// The one that the scan takes for current.
+  /// The newest of them, as the scan found it.
   std::optional<SharedText> installedVersion;
   /// The catalog's.
   std::optional<SharedText> latestKnownVersion;
@@ -47,8 +47,8 @@ struct InstalledPackageSummary {
 [[nodiscard]] std::vector<InstalledPackageSummary> installedPackageSummaries(
     const std::vector<InstalledFormula>& formulae, const std::vector<InstalledCask>& casks);
 
-/// Whether `left` stands before `right` in a list: by name alone, in the user's name ordering, so
-/// that of different packages with equal names neither does.
+/// Whether `left` comes before `right` in a list, by name alone and in the user's name ordering:
+/// false both ways for two packages of the same name. Any thread.
 [[nodiscard]] bool comesBefore(const InstalledPackageSummary& left,
                                const InstalledPackageSummary& right);
 

@@ -9,7 +9,7 @@
 
 namespace quillmere {
 
-/// An installed package and how its version stands. Its identity is that of the package.
+/// An installed package and how its version stands. Its identity is that of the package. A value.
 struct PackageUpdateSummary {
   InstalledPackageSummary package;
   PackageVersionState versionState;
@@ -21,7 +21,7 @@ struct PackageUpdateSummary {
 [[nodiscard]] std::vector<PackageUpdateSummary> packageUpdateSummaries(
     const std::vector<InstalledPackageSummary>& inventory);
 
-/// The entry as assistive technology reads it out.
+/// The entry as assistive technology reads it out. Pure; any thread.
 [[nodiscard]] QString spokenLabel(const PackageUpdateSummary& update);
 
 }  // namespace quillmere

@@ -21,8 +21,8 @@ InstallReason reasonOf(const HomebrewInstallReceipt& receipt) {
   return *receipt.installedOnRequest ? InstallReason::direct : InstallReason::dependency;
 }
 
-/// What the newest receipt says that can be read at all; one that leaves the question open is an
-/// answer, too.
+/// What the newest readable receipt says. If that one does not say, the reason is unknown: older
+/// receipts are not asked.
 InstallReason installReason(const HomebrewPrefixFileSystem& fileSystem, const PackageFolder& folder,
                             HomebrewInstallReceiptReader& receipts) {
   for (const QString& version : folder.versions | std::views::reverse) {

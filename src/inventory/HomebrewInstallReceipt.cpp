@@ -10,7 +10,7 @@ namespace {
 
 static_assert(readAheadPadding >= simdjson::SIMDJSON_PADDING);
 
-/// The value of the key that counts, which is its last where a document repeats it.
+/// The value of `wanted`; of its last occurrence, if the document repeats the key.
 std::optional<simdjson::dom::element> lastValue(const simdjson::dom::object& object,
                                                 std::string_view wanted) {
   std::optional<simdjson::dom::element> found;
@@ -45,7 +45,7 @@ class HomebrewInstallReceiptReader::Parser {
  public:
   std::optional<HomebrewInstallReceipt> read(QByteArrayView json, bool copies) {
     if (json.isEmpty()) {
-      return std::nullopt;  // and has perhaps no address to copy from
+      return std::nullopt;  // the parser would copy from data(), which may be null
     }
     simdjson::dom::element root;
     const auto error =

@@ -22,7 +22,7 @@ constexpr qint64 referenceMSecs = 978'307'200'000;
 constexpr qint64 firstMSecs = -62'135'596'800'000;
 constexpr qint64 endMSecs = 253'402'300'800'000;
 
-/// In bytes; only saves growing.
+/// In bytes; how much to reserve for a record.
 constexpr qsizetype usualRecordSize = 512;
 
 /// The keys of a record, for the writer and the reader alike. Stops where `visit` returns false.
@@ -40,8 +40,8 @@ bool visitFields(Record& record, Visit&& visit) {
          visit("executionOutputSummary"_L1, record.executionOutputSummary);
 }
 
-// The writer is our own because the whole history is written after every command: a document built
-// of JSON values first takes ten times as long.
+// Not written by QJsonDocument, because the whole history is written after every command, and
+// building a tree of JSON values first takes ten times as long.
 
 void append(QByteArray& json, bool flag) {
   json += flag ? "true" : "false";

@@ -68,7 +68,7 @@ struct JoinedOutput {
     return second.isEmpty() ? first.size() : first.size() + 1 + second.size();
   }
 
-  /// The first `length` bytes, but for the last character where they are not all: it may be cut.
+  /// The first `length` bytes; if there are more, without the last character, which may be cut.
   [[nodiscard]] QString prefix(qsizetype length) const {
     QByteArray bytes = first.first(std::min(length, first.size())).toByteArray();
     if (length > first.size()) {
@@ -101,8 +101,8 @@ std::optional<QString> executionOutputSummary(QByteArrayView standardOutput,
     return std::nullopt;
   }
   for (qsizetype length = 4 * summaryLimit; length < output.size(); length *= 2) {
-    // The last user-perceived character of a prefix may go on behind its end, and a secret may, so
-    // that the prefix has to hold more than what is left.
+    // The last user-perceived character of a prefix, or a secret, may continue beyond its end, so
+    // the prefix has to be longer than the summary.
     const QString start = secrets.hiddenIn(output.prefix(length));
     if (abbreviated(start, summaryLimit + secrets.longest()) != start) {
       return abbreviated(start, summaryLimit);

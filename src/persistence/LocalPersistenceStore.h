@@ -70,11 +70,11 @@ class LocalPersistenceStore : public QObject {
 
   void setLocalInventoryLastScanDate(const std::optional<QDateTime>& date);
 
-  /// Waits for a long one that is still being read.
+  /// Blocks while a long history is still being read after the start.
   [[nodiscard]] const CommandHistory& commandHistory() const;
 
-  /// Whether nobody would have to wait. When a long one has been read, `commandHistoryChanged` says
-  /// so.
+  /// Whether `commandHistory` returns at once. `commandHistoryChanged` is emitted when a long
+  /// history has been read.
   [[nodiscard]] bool hasReadHistory() const { return !readingHistory_.isValid(); }
 
   void setCommandHistory(const CommandHistory& history);
@@ -116,7 +116,8 @@ class LocalPersistenceStore : public QObject {
   void clearHistory();
   void resetOnboarding();
 
-  /// Ends when everything that was set so far has been written.
+  /// Ends when every setting that was set so far has been written; does not wait for the catalog
+  /// documents.
   QCoro::Task<> settled();
 
   /// Puts `record` at the front of the history, which has no maximum length, and what other windows
@@ -169,10 +170,11 @@ class LocalPersistenceStore : public QObject {
   std::optional<QByteArray> selectedHomebrewPrefixBookmarkData_;
   std::optional<QDateTime> catalogLastRefreshDate_;
   std::optional<QDateTime> localInventoryLastScanDate_;
-  // Whoever asks for the history takes it over from the thread that reads it.
+  // Mutable, because the getter fetches the history from the thread that reads it.
   mutable CommandHistory commandHistory_;
   mutable QFuture<std::optional<CommandHistory>> readingHistory_;
-  /// Count what was done here, so that what others did goes behind it.
+  /// Count the changes made here, so that a list read from the file meanwhile goes behind the
+  /// records appended since, and is dropped if the history was replaced.
   int replacedHistories_ = 0;
   qsizetype appendedRecords_ = 0;
   /// Has a thread of its own: a setting does not wait for a document of many megabytes.

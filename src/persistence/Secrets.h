@@ -16,7 +16,7 @@ class Secrets {
   /// `text` with "•••" for each of them.
   [[nodiscard]] QString hiddenIn(QString text) const;
 
-  /// In characters: how much of one may lie at the end of a text that was cut.
+  /// In characters: if a text is cut, this much at its end may be the beginning of a secret.
   [[nodiscard]] qsizetype longest() const { return longest_; }
 
  private:

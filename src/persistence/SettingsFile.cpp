@@ -8,8 +8,8 @@
 namespace quillmere {
 namespace {
 
-/// On a disk that fills up while the settings are written their old file is lost with the new one
-/// and nothing is reported, so that this asks beforehand.
+/// QSettings loses the old file with the new one, without an error, if the disk fills up while it
+/// writes. So check for room first.
 bool hasRoomFor(const QString& fileName, const QVariant& value) {
   constexpr qint64 longestEscape = 4;
   constexpr qint64 keyAndDate = 1024;

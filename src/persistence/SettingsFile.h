@@ -17,12 +17,11 @@ class SettingsFile {
 
   [[nodiscard]] const QString& name() const { return name_; }
 
-  /// Empty where there are none, or something else; nothing where nobody can tell, since the file
-  /// cannot be read.
+  /// Empty if the key is absent or not bytes; nullopt if the file cannot be read.
   [[nodiscard]] std::optional<QByteArray> readBytes(QLatin1StringView key) const;
 
-  /// Replaces the value of one key, or removes it where `value` is invalid; what others wrote under
-  /// other keys stays. Returns whether it is on the disk; where not, the whole file is as it was.
+  /// Replaces the value of one key, or removes the key if `value` is invalid. Values that others
+  /// wrote under other keys stay. Returns whether it is on the disk; if not, the file is unchanged.
   bool write(QLatin1StringView key, const QVariant& value) const;
 
  private:

@@ -14,14 +14,15 @@ namespace {
 
 constexpr QByteArrayView none = "[]";
 
-/// Longer than anybody writes; whoever has stopped in the middle must not keep us from quitting.
+/// How long to wait for the lock. Longer than any write takes, but finite: a process that was
+/// stopped while it holds the lock must not keep this one from quitting.
 constexpr std::chrono::milliseconds patience{10'000};
 
-/// A program killed while it made the lock leaves one without its name, which only age makes void.
-/// Nobody who lives is robbed of an old lock: the system keeps it for them.
+/// A process killed while creating the lock leaves an empty file, which only its age makes stale. A
+/// lock held by a live process is never broken, because QLockFile also holds a flock.
 constexpr std::chrono::milliseconds voidAfter = patience / 2;
 
-/// One JSON array of the elements of two, the first of them as we write it.
+/// Concatenates two JSON arrays; `first` must have been written by `encodeCommandHistory`.
 QByteArray joined(QByteArray first, const QByteArray& second) {
   const QByteArrayView rest = QByteArrayView(second).sliced(second.indexOf('[') + 1);
   const bool needsComma = first != none && !rest.trimmed().startsWith(']');
@@ -61,7 +62,7 @@ std::optional<CommandHistory> SharedHistory::synchronize() {
   std::optional<CommandHistory> all;
   if (!replaces_ && base != known_) {
     const auto others = decodeCommandHistory(*base);
-    // What is no history is written over.
+    // A value that cannot be decoded as a history is overwritten.
     base = others ? *base : none.toByteArray();
     all = unwritten_ + others.value_or(CommandHistory());
   }

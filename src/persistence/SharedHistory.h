@@ -9,10 +9,10 @@
 
 namespace quillmere {
 
-/// The command history in the settings, which every open window of the program adds to. A window
-/// therefore never writes back the list that it shows: it adds its records to what the file holds
-/// by then, one process at a time, and is told of what it did not know. Blocks on the disk; for the
-/// one thread that writes a store's settings.
+/// The command history in the settings, to which several processes of the program may add. A window
+/// therefore never writes back the list that it shows: under a lock, it adds its own records to
+/// what the file holds at that moment, and is told of the records that others have added. Blocks on
+/// the disk; for the one thread that writes a store's settings.
 class SharedHistory {
  public:
   /// What the settings keep it under.
@@ -26,8 +26,9 @@ class SharedHistory {
   /// Puts `history` in the place of all that is there.
   void replace(const CommandHistory& history);
 
-  /// Writes what a full disk did not take before, and looks what others wrote. Returns the whole
-  /// list where the caller may show another.
+  /// Retries the records that could not be written before (because the disk was full, say) and
+  /// reads what others have written. Returns the whole list if the file has changed since the last
+  /// call, so that the caller may show something else; nullopt if it has not or cannot be read.
   std::optional<CommandHistory> synchronize();
 
  private:
@@ -36,7 +37,7 @@ class SharedHistory {
   void store(const QByteArray& json);
 
   SettingsFile file_;
-  /// What the file held when the caller was last told of it.
+  /// The file's value as of the last call.
   std::optional<QByteArray> known_;
   CommandHistory unwritten_;
   /// Whether `unwritten_` takes the place of what the file holds.

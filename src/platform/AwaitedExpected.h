@@ -13,9 +13,9 @@ class TaskPromise;
 
 namespace quillmere {
 
-/// Lets a `QCoro::Task` of a `std::expected` of ours be awaited. Whoever awaits has the task's
-/// handle compared with null; null makes many a value as well, so that libstdc++ 12 would compare
-/// two results, and then the value of one with the handle, without end. This is the better match.
+/// Lets a `QCoro::Task` of a `std::expected` be awaited. QCoro compares the task's handle with
+/// nullptr. Because our expected can be built from nullptr, libstdc++ 12 then tries its own
+/// operator== and recurses endlessly. This overload is the better match. Any thread.
 template <typename T, typename Error>
 [[nodiscard]] bool operator==(
     std::coroutine_handle<QCoro::detail::TaskPromise<std::expected<T, Error>>> handle,

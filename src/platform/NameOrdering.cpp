@@ -19,8 +19,8 @@ bool isPrintableAscii(QStringView text) {
   return std::ranges::all_of(text, [](QChar c) { return c >= u' ' && c <= u'~'; });
 }
 
-/// Where the parts of `order` end that are in order, each as long as it is; a part in the reverse
-/// order is turned.
+/// Splits `order` into its longest ascending runs and returns the end of each. A run in strictly
+/// descending order is reversed first.
 template <typename ComesBefore>
 std::vector<std::ptrdiff_t> endsOfRuns(std::vector<std::size_t>& order,
                                        const ComesBefore& comesBefore) {
@@ -58,9 +58,10 @@ const NameOrdering& NameOrdering::ofUser() {
 }
 
 int NameOrdering::compare(QStringView left, QStringView right) const {
-  // The comparison itself is not an order of all names: some languages take digits of two scripts
-  // for one number or for two, as the other name has it, and an empty name differs from one of
-  // characters that have no place. The keys are one, but cost as much as several comparisons.
+  // QCollator::compare is not a strict weak ordering: in numeric mode some languages compare digits
+  // of two scripts inconsistently, and an empty name differs from one that holds only characters
+  // which the language ignores. Sort keys are consistent, but cost as much as several comparisons,
+  // so they are used only where it matters.
   if (isPrintableAscii(left) && isPrintableAscii(right)) {
     return collator_.compare(left, right);
   }
@@ -72,9 +73,9 @@ QCollatorSortKey NameOrdering::sortKey(const QString& name) const {
 }
 
 std::vector<std::size_t> NameOrdering::stableOrder(const std::vector<QCollatorSortKey>& keys) {
-  // Lists come nearly in order, and a comparison is a walk through memory: so what is in order is
-  // kept and merged. The library's own stable sort does not look for that, and does not build with
-  // clang without a warning.
+  // A natural merge sort: lists come nearly in order and comparing keys is slow, so runs that are
+  // in order already are only merged. std::stable_sort does not make use of such runs, and its
+  // libstdc++ version does not build with clang without a warning.
   const auto comesBefore = [&keys](std::size_t left, std::size_t right) {
     return keys[left].compare(keys[right]) < 0;
   };

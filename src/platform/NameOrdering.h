@@ -13,27 +13,26 @@ namespace quillmere {
 /// case, and with the numbers in them by value, so that "1.9" comes before "1.10". Case follows the
 /// language as well: to a Turkish reader the capital of "i" is not "I".
 ///
-/// The C locale orders by character codes and knows neither case nor numbers; a fixed language
-/// stands in for it. Make one per thread: the collator underneath is not for sharing.
+/// The C locale orders by character codes and knows neither case nor numbers, so American English
+/// takes its place. Make one per thread: `QCollator` is not thread-safe.
 class NameOrdering {
  public:
   explicit NameOrdering(const QLocale& locale);
 
-  /// The ordering of the user's language, as it was when the calling thread first asked; it stays
-  /// the thread's.
+  /// The ordering of the user's language, made when the calling thread first asks and kept for that
+  /// thread.
   [[nodiscard]] static const NameOrdering& ofUser();
 
   /// Negative, zero or positive as `left` comes before, with or after `right`.
   [[nodiscard]] int compare(QStringView left, QStringView right) const;
-  /// What the comparison needs to know of `name`, for comparing it often.
+  /// Faster than `compare` for a name that is compared many times.
   [[nodiscard]] QCollatorSortKey sortKey(const QString& name) const;
 
-  /// Sorts `items` by what `nameOf(item)` gives as a `QString`, asked at most twice for each; those
-  /// that are equal keep their order. Items that are in order already cost one comparison each.
+  /// Sorts `items` stably by `nameOf(item)`, which returns a `QString` and is called at most twice
+  /// per item. If the items are in order already this costs one comparison per item.
   template <typename Items, typename NameOf>
   void stableSort(Items& items, const NameOf& nameOf) const {
-    // A key costs as much as several comparisons, and lists are often sorted by one who got them
-    // sorted.
+    // Making a sort key costs as much as several comparisons, and most lists come in order.
     if (isInOrder(items, nameOf)) {
       return;
     }
@@ -60,7 +59,7 @@ class NameOrdering {
     });
   }
 
-  /// The indexes of the keys in the order of the keys.
+  /// The indexes of `keys`, sorted stably by key.
   [[nodiscard]] static std::vector<std::size_t> stableOrder(
       const std::vector<QCollatorSortKey>& keys);
 

@@ -18,7 +18,7 @@ struct RawValue {
 
 /// The texts under which the values of an enumeration are stored and shown. An enumeration that
 /// has them specialises this with a constexpr array of `RawValue`, in declaration order; the two
-/// functions below then read the one table in both directions.
+/// functions below then read the one table in both directions. They are pure; any thread.
 template <typename Enum>
 inline constexpr std::nullptr_t rawValues = nullptr;
 

@@ -19,14 +19,14 @@ std::unexpected<QString> failure(int number) {
   return std::unexpected(QString::fromStdString(code.message()));
 }
 
-/// Reads until the end of the file, which may lie elsewhere than its `size` said.
+/// Reads until the end of the file, which may have grown or shrunk since its `size` was asked for.
 std::expected<QByteArray, QString> readAll(const FileDescriptor& file, qsizetype size,
                                            qint64 mostBytes) {
   constexpr qsizetype least = 4096;
   QByteArray data;
   qsizetype length = 0;
-  // Room for one byte more than was promised shows whether that was all. Where nothing was, the
-  // system makes the content up as it is read.
+  // One byte more than `size` shows whether the file has grown. Files of /proc have the size 0,
+  // whatever their content.
   for (qsizetype room = size == 0 ? least : size + 1;;) {
     data.reserve(room + readAheadPadding);
     data.resize(room);

@@ -7,17 +7,17 @@
 
 namespace quillmere {
 
-/// How many bytes beyond the content a text takes that was read here: a reader of JSON that works
-/// on whole registers may look at them, and so need not copy the text first.
+/// How many bytes of spare capacity follow the content of a file that was read here. The JSON
+/// parser reads in blocks, past the end of the text; without this room it has to copy the text.
 inline constexpr qsizetype readAheadPadding = 64;
 
 /// Whether `bytes` have that capacity behind them. Any thread.
 [[nodiscard]] bool hasReadAheadPadding(const QByteArray& bytes);
 
-/// The whole of the regular file at `path`, or the platform's words for why not. A pipe, a device
-/// or a folder is refused instead of waited for, and so is a file of more than `mostBytes`, before
-/// memory is set aside for it: some have a size that no disk has, and some no end. The bytes come
-/// with `readAheadPadding` of capacity. Blocks on the disk; any thread.
+/// The whole content of the regular file at `path`, or the system's error message. A pipe, a device
+/// or a folder is an error, because opening one could block. So is a file of more than `mostBytes`,
+/// before memory is allocated for it: sparse files and those of /proc can be of any size. The bytes
+/// have `readAheadPadding` behind them. Blocks on the disk; any thread.
 [[nodiscard]] std::expected<QByteArray, QString> readRegularFile(const QString& path,
                                                                  qint64 mostBytes);
 
