@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/CachedCatalog.h"
+#include "catalog/CachedCatalog.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/FileUrl.h"

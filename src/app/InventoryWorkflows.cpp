@@ -7,7 +7,7 @@
 
 #include <utility>
 
-#include "app/LocalInventory.h"
+#include "guidance/LocalInventory.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/BackgroundThreads.h"
 

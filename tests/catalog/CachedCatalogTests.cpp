@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/CachedCatalog.h"
+#include "catalog/CachedCatalog.h"
 #include "support/Printers.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "app/LocalInventory.h"
+#include "guidance/LocalInventory.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "app/CachedCatalog.h"
+#include "catalog/CachedCatalog.h"
 
 #include <QtCore/QFile>
 

@@ -5,7 +5,7 @@
 
 #include <optional>
 
-#include "app/CachedCatalog.h"
+#include "catalog/CachedCatalog.h"
 #include "guidance/InstalledPackagesState.h"
 #include "inventory/ScanProgress.h"
 #include "prefix/HomebrewPrefixFileSystem.h"
