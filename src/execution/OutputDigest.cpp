@@ -103,8 +103,8 @@ bool mayBeNotable(QByteArrayView line) {
     const std::uint8_t first = loweredBit(line.data()[i]);
     const std::uint8_t second = loweredBit(line.data()[i + 1]);
     for (const std::string_view pair : notablePairs) {
-      const std::uint8_t isFirst = first == pair[0];
-      const std::uint8_t isSecond = second == pair[1];
+      const std::uint8_t isFirst = first == std::uint8_t(pair[0]);
+      const std::uint8_t isSecond = second == std::uint8_t(pair[1]);
       found |= std::uint8_t(isFirst & isSecond);
     }
   }
