@@ -26,6 +26,10 @@ Item {
     Accessible.name: accessibleLabel
     Accessible.description: cancelled ? "Cancelled" : outcomeText
 
+    // Qt 6.8 hides a row from assistive technology when it leaves the view, and keeps it hidden when
+    // it comes back as another.
+    ListView.onReused: Accessible.ignored = false
+
     Rectangle {
         anchors.fill: parent
         color: root.current ? Theme.selection : hover.hovered ? Theme.hover : "transparent"

@@ -23,6 +23,10 @@ ListRow {
 
     onClicked: (ListView.view as PackageList).choose(index)
 
+    // Qt 6.8 hides a row from assistive technology when it leaves the view, and keeps it hidden when
+    // it comes back as another.
+    ListView.onReused: Accessible.ignored = false
+
     Hairline {
         anchors.left: parent.left
         anchors.leftMargin: Theme.medium

@@ -77,6 +77,15 @@ TestCase {
                   "shows nothing like " + pattern);
     }
 
+    // Every row of a list is found when it is in view, also where another has made room for it.
+    function readsEachRow(list) {
+        tryVerify(() => list.itemAtIndex(0) !== null);
+        for (let row = 0; row < list.count; ++row) {
+            list.positionViewAtIndex(row, ListView.Contain);
+            verify(spoken(list).includes(list.itemAtIndex(row)), "row " + row);
+        }
+    }
+
     // A notification says so, as assistive technology reads it aloud.
     function announces(text) {
         tryVerify(() => spoken().some(item => item.Accessible.role === Accessible.Notification

@@ -45,6 +45,12 @@ WindowCase {
         verify(list().activeFocus);
     }
 
+    function test_eachRecordIsRead() {
+        stage.addManyToHistory(50);
+        open();
+        readsEachRow(list());
+    }
+
     function test_noMatchIsSaidAndTheSearchClearedByKeyboard() {
         stage.addToHistory();
         open();

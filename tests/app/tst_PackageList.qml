@@ -33,6 +33,13 @@ PackageCase {
         compare(list().currentIndex, 0);
     }
 
+    function test_eachRowIsRead() {
+        beginBrowse();
+        stage.showCatalogOf(500);
+        tryVerify(() => list() !== null && list().count === 250);
+        readsEachRow(list());
+    }
+
     function test_theKeysMoveUnderThePointerToo() {
         beginBrowse();
         stage.showCatalogOf(500);

@@ -73,6 +73,14 @@ SessionCase {
         tryVerify(() => list().atYEnd);
     }
 
+    function test_eachLineIsRead() {
+        start();
+        press("Show command-line output");
+        tryVerify(() => list() && list().contentHeight > list().height + 50, 10000);
+        keyClick(Qt.Key_Home);
+        readsEachRow(list());
+    }
+
     function test_hidingTheOutputKeepsTheKeyboard() {
         run();
         press("Hide command-line output");
