@@ -17,6 +17,7 @@ PATIENCE = 30.0
 # What Qt says when one of our files or calls is wrong; nobody sees it but who looks for it.
 COMPLAINT = re.compile(r"qrc:/|TypeError|ReferenceError|Binding loop|QML |QObject::|QQuick|Could not")
 
+CHOOSER = "Select your Homebrew prefix. For Apple Silicon Macs, this is usually /opt/homebrew."
 
 # Newer versions of the accessibility bus call some roles otherwise.
 OLDER_ROLE_NAMES = {"button": "push button"}
@@ -319,6 +320,19 @@ def take_first_steps(window):
     window.get("dialog", "Welcome to Quillmere")
     window.press("push button", "Continue Catalog-Only")
     window.gone("dialog", "Welcome to Quillmere")
+
+
+def come_to_chooser(window):
+    """Waits for the folder chooser that Qt draws, as the desktop has none of its own here."""
+    window.get("push button", "Select Prefix")
+    # From Qt 6.8 on it is a window of its own; before, a popup in ours.
+    if window.find("frame", CHOOSER):
+        window.give_keyboard_to(CHOOSER)
+
+
+def leave_chooser(window):
+    window.gone("push button", "Select Prefix")
+    window.give_keyboard_to("Quillmere")
 
 
 def copy_services_list(window):

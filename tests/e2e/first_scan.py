@@ -11,13 +11,13 @@ SECTIONS = ("list", "Sections")
 
 
 def a_folder_that_is_no_prefix_is_refused(window):
-    """The desktop has no chooser of its own here, so that Qt's is used."""
     window.get("dialog", "Welcome to Quillmere")
     window.tab_to("push button", "Select Homebrew Prefix")
     window.key("Return")
-    window.get("push button", "Select Prefix")
+    desktop.come_to_chooser(window)
     window.click("label", "documents")
     window.click("push button", "Select Prefix")
+    desktop.leave_chooser(window)
     window.get("dialog", "Select a Homebrew Prefix")
     window.has_focus("push button", "Cancel")
 
@@ -26,9 +26,10 @@ def the_prefix_is_chosen(window):
     window.tab_to("push button", "Select Another Folder")
     window.key("Return")
     window.gone("dialog", "Select a Homebrew Prefix")
-    window.get("push button", "Select Prefix")
+    desktop.come_to_chooser(window)
     window.click("label", "homebrew")
     window.click("push button", "Select Prefix")
+    desktop.leave_chooser(window)
     window.gone("dialog", "Welcome to Quillmere")
     window.has_focus("list item", "Dashboard")
 
