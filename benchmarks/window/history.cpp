@@ -1,3 +1,5 @@
+#include <QtTest/QTest>
+
 #include <algorithm>
 #include <benchmark/benchmark.h>
 
@@ -14,6 +16,11 @@ class HistoryWindow : public SeenWindow {
  public:
   HistoryWindow() : SeenWindow(home().surroundings()) {
     content().select(AppSection::history);
+    // It is read on another thread: a busy machine may rest before it is there.
+    if (!QTest::qWaitFor([this] { return content().history()->records()->rowCount() > 0; },
+                         60'000)) {
+      qFatal("the history does not show");
+    }
     settle();
   }
 
