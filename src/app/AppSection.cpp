@@ -25,6 +25,7 @@ constexpr std::array rows = {
     Row{AppSection::settings, "settings"_L1, "Settings"_L1, "gearshape"_L1},
     Row{AppSection::aboutLegal, "aboutLegal"_L1, "About & Legal"_L1, "info.circle"_L1},
 };
+static_assert(std::ranges::equal(rows, allAppSections, {}, &Row::section));
 
 const Row& rowOf(AppSection section) {
   return rows[static_cast<std::size_t>(section)];
