@@ -40,10 +40,10 @@ class RecordFields {
   static constexpr std::size_t mostKeys = 8;
 
   /// `keys` are all that will be asked for; `path` stands before a key that has a problem.
-  template <std::size_t keyCount>
-    requires(keyCount <= mostKeys)
+  template <std::size_t KeyCount>
+    requires(KeyCount <= mostKeys)
   RecordFields(const simdjson::dom::object& object,
-               const std::array<std::string_view, keyCount>& keys, DecodingContext& context,
+               const std::array<std::string_view, KeyCount>& keys, DecodingContext& context,
                QLatin1StringView path = {})
       : RecordFields(object, std::span<const std::string_view>(keys), context, path) {}
 

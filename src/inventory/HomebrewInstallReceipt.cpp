@@ -62,7 +62,7 @@ HomebrewInstallReceiptReader::HomebrewInstallReceiptReader() : parser_(std::make
 
 HomebrewInstallReceiptReader::~HomebrewInstallReceiptReader() = default;
 
-std::optional<HomebrewInstallReceipt> HomebrewInstallReceiptReader::read(QByteArray json) {
+std::optional<HomebrewInstallReceipt> HomebrewInstallReceiptReader::read(const QByteArray& json) {
   return parser_->read(json, !hasReadAheadPadding(json));
 }
 

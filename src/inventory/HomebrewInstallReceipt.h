@@ -28,7 +28,7 @@ class HomebrewInstallReceiptReader {
   /// "installed_on_request" is neither a truth value nor null. Other keys may hold anything that
   /// fits a JSON reader: no number beyond 64 bits, nothing a thousand levels deep. Text with
   /// `readAheadPadding` of capacity behind it is read where it stands.
-  [[nodiscard]] std::optional<HomebrewInstallReceipt> read(QByteArray json);
+  [[nodiscard]] std::optional<HomebrewInstallReceipt> read(const QByteArray& json);
 
  private:
   class Parser;
