@@ -22,7 +22,8 @@ ThemedWindow {
     onClosing: event => {
         event.accepted = content.quitGuard.mayQuit();
         if (event.accepted) {
-            memory.remember(Qt.size(width, height), visibility !== Window.Windowed);
+            if (visibility !== Window.Minimized && visibility !== Window.Hidden)
+                memory.remember(Qt.size(width, height), visibility !== Window.Windowed);
             Qt.quit();
         }
     }

@@ -9,7 +9,8 @@
 
 namespace quillmere {
 
-/// How large the main window was when it was last closed. Owned by `QuillmereApp`; UI thread only.
+/// How large the main window was when it was last closed while it was shown: of a minimized one
+/// nobody knows how it comes back. Owned by `QuillmereApp`; UI thread only.
 class WindowMemory : public QObject {
   Q_OBJECT
   QML_ELEMENT

@@ -328,6 +328,10 @@ class Stage : public QObject {
 
   Q_INVOKABLE QSize rememberedSize() { return WindowMemory(world_->settings.open()).size(); }
 
+  Q_INVOKABLE bool remembersMaximized() {
+    return WindowMemory(world_->settings.open()).maximized();
+  }
+
   Q_INVOKABLE void previewLongInstall() {
     const BrewCommandTarget target{BrewCommandTargetKind::formula, QString(120, u'w')};
     world_->content.openPreview(BrewCommandBuilder().install(target).value(),

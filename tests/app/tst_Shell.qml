@@ -94,6 +94,36 @@ WindowCase {
         compare(stage.rememberedSize(), Qt.size(1000, 700));
     }
 
+    function test_theWindowRemembersThatItFilledTheScreen_data() {
+        return [
+            {tag: "maximized", visibility: Window.Maximized},
+            {tag: "full screen", visibility: Window.FullScreen},
+        ];
+    }
+
+    function test_theWindowRemembersThatItFilledTheScreen(data) {
+        window.visibility = data.visibility;
+        window.close();
+        verify(stage.remembersMaximized());
+        compare(stage.rememberedSize(), Qt.size(1120, 760));
+    }
+
+    function test_aMinimizedWindowChangesNothingThatIsRemembered() {
+        window.width = 1000;
+        window.height = 700;
+        window.close();
+        window.visibility = Window.Minimized;
+        window.width = 1010;
+        window.close();
+        verify(!stage.remembersMaximized());
+        compare(stage.rememberedSize(), Qt.size(1000, 700));
+        window.visibility = Window.Maximized;
+        window.close();
+        window.visibility = Window.Minimized;
+        window.close();
+        verify(stage.remembersMaximized());
+    }
+
     function test_theSmallestWindowIs900By600() {
         compare(window.minimumWidth, 900);
         compare(window.minimumHeight, 600);
