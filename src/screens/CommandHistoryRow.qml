@@ -26,8 +26,7 @@ Item {
     Accessible.name: accessibleLabel
     Accessible.description: cancelled ? "Cancelled" : outcomeText
 
-    // Qt 6.8 hides a row from assistive technology when it leaves the view, and keeps it hidden when
-    // it comes back as another.
+    // As in PackageRow.
     ListView.onReused: Accessible.ignored = false
 
     Rectangle {

@@ -22,8 +22,7 @@ Rectangle {
     Accessible.selectable: true
     Accessible.selected: selected
 
-    // Qt 6.8 hides a row from assistive technology when it leaves the view, and keeps it hidden when
-    // it comes back as another.
+    // As in PackageRow.
     ListView.onReused: Accessible.ignored = false
 
     CaptionText {
