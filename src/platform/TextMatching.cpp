@@ -49,6 +49,10 @@ std::string searchableForm(QStringView text) {
   return searchableForm(std::string_view(QByteArrayView(text.toUtf8())));
 }
 
+std::string searchableForm(QStringView text, const QLocale& locale) {
+  return searchableForm(locale.toLower(text.toString()));
+}
+
 void appendSearchableForm(std::string& folded, std::string_view utf8) {
   if (isAscii(utf8)) {
     const std::size_t start = folded.size();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLocale>
 #include <QtCore/QStringView>
 
 #include <string>
@@ -14,6 +15,10 @@ namespace quillmere {
 /// so does "ß".
 [[nodiscard]] std::string searchableForm(std::string_view utf8);
 [[nodiscard]] std::string searchableForm(QStringView text);
+
+/// In the language of `locale`, whose small letters may be others: in Turkish "I" is found by "ı"
+/// and not by "i". Text and query take the same locale.
+[[nodiscard]] std::string searchableForm(QStringView text, const QLocale& locale);
 
 /// Appends the searchable form to `folded`, without a text in between where `utf8` is ASCII.
 void appendSearchableForm(std::string& folded, std::string_view utf8);

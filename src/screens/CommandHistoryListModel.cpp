@@ -57,13 +57,15 @@ QString output(const CommandHistoryRecord& record) {
   return shownText(record.executionOutputSummary.value_or(QString()).simplified());
 }
 
-std::string foldedSearchText(const CommandHistoryRecord& record) {
-  return searchableForm(searchText(record));
+std::string foldedSearchText(const CommandHistoryRecord& record, const QLocale& locale) {
+  return searchableForm(searchText(record), locale);
 }
 
-std::vector<std::string> foldedSearchTexts(const CommandHistory& records) {
+std::vector<std::string> foldedSearchTexts(const CommandHistory& records, const QLocale& locale) {
   std::vector<std::string> folded(static_cast<std::size_t>(records.size()));
-  std::ranges::transform(records, folded.begin(), &foldedSearchText);
+  std::ranges::transform(records, folded.begin(), [&locale](const CommandHistoryRecord& record) {
+    return foldedSearchText(record, locale);
+  });
   return folded;
 }
 
@@ -92,8 +94,8 @@ QString accessibleLabel(const CommandHistoryRecord& record) {
 }
 
 CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& store,
-                                                 QObject* parent)
-    : ReplacedRowsModel(parent), store_(store) {
+                                                 const QLocale& locale, QObject* parent)
+    : ReplacedRowsModel(parent), store_(store), locale_(locale) {
   if (store_.hasReadHistory()) {
     remember(store_.commandHistory());
   }
@@ -154,7 +156,7 @@ QHash<int, QByteArray> CommandHistoryListModel::roleNames() const {
 }
 
 void CommandHistoryListModel::search(QStringView query) {
-  std::string folded = searchableForm(query);
+  std::string folded = searchableForm(query, locale_);
   if (folded == query_) {
     return;
   }
@@ -189,7 +191,7 @@ void CommandHistoryListModel::follow() {
 /// The rows that are there stay where the user sees them.
 void CommandHistoryListModel::insertInFront(const CommandHistory& now) {
   if (isFolded()) {
-    folded_.insert(folded_.begin(), foldedSearchText(now.first()));
+    folded_.insert(folded_.begin(), foldedSearchText(now.first(), locale_));
   }
   const bool isShown = !isNarrowed_ || containsSearchable(folded_.front(), query_);
   if (isShown) {
@@ -210,7 +212,7 @@ void CommandHistoryListModel::update() {
     return;
   }
   if (narrows && !isFolded()) {
-    folded_ = foldedSearchTexts(store_.commandHistory());
+    folded_ = foldedSearchTexts(store_.commandHistory(), locale_);
   }
   std::vector<int> rows = narrows ? foundRows() : std::vector<int>();
   const int count = narrows ? static_cast<int>(rows.size()) : recordCount();
@@ -238,7 +240,7 @@ QCoro::Task<> CommandHistoryListModel::fold() {
   const QPointer<CommandHistoryListModel> self(this);
   const int history = history_;
   const QFuture<std::vector<std::string>> folding =
-      QtConcurrent::run(backgroundThreads(), &foldedSearchTexts, store_.commandHistory());
+      QtConcurrent::run(backgroundThreads(), &foldedSearchTexts, store_.commandHistory(), locale_);
   std::vector<std::string> folded = co_await folding;
   if (!self) {
     co_return;
@@ -247,7 +249,7 @@ QCoro::Task<> CommandHistoryListModel::fold() {
   if (history == history_) {
     // Records that came meanwhile stand in front.
     const CommandHistory added = store_.commandHistory().first(recordCount_ - std::ssize(folded));
-    std::vector<std::string> inFront = foldedSearchTexts(added);
+    std::vector<std::string> inFront = foldedSearchTexts(added, locale_);
     inFront.insert(inFront.end(), std::make_move_iterator(folded.begin()),
                    std::make_move_iterator(folded.end()));
     folded_ = std::move(inFront);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QtCore/QLocale>
 #include <QtCore/QUuid>
 #include <QtQml/qqmlregistration.h>
 
@@ -34,7 +35,9 @@ class CommandHistoryListModel : public quillmere::ReplacedRowsModel {
     AccessibleLabelRole,
   };
 
-  explicit CommandHistoryListModel(const LocalPersistenceStore& store, QObject* parent = nullptr);
+  /// Searches in the language of `locale`.
+  CommandHistoryListModel(const LocalPersistenceStore& store, const QLocale& locale,
+                          QObject* parent = nullptr);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
@@ -67,6 +70,7 @@ class CommandHistoryListModel : public quillmere::ReplacedRowsModel {
   [[nodiscard]] const CommandHistoryRecord* at(int row) const;
 
   const LocalPersistenceStore& store_;
+  QLocale locale_;
   /// What the view knows of the store's list: how many records, and which stand at its ends. Not
   /// the list itself, which the store would have to copy to put a record in front.
   int recordCount_ = 0;

@@ -4,8 +4,9 @@
 
 namespace quillmere {
 
-CommandHistoryViewModel::CommandHistoryViewModel(LocalPersistenceStore& store, QObject* parent)
-    : QObject(parent), store_(store), records_(store) {
+CommandHistoryViewModel::CommandHistoryViewModel(LocalPersistenceStore& store,
+                                                 const QLocale& locale, QObject* parent)
+    : QObject(parent), store_(store), records_(store, locale) {
   connect(&records_, &CommandHistoryListModel::changed, this,
           &CommandHistoryViewModel::stateChanged);
 }

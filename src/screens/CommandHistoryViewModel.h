@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QtCore/QLocale>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtQml/qqmlregistration.h>
@@ -27,7 +28,9 @@ class CommandHistoryViewModel : public QObject {
   enum State { Empty, NoMatches, Listed };
   Q_ENUM(State)
 
-  explicit CommandHistoryViewModel(LocalPersistenceStore& store, QObject* parent = nullptr);
+  explicit CommandHistoryViewModel(LocalPersistenceStore& store,
+                                   const QLocale& locale = QLocale::system(),
+                                   QObject* parent = nullptr);
 
   [[nodiscard]] CommandHistoryListModel* records() { return &records_; }
 

@@ -35,10 +35,6 @@ QString searchText(const InstalledPackageSummary& package) {
   return text + u' ' + package.detail.toString();
 }
 
-std::string searchableForm(const QString& text, const QLocale& locale) {
-  return quillmere::searchableForm(QStringView(locale.toLower(text)));
-}
-
 }  // namespace
 
 std::vector<std::size_t> matchingPackages(const std::vector<InstalledPackageSummary>& packages,

@@ -67,6 +67,27 @@ TEST(TextMatching, FindsInAnyCaseAndWithoutAccents) {
   }
 }
 
+TEST(TextMatching, KnowsTheLettersOfALanguage) {
+  const QLocale turkish(QLocale::Turkish, QLocale::Turkey);
+
+  const struct {
+    const char* text;
+    const char* folded;
+  } rows[] = {
+      {"I i", "\u0131 i"},
+      {"\u0130stanbul", "istanbul"},
+      {"I\u0307stanbul", "istanbul"},
+      {"DI\u015e", "d\u0131s"},
+  };
+
+  for (const auto& row : rows) {
+    EXPECT_EQ(searchableForm(QString::fromUtf8(row.text), turkish), row.folded) << row.text;
+    EXPECT_EQ(searchableForm(QString::fromUtf8(row.folded), turkish), row.folded)
+        << "again: " << row.text;
+  }
+  EXPECT_EQ(searchableForm(u"FILE DI\u015e", QLocale(QLocale::English)), "file dis");
+}
+
 TEST(TextMatching, KeepsNulBytes) {
   const std::string_view text("A\0B", 3);
   EXPECT_EQ(searchableForm(text), std::string_view("a\0b", 3));

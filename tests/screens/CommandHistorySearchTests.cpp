@@ -52,6 +52,13 @@ CommandHistoryRecord cancelledInstall() {
   return record;
 }
 
+/// With the letter whose small one the languages disagree about.
+CommandHistoryRecord copiedInCapitals() {
+  CommandHistoryRecord record = copiedUpdate();
+  record.packageTarget = u"ISL"_s;
+  return record;
+}
+
 TEST(SearchTextOfARecord, JoinsNineTextsInOrder) {
   EXPECT_EQ(searchText(cancelledInstall()),
             u"brew install --cask firefox install firefox Browse not copied executed 143 "
@@ -78,13 +85,15 @@ class CommandHistorySearch : public testing::Test {
     QCoreApplication::processEvents();
   }
 
+  [[nodiscard]] QStringList found(const QString& query) { return found(query, history); }
+
   /// The commands of the records that are found, in the order of the rows.
-  [[nodiscard]] QStringList found(const QString& query) {
-    history.setSearchText(query);
+  [[nodiscard]] static QStringList found(const QString& query, CommandHistoryViewModel& searched) {
+    searched.setSearchText(query);
     QStringList commands;
-    for (int row = 0; row < history.records()->rowCount(); ++row) {
+    for (int row = 0; row < searched.records()->rowCount(); ++row) {
       commands +=
-          history.records()->index(row).data(CommandHistoryListModel::CommandRole).toString();
+          searched.records()->index(row).data(CommandHistoryListModel::CommandRole).toString();
     }
     return commands;
   }
@@ -92,6 +101,7 @@ class CommandHistorySearch : public testing::Test {
   const QString update = u"brew update"_s;
   const QString upgrade = u"brew upgrade wget"_s;
   const QString install = u"brew install --cask firefox"_s;
+  const QLocale turkish{QLocale::Turkish, QLocale::Turkey};
   test::TemporarySettings settings;
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
   CommandHistoryViewModel history{store};
@@ -123,6 +133,18 @@ TEST_F(CommandHistorySearch, FindsAnExitCodeAndEveryOtherFieldWithItsDigit) {
 TEST_F(CommandHistorySearch, IgnoresCaseAndDiacriticsAndWhiteSpaceAround) {
   EXPECT_EQ(found(u"  CREME Brulee\n"_s), QStringList{install});
   EXPECT_EQ(found(u"BR\u00dbL\u00c9E"_s), QStringList{install});
+}
+
+TEST_F(CommandHistorySearch, KnowsTheLettersOfTheLanguage) {
+  store.appendHistory(copiedInCapitals());
+  CommandHistoryViewModel inTurkish(store, turkish);
+  CommandHistoryViewModel inEnglish(store, QLocale(u"en_US"_s));
+  EXPECT_EQ(found(u"\u0131sl"_s, inTurkish), QStringList{update});
+  EXPECT_EQ(found(u"\u0131sl"_s, inEnglish), QStringList());
+  store.appendHistory(copiedInCapitals());
+  EXPECT_EQ(found(u"ISL"_s, inTurkish), (QStringList{update, update}));
+  EXPECT_EQ(found(u"isl"_s, inTurkish), QStringList());
+  EXPECT_EQ(found(u"isl"_s, inEnglish), (QStringList{update, update}));
 }
 
 TEST_F(CommandHistorySearch, FindsAcrossTheBorderOfTwoTexts) {
@@ -191,6 +213,17 @@ TEST_F(CommandHistorySearch, FindsWhatCameWhileALargeHistoryWasMadeReady) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
   EXPECT_EQ(history.matchesText(), u"1 of 1002 commands"_s);
   EXPECT_EQ(found(u"wget"_s), QStringList{upgrade});
+}
+
+TEST_F(CommandHistorySearch, KnowsTheLettersOfTheLanguageInALargeHistory) {
+  CommandHistory many = manyInstalls(1000);
+  many.last() = copiedInCapitals();
+  store.setCommandHistory(many);
+  CommandHistoryViewModel inTurkish(store, turkish);
+  inTurkish.setSearchText(u"\u0131sl"_s);
+  store.appendHistory(copiedInCapitals());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return inTurkish.records()->isNarrowed(); }, patience));
+  EXPECT_EQ(inTurkish.matchesText(), u"2 of 1001 commands"_s);
 }
 
 TEST_F(CommandHistorySearch, SearchesTheHistoryThatTookThePlaceOfALargeOne) {

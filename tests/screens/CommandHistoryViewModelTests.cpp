@@ -151,7 +151,7 @@ TEST(CommandHistoryOfYears, IsShownWhenItHasBeenRead) {
     before.setCommandHistory(history);
   }
   const LocalPersistenceStore store(settings.open(), settings.cacheDirectoryURL());
-  CommandHistoryListModel records(store);
+  CommandHistoryListModel records(store, QLocale::c());
   const QAbstractItemModelTester tester(&records,
                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
   EXPECT_EQ(records.rowCount(), 0);
