@@ -6,7 +6,6 @@ qt_add_qml_module(empty_window
   RESOURCE_PREFIX /qt/qml
   DEPENDENCIES QtQuick
   QML_FILES start/EmptyWindow.qml)
-set_target_properties(empty_window PROPERTIES QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
 target_link_libraries(empty_window PRIVATE Qt6::Quick Qt6::QuickControls2 quillmere_compiler)
 
 # Both are started as processes of their own, as they ship. The walk needs a display for its keys.

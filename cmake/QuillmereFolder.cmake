@@ -49,3 +49,12 @@ function(quillmere_folder FOLDER)
   target_link_libraries(${_target} ${_scope} ${_uses} ${ARG_LINK})
   target_link_libraries(${_target} ${_compiler} quillmere_compiler)
 endfunction()
+
+# quillmere_compiled_qml(TARGET)
+#   After qt_add_qml_module: the C++ that Qt makes of bindings is not written as ours is, so the
+#   compiler says nothing of it.
+function(quillmere_compiled_qml TARGET)
+  get_target_property(_sources ${TARGET} SOURCES)
+  list(FILTER _sources INCLUDE REGEX "/qmlcache/.*\\.cpp$")
+  set_source_files_properties(${_sources} PROPERTIES COMPILE_OPTIONS -w)
+endfunction()
