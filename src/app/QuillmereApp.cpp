@@ -1,5 +1,6 @@
 #include "app/QuillmereApp.h"
 
+#include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QVariantMap>
 #include <QtGui/QGuiApplication>
@@ -11,6 +12,7 @@
 #include <utility>
 
 #include "execution/DirectCommandRunner.h"
+#include "platform/BackgroundThreads.h"
 
 namespace quillmere {
 
@@ -27,14 +29,16 @@ void QuillmereApp::prepare() {
 }
 
 QuillmereApp::QuillmereApp(AppSurroundings surroundings)
-    : localPersistenceStore_(surroundings.settings(), std::move(surroundings.cacheDirectoryURL)),
+    : settingsRead_(
+          QtConcurrent::run(backgroundThreads(),
+                            [settings = surroundings.settings] { (void)settings()->allKeys(); })),
+      localPersistenceStore_(surroundings.settings(), std::move(surroundings.cacheDirectoryURL)),
       windowMemory_(surroundings.settings()),
       content_(localPersistenceStore_, AppCapabilities::all(),
                std::make_shared<DirectCommandRunner>(),
                {.formulae = {.apiURL = std::move(surroundings.formulaeURL), .session = &session_},
                 .casks = {.apiURL = std::move(surroundings.casksURL), .session = &session_}},
                std::move(surroundings.resolver)) {
-  engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
   // Another window of the program may have added records meanwhile.
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &localPersistenceStore_,
                    [this](Qt::ApplicationState state) {
@@ -44,16 +48,12 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
                    });
 }
 
-bool QuillmereApp::open() {
-  engine_.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content_)},
-                                {QStringLiteral("memory"), QVariant::fromValue(&windowMemory_)}});
-  engine_.load(QUrl(QStringLiteral("qrc:/qt/qml/Quillmere/App/MainWindow.qml")));
-  return window() != nullptr;
-}
+QuillmereApp::~QuillmereApp() = default;
 
-QQuickWindow* QuillmereApp::window() const {
-  const QObjectList windows = engine_.rootObjects();
-  return windows.isEmpty() ? nullptr : qobject_cast<QQuickWindow*>(windows.constFirst());
+bool QuillmereApp::open() {
+  window_ = files_.open({{QStringLiteral("content"), QVariant::fromValue(&content_)},
+                         {QStringLiteral("memory"), QVariant::fromValue(&windowMemory_)}});
+  return window_ != nullptr;
 }
 
 }  // namespace quillmere

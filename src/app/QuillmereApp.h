@@ -1,13 +1,14 @@
 #pragma once
 
+#include <QtCore/QFuture>
 #include <QtCore/QUrl>
 #include <QtNetwork/QNetworkAccessManager>
-#include <QtQml/QQmlApplicationEngine>
 
 #include <functional>
 #include <memory>
 
 #include "app/ContentViewModel.h"
+#include "app/MainWindowFiles.h"
 #include "app/WindowMemory.h"
 #include "persistence/LocalPersistenceStore.h"
 
@@ -35,6 +36,9 @@ class QuillmereApp {
   static void prepare();
 
   explicit QuillmereApp(AppSurroundings surroundings = AppSurroundings());
+  ~QuillmereApp();
+
+  Q_DISABLE_COPY_MOVE(QuillmereApp)
 
   /// Opens the main window. Returns whether there is one.
   [[nodiscard]] bool open();
@@ -44,14 +48,18 @@ class QuillmereApp {
   [[nodiscard]] ContentViewModel& content() { return content_; }
 
   /// The main window; null until it is open.
-  [[nodiscard]] QQuickWindow* window() const;
+  [[nodiscard]] QQuickWindow* window() const { return window_.get(); }
 
  private:
+  /// A long history is part of the settings. Whoever opens them later shares what is read here
+  /// while the window's files load.
+  QFuture<void> settingsRead_;
+  MainWindowFiles files_;
   LocalPersistenceStore localPersistenceStore_;
   WindowMemory windowMemory_;
   QNetworkAccessManager session_;
   ContentViewModel content_;
-  QQmlApplicationEngine engine_;
+  std::unique_ptr<QQuickWindow> window_;
 };
 
 }  // namespace quillmere

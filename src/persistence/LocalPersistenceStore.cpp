@@ -2,6 +2,7 @@
 
 #include <QCoroFuture>
 #include <QtConcurrent/QtConcurrentRun>
+#include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtCore/QRunnable>
 
@@ -46,8 +47,8 @@ std::optional<QDateTime> dateOf(const QSettings& settings, QLatin1StringView key
   return date && date->isValid() ? date : std::nullopt;
 }
 
-/// In bytes: what is longer would keep the first frame waiting.
-constexpr qsizetype longHistory = 128 * qsizetype{1024};
+/// Bytes of a settings file: in a larger one is a history that would keep the first frame waiting.
+constexpr qint64 longHistory = 128 * qint64{1024};
 
 QVariant toVariant(bool flag) {
   return flag;
@@ -91,7 +92,7 @@ void LocalPersistenceStore::load() {
 }
 
 void LocalPersistenceStore::readHistory() {
-  if (defaults_->value(keys::history).toByteArray().size() < longHistory) {
+  if (QFileInfo(settingsFile_.name()).size() < longHistory) {
     commandHistory_ = sharedHistory_->synchronize().value_or(CommandHistory());
   } else {
     readLongHistory();

@@ -28,7 +28,10 @@ bool addUnpackedSymbolFont() {
 }  // namespace
 
 Typeface::Typeface(QObject* parent) : QObject(parent) {
-  // Adding a font empties Qt's font cache, so it comes before any text is laid out.
+  addSymbolFont();
+}
+
+void Typeface::addSymbolFont() {
   [[maybe_unused]] static const bool isAdded = addUnpackedSymbolFont();
 }
 

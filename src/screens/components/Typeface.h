@@ -20,6 +20,10 @@ class Typeface : public QObject {
  public:
   explicit Typeface(QObject* parent = nullptr);
 
+  /// Adds the font of the symbols, once, which the first `Typeface` does at the latest. Done before
+  /// there is a window, it spares that one to lay out all its texts again. Any thread.
+  static void addSymbolFont();
+
   /// The system font's size, but never so small that it strains the eye.
   [[nodiscard]] int bodyPixelSize() const;
   [[nodiscard]] QString family() const;
