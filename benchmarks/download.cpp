@@ -21,8 +21,7 @@ const QByteArray& document() {
 
 QByteArray fetchWithClient(QNetworkAccessManager& session, const QUrl& url) {
   const HomebrewFormulaMetadataClient client{.apiURL = url, .session = &session};
-  const MetadataFetchResult result =
-      QCoro::waitFor(client.fetch({.expectedBytes = document().size()}));
+  const MetadataFetchResult result = QCoro::waitFor(client.fetch());
   return result.value_or(QByteArray());
 }
 

@@ -231,13 +231,12 @@ void CatalogWorkflows::setState(PackageCatalogState state) {
 
 MetadataFetchOptions CatalogWorkflows::optionsFor(const Fetch& fetch, std::size_t document) {
   return {.stop = fetch.stop.get_token(),
-          .onProgress =
-              [self = QPointer(this), id = fetch.id, document](const MetadataProgress& progress) {
-                if (self) {
-                  self->noteProgress(id, document, progress);
-                }
-              },
-          .expectedBytes = fetch.documents[document].expectedBytes.value_or(0)};
+          .onProgress = [self = QPointer(this), id = fetch.id,
+                         document](const MetadataProgress& progress) {
+            if (self) {
+              self->noteProgress(id, document, progress);
+            }
+          }};
 }
 
 void CatalogWorkflows::noteProgress(int id, std::size_t document,

@@ -22,6 +22,9 @@ namespace {
 constexpr qint64 readBufferBytes = qint64{64} * 1024;
 constexpr qint64 progressInterval = 34;
 constexpr qint64 mebibyte = qint64{1024} * 1024;
+/// More than either document has. The pages of it that stay untouched cost nothing, while a buffer
+/// that has to grow may be copied, which keeps the UI thread for longer than a frame.
+constexpr qint64 roomAtFirst = 48 * mebibyte;
 
 MetadataFetchResult transportError(const QString& message) {
   return std::unexpected(MetadataTransportError{message});
@@ -88,7 +91,7 @@ class Download : public QObject {
 Download::Download(QNetworkAccessManager& session, const QUrl& url, MetadataFetchOptions options)
     : options_(std::move(options)), reply_(session.get(requestFor(url))) {
   ended_.start();
-  reserve(std::clamp(options_.expectedBytes, qint64{0}, options_.maximumBytes));
+  reserve(std::min(roomAtFirst, options_.maximumBytes));
   // A slot must not delete the reply that called it, and our callbacks might. So the reply's
   // signals only schedule the next step. They do so with a timer: of posted calls that each post
   // the next one, Qt would deliver all before it returns to the event loop.
@@ -159,9 +162,6 @@ qint64 Download::takeBytes() {
   const qint64 available = reply_->bytesAvailable();
   if (available <= 0) {
     return 0;
-  }
-  if (body_.isEmpty()) {
-    reserve(std::min(statedLength().value_or(0), options_.maximumBytes));
   }
   const qsizetype before = body_.size();
   if (before + available + readAheadPadding > body_.capacity()) {

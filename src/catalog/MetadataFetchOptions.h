@@ -32,8 +32,6 @@ struct MetadataFetchOptions {
   /// Called on the UI thread, at most some thirty times a second, and once more when the document
   /// is whole; never after `stop` was asked there.
   std::function<void(MetadataProgress)> onProgress;
-  /// How large the document was the last time: memory for so much is set aside at once.
-  qint64 expectedBytes = 0;
   DownloadPatience patience;
   /// A document that is larger is refused, before it fills the memory. The largest one today has
   /// 30 MB and grows by a tenth in a year.
