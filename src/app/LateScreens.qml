@@ -7,19 +7,20 @@ import QtQuick
 Repeater {
     id: root
 
-    readonly property list<string> views: ["FormulaCatalogView", "InstalledPackagesView",
-        "PackageDetailView", "UpdatesView", "CommandPreviewSheet", "CleanupGuidanceView",
-        "CommandHistoryView", "SettingsView", "ServicesGuidanceView", "AboutLegalView",
-        "DashboardView"]
+    readonly property list<string> files: ["Screens/FormulaCatalogView",
+        "Screens/InstalledPackagesView", "Screens/PackageDetailView", "Screens/UpdatesView",
+        "Screens/CommandPreviewSheet", "Screens/CleanupGuidanceView", "Screens/CommandHistoryView",
+        "Screens/SettingsView", "Screens/ServicesGuidanceView", "Screens/AboutLegalView",
+        "Screens/DashboardView", "App/PrefixRefusalAlert", "App/QuitAlert"]
 
     property bool begun: false
 
-    model: begun ? views : []
+    model: begun ? files : []
 
     delegate: Item {
         required property string modelData
 
-        readonly property Component view: Qt.createComponent("../Screens/" + modelData + ".qml",
+        readonly property Component file: Qt.createComponent("../" + modelData + ".qml",
                                                              Component.Asynchronous)
     }
 }
