@@ -34,8 +34,8 @@ struct MetadataFetchOptions {
   std::function<void(MetadataProgress)> onProgress;
   DownloadPatience patience;
   /// A document that is larger is refused, before it fills the memory. The largest one today has
-  /// 30 MB and grows by a tenth in a year.
-  qint64 maximumBytes = qint64{256} * 1024 * 1024;
+  /// 30 MB and grows by a tenth in a year; one with ten times as many packages is not refused.
+  qint64 maximumBytes = qint64{512} * 1024 * 1024;
 };
 
 }  // namespace quillmere

@@ -18,7 +18,7 @@ TEST(CachedCatalog, IsNoLargerThanADownload) {
   };
   const CachedCatalogFiles files{.formulae = url(u"formula.json"_s), .casks = url(u"cask.json"_s)};
   QFile sparse(folder.filePath(u"formula.json"_s));
-  constexpr qint64 limit = qint64{256} * 1024 * 1024;
+  constexpr qint64 limit = qint64{512} * 1024 * 1024;
   if (!sparse.open(QFile::WriteOnly) || !sparse.resize(limit + 1)) {
     GTEST_SKIP() << "no disk here takes files of such a size";
   }
