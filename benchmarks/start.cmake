@@ -6,6 +6,7 @@ qt_add_qml_module(empty_window
   RESOURCE_PREFIX /qt/qml
   DEPENDENCIES QtQuick
   QML_FILES start/EmptyWindow.qml)
+quillmere_compiled_qml(empty_window)
 target_link_libraries(empty_window PRIVATE Qt6::Quick Qt6::QuickControls2 quillmere_compiler)
 
 # Both are started as processes of their own, as they ship. The walk needs a display for its keys.
