@@ -11,7 +11,7 @@ Repeater {
         "Screens/InstalledPackagesView", "Screens/PackageDetailView", "Screens/UpdatesView",
         "Screens/CommandPreviewSheet", "Screens/CleanupGuidanceView", "Screens/CommandHistoryView",
         "Screens/SettingsView", "Screens/ServicesGuidanceView", "Screens/AboutLegalView",
-        "Screens/DashboardView", "App/PrefixRefusalAlert", "App/QuitAlert"]
+        "App/PrefixRefusalAlert", "App/QuitAlert"]
 
     property bool begun: false
 

@@ -1,9 +1,18 @@
 import QtQuick
+import Quillmere.App
 
 WindowCase {
     id: root
 
     name: "Shell"
+
+    Component {
+        id: lateScreens
+
+        LateScreens {
+            begun: true
+        }
+    }
 
     function test_everyFileLoads() {
         const files = stage.qmlFiles();
@@ -14,6 +23,13 @@ WindowCase {
             const component = Qt.createComponent(file);
             compare(component.errorString(), "", file);
         }
+    }
+
+    function test_everyLateScreenIsMadeReady() {
+        const screens = createTemporaryObject(lateScreens, root);
+        verify(screens.count > 10);
+        for (let i = 0; i < screens.count; ++i)
+            tryVerify(() => screens.itemAt(i).file.status === Component.Ready, 5000, screens.files[i]);
     }
 
     function test_sidebarListsTheNineSectionsInOrder() {
