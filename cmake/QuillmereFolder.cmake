@@ -51,8 +51,8 @@ function(quillmere_folder FOLDER)
 endfunction()
 
 # quillmere_compiled_qml(TARGET)
-#   After qt_add_qml_module: the C++ that Qt makes of bindings is not written as ours is, so the
-#   compiler says nothing of it.
+#   Called after qt_add_qml_module. Turns warnings off for the C++ that Qt generates from the
+#   bindings: it is not ours to mend.
 function(quillmere_compiled_qml TARGET)
   get_target_property(_sources ${TARGET} SOURCES)
   list(FILTER _sources INCLUDE REGEX "/qmlcache/.*\\.cpp$")

@@ -22,7 +22,7 @@ ThemedWindow {
     onClosing: event => {
         event.accepted = content.quitGuard.mayQuit();
         if (event.accepted) {
-            if (visibility !== Window.Minimized && visibility !== Window.Hidden)
+            if (visibility !== Window.Minimized)
                 memory.remember(Qt.size(width, height), visibility !== Window.Windowed);
             Qt.quit();
         }

@@ -2,6 +2,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDebug>
+#include <QtCore/QRunnable>
 #include <QtQuick/QQuickWindow>
 
 #include "platform/BackgroundThreads.h"
@@ -17,22 +18,24 @@ QUrl qmlFile(const QString& name) {
 }  // namespace
 
 MainWindowFiles::MainWindowFiles() {
-  backgroundThreads()->start(&Typeface::addSymbolFont);
+  backgroundThreads()->start(QRunnable::create(&Typeface::addSymbolFont));
+  // Queued, since a quit before the event loop runs would be lost.
   QObject::connect(&engine_, &QQmlEngine::quit, qApp, &QCoreApplication::quit,
                    Qt::QueuedConnection);
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
-  window_.loadUrl(qmlFile(QStringLiteral("App/MainWindow.qml")));
-  // The engine's thread goes on with the first screen while the window around it is made.
-  firstScreen_.loadUrl(qmlFile(QStringLiteral("Screens/DashboardView.qml")),
-                       QQmlComponent::Asynchronous);
+  windowFile_.loadUrl(qmlFile(QStringLiteral("App/MainWindow.qml")));
+  // The engine's own thread loads the first screen while this one makes the window.
+  firstScreenFile_.loadUrl(qmlFile(QStringLiteral("Screens/DashboardView.qml")),
+                           QQmlComponent::Asynchronous);
 }
 
 std::unique_ptr<QQuickWindow> MainWindowFiles::open(const QVariantMap& properties) {
-  std::unique_ptr<QObject> window(window_.createWithInitialProperties(properties));
-  if (!window) {
-    qWarning().noquote() << window_.errorString();
+  auto* const window =
+      qobject_cast<QQuickWindow*>(windowFile_.createWithInitialProperties(properties));
+  if (window == nullptr) {
+    qWarning().noquote() << windowFile_.errorString();
   }
-  return std::unique_ptr<QQuickWindow>(qobject_cast<QQuickWindow*>(window.release()));
+  return std::unique_ptr<QQuickWindow>(window);
 }
 
 }  // namespace quillmere

@@ -10,9 +10,8 @@ class QQuickWindow;
 
 namespace quillmere {
 
-/// The main window's QML files. They are loaded when this is made, which takes a good part of a
-/// start; what is read from the disk meanwhile is read by other threads. UI thread only; outlives
-/// the window.
+/// The main window's QML files, loaded when this is made: a good part of a start, in which another
+/// thread adds the font of the symbols. UI thread only; outlives the window.
 class MainWindowFiles {
  public:
   MainWindowFiles();
@@ -23,8 +22,8 @@ class MainWindowFiles {
 
  private:
   QQmlEngine engine_;
-  QQmlComponent window_{&engine_};
-  QQmlComponent firstScreen_{&engine_};
+  QQmlComponent windowFile_{&engine_};
+  QQmlComponent firstScreenFile_{&engine_};
 };
 
 }  // namespace quillmere

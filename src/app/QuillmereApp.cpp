@@ -48,7 +48,9 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
                    });
 }
 
-QuillmereApp::~QuillmereApp() = default;
+QuillmereApp::~QuillmereApp() {
+  settingsRead_.waitForFinished();
+}
 
 bool QuillmereApp::open() {
   window_ = files_.open({{QStringLiteral("content"), QVariant::fromValue(&content_)},

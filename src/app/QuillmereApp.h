@@ -18,7 +18,8 @@ namespace quillmere {
 
 /// What the program works with; by default what it finds on the machine.
 struct AppSurroundings {
-  /// Opens the settings, once for each that remembers something.
+  /// Opens the settings: on the UI thread once for each that remembers something, and once on
+  /// another thread, which reads them ahead.
   std::function<std::unique_ptr<QSettings>()> settings = [] {
     return std::make_unique<QSettings>();
   };
@@ -51,8 +52,8 @@ class QuillmereApp {
   [[nodiscard]] QQuickWindow* window() const { return window_.get(); }
 
  private:
-  /// A long history is part of the settings. Whoever opens them later shares what is read here
-  /// while the window's files load.
+  /// Reads the settings ahead, in which there may be a long history, while the window's files load.
+  /// Whoever opens them next shares what was read, or waits until it is.
   QFuture<void> settingsRead_;
   MainWindowFiles files_;
   LocalPersistenceStore localPersistenceStore_;

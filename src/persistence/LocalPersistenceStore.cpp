@@ -47,7 +47,8 @@ std::optional<QDateTime> dateOf(const QSettings& settings, QLatin1StringView key
   return date && date->isValid() ? date : std::nullopt;
 }
 
-/// Bytes of a settings file: in a larger one is a history that would keep the first frame waiting.
+/// Bytes of a settings file. In a larger one there is most likely a history whose decoding would
+/// keep the first frame waiting.
 constexpr qint64 longHistory = 128 * qint64{1024};
 
 QVariant toVariant(bool flag) {

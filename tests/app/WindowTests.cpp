@@ -6,8 +6,8 @@
 #include <QtGui/QDesktopServices>
 #include <QtGui/QGuiApplication>
 #include <QtNetwork/QNetworkAccessManager>
-#include <QtQml/QQmlApplicationEngine>
 #include <QtQml/QQmlContext>
+#include <QtQml/QQmlEngine>
 #include <QtQuick/QQuickWindow>
 #include <QtQuickTest/quicktest.h>
 

@@ -20,8 +20,9 @@ class Typeface : public QObject {
  public:
   explicit Typeface(QObject* parent = nullptr);
 
-  /// Adds the font of the symbols, once, which the first `Typeface` does at the latest. Done before
-  /// there is a window, it spares that one to lay out all its texts again. Any thread.
+  /// Adds the font of the symbols, once. The first `Typeface` does it at the latest, and waits while
+  /// another thread does. Added before there is a window, the font does not make Qt lay out all
+  /// texts a second time. Any thread.
   static void addSymbolFont();
 
   /// The system font's size, but never so small that it strains the eye.
