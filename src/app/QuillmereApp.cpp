@@ -1,6 +1,5 @@
 #include "app/QuillmereApp.h"
 
-#include <QtConcurrent/QtConcurrentRun>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QVariantMap>
 #include <QtGui/QGuiApplication>
@@ -12,7 +11,6 @@
 #include <utility>
 
 #include "execution/DirectCommandRunner.h"
-#include "platform/BackgroundThreads.h"
 
 namespace quillmere {
 
@@ -29,9 +27,7 @@ void QuillmereApp::prepare() {
 }
 
 QuillmereApp::QuillmereApp(AppSurroundings surroundings)
-    : settingsRead_(
-          QtConcurrent::run(backgroundThreads(),
-                            [settings = surroundings.settings] { (void)settings()->allKeys(); })),
+    : settingsReader_([settings = surroundings.settings] { (void)settings()->allKeys(); }),
       localPersistenceStore_(surroundings.settings(), std::move(surroundings.cacheDirectoryURL)),
       windowMemory_(surroundings.settings()),
       content_(localPersistenceStore_, AppCapabilities::all(),
@@ -48,9 +44,7 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
                    });
 }
 
-QuillmereApp::~QuillmereApp() {
-  settingsRead_.waitForFinished();
-}
+QuillmereApp::~QuillmereApp() = default;
 
 bool QuillmereApp::open() {
   window_ = files_.open({{QStringLiteral("content"), QVariant::fromValue(&content_)},

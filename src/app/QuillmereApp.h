@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QtCore/QFuture>
 #include <QtCore/QUrl>
 #include <QtNetwork/QNetworkAccessManager>
 
 #include <functional>
 #include <memory>
+#include <thread>
 
 #include "app/ContentViewModel.h"
 #include "app/MainWindowFiles.h"
@@ -54,7 +54,7 @@ class QuillmereApp {
  private:
   /// Reads the settings ahead, in which there may be a long history, while the window's files load.
   /// Whoever opens them next shares what was read, or waits until it is.
-  QFuture<void> settingsRead_;
+  std::jthread settingsReader_;
   MainWindowFiles files_;
   LocalPersistenceStore localPersistenceStore_;
   WindowMemory windowMemory_;

@@ -24,7 +24,6 @@ constexpr QLatin1StringView prefixPath = "selectedHomebrewPrefixPath"_L1;
 constexpr QLatin1StringView prefixBookmark = "selectedHomebrewPrefixBookmarkData"_L1;
 constexpr QLatin1StringView refreshDate = "catalogLastRefreshDate"_L1;
 constexpr QLatin1StringView scanDate = "localInventoryLastScanDate"_L1;
-constexpr QLatin1StringView history = SharedHistory::key;
 constexpr QLatin1StringView oldFormulaCatalog = "cachedFormulaCatalogData"_L1;
 constexpr QLatin1StringView oldCaskCatalog = "cachedCaskCatalogData"_L1;
 

@@ -20,9 +20,9 @@ class Typeface : public QObject {
  public:
   explicit Typeface(QObject* parent = nullptr);
 
-  /// Adds the font of the symbols, once. The first `Typeface` does it at the latest, and waits while
-  /// another thread does. Added before there is a window, the font does not make Qt lay out all
-  /// texts a second time. Any thread.
+  /// Adds the font of the symbols, once. The first `Typeface` does it at the latest, and waits
+  /// while another thread does. Added before there is a window, the font does not make Qt lay out
+  /// all texts a second time. Any thread.
   static void addSymbolFont();
 
   /// The system font's size, but never so small that it strains the eye.
