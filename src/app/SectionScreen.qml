@@ -26,6 +26,8 @@ FocusScope {
     }
 
     component Section: Place {
+        id: place
+
         required property string name
         required property string view
 
@@ -37,7 +39,7 @@ FocusScope {
             if (chosen)
                 fill(view, viewModel);
             else
-                source = "";
+                place.source = "";
         }
 
         Component.onCompleted: follow()
@@ -45,7 +47,7 @@ FocusScope {
         onChosenChanged: follow()
         // The screen before may still be there and have the keyboard.
         onLoaded: {
-            focus = true;
+            place.focus = true;
             item.focus = true;
         }
     }
@@ -116,7 +118,7 @@ FocusScope {
             if (detail)
                 fill("PackageDetailView", detail);
             else
-                source = "";
+                detailPlace.source = "";
         }
 
         focus: root.detail !== null

@@ -35,7 +35,7 @@ ListView {
         const row = target(event.key);
         event.accepted = row >= 0;
         if (event.accepted)
-            currentIndex = Math.max(0, Math.min(count - 1, row));
+            root.currentIndex = Math.max(0, Math.min(count - 1, row));
     }
 
     function open(event: KeyEvent): void {
@@ -51,7 +51,7 @@ ListView {
     }
 
     function choose(row: int): void {
-        currentIndex = row;
+        root.currentIndex = row;
         forceActiveFocus(Qt.MouseFocusReason);
         opened(row);
     }

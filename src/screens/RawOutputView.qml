@@ -27,16 +27,16 @@ Rectangle {
     onVisibleChanged: if (visible) list.forceActiveFocus()
 
     function select(row: int, extend: bool): void {
-        headRow = Math.max(0, Math.min(list.count - 1, row));
-        anchorRow = extend && anchorRow >= 0 ? anchorRow : headRow;
+        root.headRow = Math.max(0, Math.min(list.count - 1, row));
+        root.anchorRow = extend && anchorRow >= 0 ? anchorRow : headRow;
         list.currentIndex = headRow;
         list.positionViewAtIndex(headRow, ListView.Contain);
-        following = list.atYEnd;
+        root.following = list.atYEnd;
     }
 
     function selectAll(): void {
-        anchorRow = 0;
-        headRow = list.count - 1;
+        root.anchorRow = 0;
+        root.headRow = list.count - 1;
     }
 
     function copy(): void {

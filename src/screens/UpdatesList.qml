@@ -94,7 +94,7 @@ FocusScope {
                 Accessible.name: "Packages"
 
                 // Where the keyboard comes in.
-                onCountChanged: if (currentIndex < 0) currentIndex = 0
+                onCountChanged: if (list.currentIndex < 0) list.currentIndex = 0
 
                 delegate: PackageUpdateRow {
                     width: ListView.view.width

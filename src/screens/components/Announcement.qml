@@ -15,9 +15,9 @@ Item {
     Accessible.name: message
 
     function say(text: string): void {
-        visible = false;
-        message = text;
-        visible = text.length > 0;
+        root.visible = false;
+        root.message = text;
+        root.visible = text.length > 0;
         gone.restart();
     }
 

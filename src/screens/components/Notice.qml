@@ -11,7 +11,7 @@ Pill {
     visible: gone.running
 
     function show(words: string): void {
-        text = words;
+        root.text = words;
         gone.restart();
     }
 

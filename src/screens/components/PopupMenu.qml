@@ -9,7 +9,7 @@ T.Menu {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     padding: Theme.tiny
 
-    onOpened: currentIndex = 0
+    onOpened: root.currentIndex = 0
 
     background: Rectangle {
         color: Theme.card

@@ -21,7 +21,7 @@ ColumnLayout {
     opacity: noticeable ? 1 : 0
     spacing: Theme.small
 
-    onVisibleChanged: if (!visible) noticeable = false
+    onVisibleChanged: if (!root.visible) root.noticeable = false
 
     Timer {
         interval: Theme.patience

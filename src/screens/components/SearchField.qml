@@ -38,7 +38,7 @@ FocusScope {
     function commit(): void {
         shown.last = field.text;
         committed(field.text);
-        editing = false;
+        root.editing = false;
     }
 
     // For the shortcut that leads here: the next letter begins a new search.
