@@ -22,11 +22,11 @@ void runInTheWindow(benchmark::State& state) {
   double computed = 0;
   for (auto _ : state) {
     SeenWindow window(home.surroundings());
-    ContentViewModel& content = window.content();
-    content.openPreview(BrewCommandBuilder().upgrade(std::nullopt).value(),
-                        QStringLiteral("Updates"));
+    CommandWorkflow& commands = *window.content().commands();
+    commands.openPreview(BrewCommandBuilder().upgrade(std::nullopt).value(),
+                         QStringLiteral("Updates"));
     window.settle();
-    CommandPreviewSheetModel& preview = *content.preview();
+    CommandPreviewSheetModel& preview = *commands.preview();
     LongestGap gap;
     const double start = window.secondsUntilSeen(
         state, "the run",
@@ -34,8 +34,8 @@ void runInTheWindow(benchmark::State& state) {
           preview.run();
           preview.confirmRun();
         },
-        [&] { return preview.session() != nullptr; });
-    DirectExecutionSessionViewModel* const session = preview.session();
+        [&] { return commands.session() != nullptr; });
+    DirectExecutionSessionViewModel* const session = commands.session();
     if (session == nullptr) {
       break;
     }

@@ -82,14 +82,14 @@ void tellLongRun(Stage& stage, QLatin1StringView size) {
   const BrewCommandTarget target{BrewCommandTargetKind::formula, QString(120, u'w')};
   stage.openPreview(BrewCommandBuilder().install(target).value(), u"Browse"_s);
   stage.picture(size + "-preview-long"_L1);
-  stage.content().preview()->run();
+  stage.content().commands()->preview()->run();
   stage.picture(size + "-confirmation-long"_L1);
-  stage.content().preview()->confirmRun();
+  stage.content().commands()->preview()->confirmRun();
   stage.waitForEndOfRun(u"run-long"_s);
   stage.picture(size + "-run-long"_L1);
-  stage.content().preview()->session()->setShowsRawOutput(true);
+  stage.content().commands()->session()->setShowsRawOutput(true);
   stage.picture(size + "-run-long-output"_L1);
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->close();
   stage.show(AppSection::history);
   stage.picture(size + "-history-long"_L1);
 }

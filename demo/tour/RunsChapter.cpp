@@ -21,7 +21,7 @@ void tellPreviews(Stage& stage) {
                              const QString& picture) {
     stage.openPreview(command, screen);
     stage.picture(picture);
-    stage.content().preview()->close();
+    stage.content().commands()->preview()->close();
   };
   stage.show(AppSection::services);
   tell(builder.servicesList(), u"Services"_s, u"preview"_s);
@@ -30,19 +30,19 @@ void tellPreviews(Stage& stage) {
   stage.show(AppSection::browse);
   stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
   stage.picture(u"preview-install"_s);
-  stage.content().preview()->copy();
+  stage.content().commands()->preview()->copy();
   stage.picture(u"preview-copied"_s);
-  stage.content().preview()->run();
+  stage.content().commands()->preview()->run();
   stage.picture(u"confirmation"_s);
-  stage.content().preview()->cancelConfirmation();
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->cancelConfirmation();
+  stage.content().commands()->preview()->close();
   stage.show(AppSection::updates);
   stage.openPreview(builder.update(), u"Updates"_s);
   stage.picture(u"preview-update"_s);
-  stage.content().preview()->run();
+  stage.content().commands()->preview()->run();
   stage.picture(u"confirmation-stronger"_s);
-  stage.content().preview()->cancelConfirmation();
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->cancelConfirmation();
+  stage.content().commands()->preview()->close();
 }
 
 bool showStartupDiagnostics(QQuickItem* from) {
@@ -57,11 +57,11 @@ bool showStartupDiagnostics(QQuickItem* from) {
 void tellStart(Stage& stage) {
   stage.holdDisk();
   stage.openPreview(builder.servicesList(), u"Services"_s);
-  stage.content().preview()->run();
+  stage.content().commands()->preview()->run();
   stage.picture(u"run-starting"_s);
   showStartupDiagnostics(stage.window()->contentItem());
   stage.picture(u"run-starting-diagnostics"_s);
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->close();
   stage.releaseDisk();
 }
 
@@ -69,14 +69,14 @@ void tellStart(Stage& stage) {
 void tellEnd(Stage& stage, const QString& picture) {
   stage.waitForEndOfRun(picture);
   stage.picture(picture);
-  stage.content().preview()->session()->setShowsRawOutput(true);
+  stage.content().commands()->session()->setShowsRawOutput(true);
   stage.picture(picture + u"-output"_s);
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->close();
 }
 
 void waitForOutput(Stage& stage, const QString& text, const QString& nextPicture) {
   stage.waitFor(nextPicture, [&] {
-    const auto* const controller = stage.content().preview()->sessionController();
+    const auto* const controller = stage.content().commands()->preview()->sessionController();
     return std::ranges::any_of(controller->outputChunks(), [&text](const auto& chunk) {
       return QString::fromUtf8(chunk.text).contains(text);
     });
@@ -89,9 +89,9 @@ void tellUpgrade(Stage& stage) {
   stage.run(u"run"_s);
   waitForOutput(stage, u"Pouring"_s, u"run"_s);
   stage.picture(u"run"_s);
-  stage.content().preview()->session()->setShowsRawOutput(true);
+  stage.content().commands()->session()->setShowsRawOutput(true);
   stage.picture(u"run-output"_s);
-  stage.content().preview()->session()->setShowsRawOutput(false);
+  stage.content().commands()->session()->setShowsRawOutput(false);
   tellEnd(stage, u"run-finished"_s);
   stage.scan(u"updates-after-upgrade"_s);
   stage.picture(u"updates-after-upgrade"_s);
@@ -127,7 +127,7 @@ void tellCancellation(Stage& stage) {
   stage.window()->close();
   stage.picture(u"quit-while-running"_s);
   stage.content().quitGuard()->stay();
-  stage.content().preview()->session()->cancel();
+  stage.content().commands()->session()->cancel();
   tellEnd(stage, u"run-cancelled"_s);
   stage.setBrew(stubbornBrew());
   stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
@@ -141,7 +141,7 @@ void tellCancellation(Stage& stage) {
   stage.content().quitGuard()->stay();
   stage.addFile(u"var/release"_s);
   stage.waitForEndOfRun(u"run-refused"_s);
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->close();
 }
 
 void tellCleanup(Stage& stage) {
@@ -174,11 +174,12 @@ void tellRefusal(Stage& stage) {
   stage.store().resetPrefix();
   stage.show(AppSection::services);
   stage.openPreview(builder.servicesList(), u"Services"_s);
-  stage.content().preview()->run();
-  stage.waitFor(u"run-refused"_s, [&] { return stage.content().preview()->errorPending(); });
+  stage.content().commands()->preview()->run();
+  stage.waitFor(u"run-refused"_s,
+                [&] { return stage.content().commands()->preview()->errorPending(); });
   stage.picture(u"run-refused"_s);
-  stage.content().preview()->dismissError();
-  stage.content().preview()->close();
+  stage.content().commands()->preview()->dismissError();
+  stage.content().commands()->preview()->close();
 }
 
 }  // namespace

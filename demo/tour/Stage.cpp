@@ -177,20 +177,21 @@ void Stage::show(AppSection section) {
 }
 
 void Stage::openPreview(const BrewCommand& command, const QString& screen) {
-  content().openPreview(command, screen);
+  content().commands()->openPreview(command, screen);
 }
 
 void Stage::run(const QString& nextPicture) {
-  content().preview()->run();
-  if (content().preview()->confirmationPending()) {
-    content().preview()->confirmRun();
+  content().commands()->preview()->run();
+  if (content().commands()->preview()->confirmationPending()) {
+    content().commands()->preview()->confirmRun();
   }
-  waitFor(nextPicture, [this] { return content().preview()->session() != nullptr; });
+  waitFor(nextPicture, [this] { return content().commands()->session() != nullptr; });
 }
 
 void Stage::waitForEndOfRun(const QString& nextPicture) {
   waitFor(nextPicture, [this] {
-    return content().preview()->session() != nullptr && !content().preview()->isRunning();
+    return content().commands()->session() != nullptr &&
+           !content().commands()->preview()->isRunning();
   });
 }
 

@@ -2,12 +2,12 @@ import QtQuick
 import QtQuick.Templates as T
 import Quillmere.App
 
-// Puts the preview that is open over the window. The sheet goes before its model does, so that
+// Puts the preview that is open over the window. The sheet goes before its models do, so that
 // nothing of it ever looks at a model that is gone.
 Item {
     id: root
 
-    required property ContentViewModel viewModel
+    required property CommandWorkflow commands
 
     property Component maker: null
     property T.Dialog sheet: null
@@ -17,11 +17,13 @@ Item {
             sheet.close();
             sheet.destroy();
         }
-        // The first frame of a start does without it.
+        // The first frame of a start does without the sheet.
         if (!maker)
-            maker = Qt.createComponent("../Screens/CommandPreviewSheet.qml");
-        sheet = viewModel.preview
-                ? maker.createObject(parent, {viewModel: viewModel.preview, shown: true}) : null;
+            maker = Qt.createComponent("CommandSheet.qml");
+        sheet = commands.preview
+                ? maker.createObject(parent, {
+                    commands: commands, viewModel: commands.preview, shown: true
+                }) : null;
     }
 
     Connections {
@@ -29,6 +31,6 @@ Item {
             root.follow();
         }
 
-        target: root.viewModel
+        target: root.commands
     }
 }

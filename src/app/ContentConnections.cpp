@@ -46,6 +46,16 @@ void ContentViewModel::connectInventoryScreen(LocalInventoryViewModel& screen) {
           &PrefixSelectionWorkflow::begin);
 }
 
+void ContentViewModel::connectCommands() {
+  connect(&commands_, &CommandWorkflow::previewChanged, this, [this] {
+    if (CommandPreviewSheetModel* const preview = commands_.preview()) {
+      quitGuard_.watch(preview);
+    }
+  });
+  connect(&commands_, &CommandWorkflow::packagesMayHaveChanged, &inventory_,
+          &InventoryWorkflows::noteRun);
+}
+
 void ContentViewModel::connectScreens() {
   const auto browse = [this] { select(AppSection::browse); };
   connect(&installed_, &InstalledPackagesViewModel::browseCatalogWanted, this, browse);

@@ -41,7 +41,7 @@ FocusScope {
     }
 
     CommandPreviewHost {
-        viewModel: root.viewModel
+        commands: root.viewModel.commands
     }
 
     // What it says stands in the middle of the window.

@@ -1,11 +1,7 @@
 #include "app/ContentViewModel.h"
 
-#include <QtGui/QClipboard>
-#include <QtGui/QGuiApplication>
-
 #include <utility>
 
-#include "commands/PreparedCommandAction.h"
 #include "persistence/LocalPersistenceStore.h"
 
 namespace quillmere {
@@ -17,11 +13,10 @@ ContentViewModel::ContentViewModel(
     : QObject(parent),
       store_(store),
       appCapabilities_(appCapabilities),
-      executionStarter_(std::move(executionStarter)),
-      resolver_(std::move(resolver)),
       catalog_(store, std::move(catalogClients)),
       inventory_(store),
       prefixSelection_(store),
+      commands_({appCapabilities, store, std::move(resolver), std::move(executionStarter)}),
       dashboard_(store, appCapabilities),
       updates_(previewRequest()),
       cleanup_(previewRequest()),
@@ -31,6 +26,7 @@ ContentViewModel::ContentViewModel(
       settingsWindow_(store) {
   connectCatalog();
   connectInventory();
+  connectCommands();
   connectScreens();
   updateBrowse();
   updateInventoryScreens();
@@ -76,45 +72,8 @@ void ContentViewModel::finishOnboarding() {
 
 PreviewRequest ContentViewModel::previewRequest() {
   return [this](const BrewCommand& command, const QString& sourceScreen) {
-    openPreview(command, sourceScreen);
+    commands_.openPreview(command, sourceScreen);
   };
-}
-
-void ContentViewModel::openPreview(const BrewCommand& command, const QString& sourceScreen) {
-  if (preview_) {
-    return;
-  }
-  preview_ = std::make_unique<CommandPreviewSheetModel>(
-      CommandPreviewContext{appCapabilities_, store_, resolver_, executionStarter_}, command,
-      sourceScreen, [this, command, sourceScreen] { copy(command, sourceScreen); });
-  connect(preview_.get(), &CommandPreviewSheetModel::closed, this, &ContentViewModel::closePreview);
-  if (command.riskLevel != BrewCommandRiskLevel::informational) {
-    connect(preview_.get(), &CommandPreviewSheetModel::runEnded, &inventory_,
-            &InventoryWorkflows::noteRun);
-  }
-  quitGuard_.watch(preview_.get());
-  Q_EMIT previewChanged();
-}
-
-void ContentViewModel::closePreview() {
-  CommandPreviewSheetModel* closed = preview_.release();
-  Q_EMIT previewChanged();
-  if (closed->isRunning()) {
-    // A run that was asked to end and does not is left to itself, but its end is still recorded.
-    closed->setParent(this);
-    connect(closed, &CommandPreviewSheetModel::runEnded, closed, &QObject::deleteLater);
-  } else {
-    closed->deleteLater();
-  }
-}
-
-void ContentViewModel::copy(const BrewCommand& command, const QString& sourceScreen) {
-  const PreparedCommandAction action =
-      PreviewOnlyCommandRunner().prepare(command, sourceScreen, QDateTime::currentDateTimeUtc());
-  QClipboard* clipboard = QGuiApplication::clipboard();
-  clipboard->clear();
-  clipboard->setText(action.commandText);
-  store_.appendHistory(action.historyRecord);
 }
 
 }  // namespace quillmere

@@ -12,6 +12,7 @@
 #include "app/AppSection.h"
 #include "app/AppSectionListModel.h"
 #include "app/CatalogWorkflows.h"
+#include "app/CommandWorkflow.h"
 #include "app/DetailNavigation.h"
 #include "app/InventoryWorkflows.h"
 #include "app/PrefixSelectionWorkflow.h"
@@ -20,7 +21,6 @@
 #include "execution/DirectCommandExecution.h"
 #include "screens/CleanupGuidanceViewModel.h"
 #include "screens/CommandHistoryViewModel.h"
-#include "screens/CommandPreviewSheetModel.h"
 #include "screens/DashboardViewModel.h"
 #include "screens/FormulaCatalogViewModel.h"
 #include "screens/InstalledPackagesViewModel.h"
@@ -55,7 +55,7 @@ class ContentViewModel : public QObject {
   Q_PROPERTY(quillmere::CommandHistoryViewModel* history READ history CONSTANT)
   Q_PROPERTY(quillmere::SettingsViewModel* settings READ settings CONSTANT)
   Q_PROPERTY(quillmere::SettingsViewModel* settingsWindow READ settingsWindow CONSTANT)
-  Q_PROPERTY(quillmere::CommandPreviewSheetModel* preview READ preview NOTIFY previewChanged)
+  Q_PROPERTY(quillmere::CommandWorkflow* commands READ commands CONSTANT)
   Q_PROPERTY(quillmere::QuitGuard* quitGuard READ quitGuard CONSTANT)
 
  public:
@@ -115,8 +115,7 @@ class ContentViewModel : public QObject {
 
   [[nodiscard]] SettingsViewModel* settingsWindow() { return &settingsWindow_; }
 
-  /// The command preview that is open; null when none is.
-  [[nodiscard]] CommandPreviewSheetModel* preview() { return preview_.get(); }
+  [[nodiscard]] CommandWorkflow* commands() { return &commands_; }
 
   [[nodiscard]] QuitGuard* quitGuard() { return &quitGuard_; }
 
@@ -126,17 +125,14 @@ class ContentViewModel : public QObject {
   /// The user has seen the first steps.
   Q_INVOKABLE void finishOnboarding();
 
-  /// Shows the preview of a command; does nothing while another one is open.
-  void openPreview(const BrewCommand& command, const QString& sourceScreen);
-
  Q_SIGNALS:
   void selectedSectionChanged();
-  void previewChanged();
   void showsOnboardingChanged();
 
  private:
   void connectCatalog();
   void connectInventory();
+  void connectCommands();
   void connectInventoryScreen(LocalInventoryViewModel& screen);
   void connectScreens();
   void updateBrowse();
@@ -147,18 +143,15 @@ class ContentViewModel : public QObject {
   void openFormula(PackageDetailViewModel& from, const QString& name);
   void openDetail(PackageDetailViewModel::Inputs inputs);
   [[nodiscard]] PreviewRequest previewRequest();
-  void closePreview();
-  void copy(const BrewCommand& command, const QString& sourceScreen);
 
   LocalPersistenceStore& store_;
   AppCapabilities appCapabilities_;
-  std::shared_ptr<const DirectCommandExecutionStarting> executionStarter_;
-  BrewExecutableResolver resolver_;
   std::optional<AppSection> selectedSection_ = AppSection::dashboard;
   QUuid detailNavigationResetID_ = QUuid::createUuid();
   CatalogWorkflows catalog_;
   InventoryWorkflows inventory_;
   PrefixSelectionWorkflow prefixSelection_;
+  CommandWorkflow commands_;
   AppSectionListModel sections_;
   DetailNavigation details_;
   DashboardViewModel dashboard_;
@@ -171,7 +164,6 @@ class ContentViewModel : public QObject {
   SettingsViewModel settings_;
   SettingsViewModel settingsWindow_;
   QuitGuard quitGuard_;
-  std::unique_ptr<CommandPreviewSheetModel> preview_;
 };
 
 }  // namespace quillmere

@@ -9,9 +9,9 @@ Repeater {
 
     readonly property list<string> files: ["Screens/FormulaCatalogView",
         "Screens/InstalledPackagesView", "Screens/PackageDetailView", "Screens/UpdatesView",
-        "Screens/CommandPreviewSheet", "Screens/CleanupGuidanceView", "Screens/CommandHistoryView",
+        "Screens/CleanupGuidanceView", "Screens/CommandHistoryView",
         "Screens/SettingsView", "Screens/ServicesGuidanceView", "Screens/AboutLegalView",
-        "App/PrefixRefusalAlert", "App/QuitAlert"]
+        "App/CommandSheet", "App/PrefixRefusalAlert", "App/QuitAlert"]
 
     property bool begun: false
 

@@ -45,7 +45,7 @@ void QuitGuard::quit() {
     setState(State::Waiting);
     for (const auto& run : std::as_const(runs_)) {
       if (runs(run)) {
-        run->session()->cancel();
+        run->cancelRun();
       }
     }
   } else if (state_ == State::AskingToLeave) {

@@ -9,6 +9,7 @@ FocusScope {
     id: root
 
     required property CommandPreviewSheetModel viewModel
+    required property Component sessionPage
 
     implicitHeight: pages.implicitHeight
 
@@ -43,17 +44,8 @@ FocusScope {
         }
 
         Repeater {
-            model: root.viewModel.session ? 1 : 0
-
-            delegate: DirectExecutionSessionView {
-                Layout.fillHeight: true
-                Layout.fillWidth: true
-                canClose: root.viewModel.canClose
-                focus: true
-                viewModel: root.viewModel.session
-
-                onClosed: root.viewModel.close()
-            }
+            model: root.viewModel.phase === CommandPreviewSheetModel.Session ? 1 : 0
+            delegate: root.sessionPage
         }
     }
 }

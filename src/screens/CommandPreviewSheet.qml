@@ -8,14 +8,18 @@ Sheet {
     id: root
 
     required property CommandPreviewSheetModel viewModel
+    // What is shown of the run: a screen of its own, which the window brings.
+    required property Component sessionPage
+
+    property bool wide: false
 
     closePolicy: T.Popup.NoAutoClose
-    sheetWidth: viewModel.session && viewModel.session.showsRawOutput ? Theme.textWidth
-              : Theme.sheetWidth + Theme.huge
+    sheetWidth: wide ? Theme.textWidth : Theme.sheetWidth + Theme.huge
     title: "Command Preview"
 
     contentItem: CommandPreviewPhases {
         focus: true
+        sessionPage: root.sessionPage
         viewModel: root.viewModel
     }
 

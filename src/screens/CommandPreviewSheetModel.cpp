@@ -170,6 +170,12 @@ void CommandPreviewSheetModel::cancelStartup() {
   }
 }
 
+void CommandPreviewSheetModel::cancelRun() {
+  if (directExecutionSessionController_) {
+    directExecutionSessionController_->cancel();
+  }
+}
+
 void CommandPreviewSheetModel::dismissError() {
   if (std::exchange(directRunErrorMessage_, std::nullopt)) {
     Q_EMIT errorChanged();
@@ -220,8 +226,6 @@ QCoro::Task<> CommandPreviewSheetModel::resolveAndStart() {
 void CommandPreviewSheetModel::startSession(const BrewExecutableResolution& resolution) {
   directExecutionSessionController_ = std::make_unique<DirectExecutionSessionController>(
       command_, decision_, resolution, context_.executionStarter);
-  sessionViewModel_ =
-      std::make_unique<DirectExecutionSessionViewModel>(*directExecutionSessionController_);
   const auto* controller = directExecutionSessionController_.get();
   connect(controller, &DirectExecutionSessionController::resultChanged, this,
           &CommandPreviewSheetModel::recordRun);
@@ -229,6 +233,7 @@ void CommandPreviewSheetModel::startSession(const BrewExecutableResolution& reso
           &CommandPreviewSheetModel::followSession);
   connect(controller, &DirectExecutionSessionController::cancellationRequestedChanged, this,
           &CommandPreviewSheetModel::canCloseChanged);
+  Q_EMIT sessionCreated(directExecutionSessionController_.get());
   setPhase(Phase::Session);
   directExecutionSessionController_->start();
 }

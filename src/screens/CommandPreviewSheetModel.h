@@ -18,7 +18,6 @@
 #include "execution/BrewExecutableResolver.h"
 #include "execution/DirectCommandExecution.h"
 #include "execution/DirectExecutionSessionController.h"
-#include "screens/DirectExecutionSessionViewModel.h"
 
 namespace quillmere {
 
@@ -39,9 +38,8 @@ struct CommandPreviewContext {
   std::shared_ptr<const DirectCommandExecutionStarting> executionStarter;
 };
 
-/// One command from its preview to the end of its run. Owned by the main window's view model, which
-/// keeps it after the sheet was closed until a run that still goes on has ended and is recorded. UI
-/// thread only.
+/// One command from its preview to the end of its run. Kept after the sheet was closed until a run
+/// that still goes on has ended and is recorded. UI thread only.
 class CommandPreviewSheetModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
@@ -65,7 +63,6 @@ class CommandPreviewSheetModel : public QObject {
   Q_PROPERTY(QString confirmTitle READ confirmTitle CONSTANT)
   Q_PROPERTY(bool errorPending READ errorPending NOTIFY errorChanged)
   Q_PROPERTY(QString errorMessage READ errorMessage NOTIFY errorChanged)
-  Q_PROPERTY(quillmere::DirectExecutionSessionViewModel* session READ session NOTIFY phaseChanged)
   Q_PROPERTY(bool canClose READ canClose NOTIFY canCloseChanged)
 
  public:
@@ -116,8 +113,6 @@ class CommandPreviewSheetModel : public QObject {
 
   [[nodiscard]] QString errorMessage() const;
 
-  [[nodiscard]] DirectExecutionSessionViewModel* session() { return sessionViewModel_.get(); }
-
   [[nodiscard]] const DirectExecutionSessionController* sessionController() const {
     return directExecutionSessionController_.get();
   }
@@ -132,6 +127,8 @@ class CommandPreviewSheetModel : public QObject {
   Q_INVOKABLE void confirmRun();
   Q_INVOKABLE void cancelConfirmation();
   Q_INVOKABLE void cancelStartup();
+  /// Asks the run to end; does nothing before one has begun.
+  void cancelRun();
   Q_INVOKABLE void dismissError();
   /// Closes the sheet if it can be closed.
   Q_INVOKABLE void close();
@@ -142,6 +139,8 @@ class CommandPreviewSheetModel : public QObject {
   void confirmationChanged();
   void errorChanged();
   void canCloseChanged();
+  /// The run is about to start; `controller` lives as long as this model.
+  void sessionCreated(quillmere::DirectExecutionSessionController* controller);
   void copied();
   void closed();
   /// The run, if there was one, is over and recorded.
@@ -167,7 +166,6 @@ class CommandPreviewSheetModel : public QObject {
   std::optional<DirectRunConfirmation> directRunConfirmation_;
   std::optional<QString> directRunErrorMessage_;
   std::unique_ptr<DirectExecutionSessionController> directExecutionSessionController_;
-  std::unique_ptr<DirectExecutionSessionViewModel> sessionViewModel_;
   std::optional<QDateTime> recordedExecutionEndedAt_;
 };
 

@@ -18,11 +18,11 @@ namespace quillmere {
 
 /// What the session view shows of a run. Output is read on the thread pool, at most ten times a
 /// second while the run goes on and once when it has ended, so that a flood of it costs the window
-/// nothing. Owned by the sheet's model, like the controller that it observes; UI thread only.
+/// nothing. The controller that it observes outlives it; UI thread only.
 class DirectExecutionSessionViewModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
-  QML_UNCREATABLE("Made by the command preview")
+  QML_UNCREATABLE("Made by the main window")
   Q_PROPERTY(QString commandText READ commandText CONSTANT)
   Q_PROPERTY(QString statusText READ statusText NOTIFY statusChanged)
   Q_PROPERTY(QString statusSymbol READ statusSymbol NOTIFY statusChanged)

@@ -102,14 +102,14 @@ class LongUse : public testing::Test {
   }
 
   void openPreview(const BrewCommand& command) {
-    content().openPreview(command, u"Services"_s);
-    ASSERT_NE(content().preview(), nullptr);
+    content().commands()->openPreview(command, u"Services"_s);
+    ASSERT_NE(content().commands()->preview(), nullptr);
     drawFrame();
   }
 
   void closePreview() {
-    content().preview()->close();
-    waitUntil([this] { return content().preview() == nullptr; });
+    content().commands()->preview()->close();
+    waitUntil([this] { return content().commands()->preview() == nullptr; });
     drawFrame();
   }
 
@@ -177,9 +177,9 @@ TEST_F(LongUse, OpensAndClosesPreviews) {
 TEST_F(LongUse, OpensAndLeavesQuestionsAboutARun) {
   repeat(rounds(10, 500), [this] {
     openPreview(BrewCommandBuilder().upgrade(std::nullopt).value());
-    content().preview()->run();
+    content().commands()->preview()->run();
     drawFrame();
-    content().preview()->cancelConfirmation();
+    content().commands()->preview()->cancelConfirmation();
     closePreview();
   });
 }
@@ -187,9 +187,9 @@ TEST_F(LongUse, OpensAndLeavesQuestionsAboutARun) {
 TEST_F(LongUse, RunsCommands) {
   repeat(rounds(6, 100), [this] {
     openPreview(BrewCommandBuilder().servicesList());
-    content().preview()->run();
-    waitUntil([this] { return content().preview()->session() != nullptr; });
-    DirectExecutionSessionViewModel* const session = content().preview()->session();
+    content().commands()->preview()->run();
+    waitUntil([this] { return content().commands()->session() != nullptr; });
+    DirectExecutionSessionViewModel* const session = content().commands()->session();
     session->setShowsRawOutput(true);
     waitUntil([session] { return !session->isRunning(); });
     drawFrame();

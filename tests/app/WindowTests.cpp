@@ -278,7 +278,7 @@ class Stage : public QObject {
     auto detail = std::make_unique<PackageDetailViewModel>(
         demo::demoPackage(scene),
         [&content](const BrewCommand& command, const QString& sourceScreen) {
-          content.openPreview(command, sourceScreen);
+          content.commands()->openPreview(command, sourceScreen);
         },
         &QDateTime::currentDateTimeUtc,
         [this](const QUrl& url) {
@@ -304,17 +304,18 @@ class Stage : public QObject {
 
   Q_INVOKABLE void previewUninstall() {
     const BrewCommandTarget wget{BrewCommandTargetKind::formula, QStringLiteral("wget")};
-    world_->content.openPreview(BrewCommandBuilder().uninstall(wget).value(),
-                                QStringLiteral("Installed"));
+    world_->content.commands()->openPreview(BrewCommandBuilder().uninstall(wget).value(),
+                                            QStringLiteral("Installed"));
   }
 
   Q_INVOKABLE void previewServicesList() {
-    world_->content.openPreview(BrewCommandBuilder().servicesList(), QStringLiteral("Services"));
+    world_->content.commands()->openPreview(BrewCommandBuilder().servicesList(),
+                                            QStringLiteral("Services"));
   }
 
   Q_INVOKABLE void previewUpgrade() {
-    world_->content.openPreview(BrewCommandBuilder().upgrade(std::nullopt).value(),
-                                QStringLiteral("Updates"));
+    world_->content.commands()->openPreview(BrewCommandBuilder().upgrade(std::nullopt).value(),
+                                            QStringLiteral("Updates"));
   }
 
   /// The window of this title that is open; null where there is none.
@@ -334,8 +335,8 @@ class Stage : public QObject {
 
   Q_INVOKABLE void previewLongInstall() {
     const BrewCommandTarget target{BrewCommandTargetKind::formula, QString(120, u'w')};
-    world_->content.openPreview(BrewCommandBuilder().install(target).value(),
-                                QStringLiteral("Browse"));
+    world_->content.commands()->openPreview(BrewCommandBuilder().install(target).value(),
+                                            QStringLiteral("Browse"));
   }
 
   Q_INVOKABLE QString clipboard() const { return QGuiApplication::clipboard()->text(); }

@@ -12,7 +12,7 @@ WindowCase {
         keyClick(Qt.Key_Space);
         shows("brew services list");
         keyClick(Qt.Key_Escape);
-        tryCompare(stage.content, "preview", null);
+        tryCompare(stage.content.commands, "preview", null);
         hides("brew services list");
         tryCompare(opener, "activeFocus", true);
     }
@@ -35,7 +35,7 @@ WindowCase {
         press("Show command-line output");
         shows("Command-line output");
         press("Close");
-        tryCompare(stage.content, "preview", null);
+        tryCompare(stage.content.commands, "preview", null);
         compare(stage.historyCount(), 1);
     }
 

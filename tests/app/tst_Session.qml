@@ -26,7 +26,7 @@ SessionCase {
         shows("[quillmere] Resolving selected-prefix bin/brew.");
         press("Cancel");
         tryVerify(() => button("Run Command") !== null);
-        compare(stage.content.preview.session, null);
+        compare(stage.content.commands.session, null);
     }
 
     function test_theEndOfARunIsAnnouncedAndTheKeyboardCanCloseIt() {
@@ -37,7 +37,7 @@ SessionCase {
         announces("Completed with exit code 0");
         tryVerify(() => button("Close").activeFocus);
         keyClick(Qt.Key_Space);
-        tryCompare(stage.content, "preview", null);
+        tryCompare(stage.content.commands, "preview", null);
     }
 
     function test_aFailureComesWithTheNextStep() {
@@ -96,7 +96,7 @@ SessionCase {
         keyClick(Qt.Key_Escape);
         hides("A Command Is Still Running");
         verify(window.visible);
-        verify(stage.content.preview.session.isRunning);
+        verify(stage.content.commands.session.isRunning);
         keyClick(Qt.Key_Q, Qt.ControlModifier);
         press("Cancel Command and Quit");
         tryCompare(quits, "count", 1, 10000);

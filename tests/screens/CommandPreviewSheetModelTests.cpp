@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "commands/BrewCommandBuilder.h"
+#include "execution/DirectCommandOutputPresentation.h"
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "screens/CommandPreviewSheetModel.h"
@@ -90,7 +91,8 @@ TEST_F(CommandPreview, RunsAnInformationalCommandAtOnce) {
   EXPECT_FALSE(model.confirmationPending());
   waitForEndOfRun();
   EXPECT_TRUE(brewRan());
-  EXPECT_EQ(model.session()->statusText(), QStringLiteral("Completed with exit code 0"));
+  EXPECT_EQ(statusText(model.sessionController()->status()),
+            QStringLiteral("Completed with exit code 0"));
 }
 
 TEST_F(CommandPreview, RecordsARunOnce) {
@@ -253,7 +255,7 @@ TEST_F(CommandPreview, DropsAStartThatIsCancelled) {
   disk->released.release();
   QTest::qWait(100);
   EXPECT_EQ(model.phase(), Phase::Preview);
-  EXPECT_EQ(model.session(), nullptr);
+  EXPECT_EQ(model.sessionController(), nullptr);
   EXPECT_FALSE(model.errorPending());
   EXPECT_FALSE(brewRan());
   model.run();
@@ -282,14 +284,13 @@ TEST_F(CommandPreview, StaysOpenWhileItsRunGoesOn) {
   EXPECT_FALSE(model.canClose());
   model.close();
   EXPECT_EQ(closed.count(), 0);
-  model.session()->cancel();
-  EXPECT_TRUE(model.session()->cancellationPending());
+  model.cancelRun();
+  EXPECT_TRUE(model.sessionController()->cancellationRequested());
   EXPECT_TRUE(model.isRunning());
   EXPECT_TRUE(model.canClose());
   prefix.withFile(QStringLiteral("release"));
   waitForEndOfRun();
-  EXPECT_FALSE(model.session()->cancellationPending());
-  EXPECT_EQ(model.session()->statusText(), QStringLiteral("Cancelled"));
+  EXPECT_EQ(statusText(model.sessionController()->status()), QStringLiteral("Cancelled"));
   EXPECT_EQ(store.commandHistory().first().executionCancelled, true);
   model.close();
   EXPECT_EQ(closed.count(), 1);
@@ -300,7 +301,8 @@ TEST_F(CommandPreview, ReportsARunThatFails) {
   auto& model = previewInPrefix(builder.doctor());
   model.run();
   waitForEndOfRun();
-  EXPECT_EQ(model.session()->statusText(), QStringLiteral("Command exited with status 1."));
+  EXPECT_EQ(statusText(model.sessionController()->status()),
+            QStringLiteral("Command exited with status 1."));
   EXPECT_EQ(store.commandHistory().first().executionExitCode, 1);
 }
 
