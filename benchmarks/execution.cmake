@@ -10,4 +10,4 @@ add_dependencies(benchmark_chatty_prefix chatter)
 quillmere_benchmark(execution
   SOURCES streaming.cpp
   LARGE "/(10|100)"
-  LINK quillmere_screens benchmark_chatty_prefix Qt6::Gui)
+  LINK quillmere_screens_run benchmark_chatty_prefix Qt6::Gui)

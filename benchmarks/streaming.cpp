@@ -9,7 +9,7 @@
 #include "commands/BrewCommandBuilder.h"
 #include "execution/DirectCommandRunner.h"
 #include "execution/DirectExecutionSessionController.h"
-#include "screens/DirectExecutionSessionViewModel.h"
+#include "screens/run/DirectExecutionSessionViewModel.h"
 
 namespace quillmere {
 namespace {

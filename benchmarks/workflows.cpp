@@ -12,7 +12,7 @@
 #include "app/CatalogWorkflows.h"
 #include "app/InventoryWorkflows.h"
 #include "persistence/LocalPersistenceStore.h"
-#include "screens/FormulaCatalogViewModel.h"
+#include "screens/browse/FormulaCatalogViewModel.h"
 #include "support/CatalogServer.h"
 #include "support/DemoPrefix.h"
 #include "support/TemporarySettings.h"

@@ -4,37 +4,59 @@
 
 file(STRINGS "${CMAKE_CURRENT_SOURCE_DIR}/src/arrows.txt" _arrows REGEX "^[a-z]")
 foreach(_line IN LISTS _arrows)
-  string(REGEX MATCH "^([a-z-]+) *:(.*)$" _ "${_line}")
+  string(REGEX MATCH "^([a-z/-]+) *:(.*)$" _ "${_line}")
   set(_folder "${CMAKE_MATCH_1}")
   separate_arguments(_uses UNIX_COMMAND "${CMAKE_MATCH_2}")
+  if("screens/*" IN_LIST _uses)
+    set(_screens "${QUILLMERE_FOLDERS}")
+    list(FILTER _screens INCLUDE REGEX "^screens/")
+    list(REMOVE_ITEM _uses "screens/*")
+    list(APPEND _uses ${_screens})
+  endif()
   set(QUILLMERE_ARROWS_${_folder} "${_uses}")
   list(APPEND QUILLMERE_FOLDERS "${_folder}")
 endforeach()
+
+# Writes to OUT the name of FOLDER's library.
+function(quillmere_target FOLDER OUT)
+  string(REGEX REPLACE "[/-]" "_" _name "${FOLDER}")
+  set(${OUT} quillmere_${_name} PARENT_SCOPE)
+endfunction()
+
+# Writes to OUT the URI of the QML module that FOLDER is: screens/browse is Quillmere.Browse.
+function(quillmere_uri FOLDER OUT)
+  get_filename_component(_name "${FOLDER}" NAME)
+  string(SUBSTRING "${_name}" 0 1 _first)
+  string(SUBSTRING "${_name}" 1 -1 _rest)
+  string(TOUPPER "${_first}" _first)
+  set(${OUT} Quillmere.${_first}${_rest} PARENT_SCOPE)
+endfunction()
 
 # Writes to OUT the targets that FOLDER may link: those of the table that are built already.
 function(quillmere_arrows FOLDER OUT)
   set(_targets)
   foreach(_used IN LISTS QUILLMERE_ARROWS_${FOLDER})
-    string(REPLACE "-" "_" _used "${_used}")
-    if(TARGET quillmere_${_used})
-      list(APPEND _targets quillmere_${_used})
-    endif()
+    quillmere_target(${_used} _used)
+    foreach(_target IN ITEMS ${_used} ${_used}plugin)
+      if(TARGET ${_target})
+        list(APPEND _targets ${_target})
+      endif()
+    endforeach()
   endforeach()
   set(${OUT} "${_targets}" PARENT_SCOPE)
 endfunction()
 
-# quillmere_folder(FOLDER HEADERS … SOURCES … [LINK …])
-#   Files are named as includes name them, from src/ on. LINK names libraries from outside (Qt,
-#   QCoro), never a folder.
+# quillmere_folder(FOLDER [HEADERS …] [SOURCES …] [QML_FILES …] [LINK …])
+#   Headers and sources are named as includes name them, from src/ on; QML files from their folder on,
+#   which they make a QML module. LINK names libraries from outside (Qt, QCoro), never a folder.
 function(quillmere_folder FOLDER)
-  cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINK" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;QML_FILES;LINK" ${ARGN})
   list(TRANSFORM ARG_HEADERS PREPEND "${PROJECT_SOURCE_DIR}/src/")
   list(TRANSFORM ARG_SOURCES PREPEND "${PROJECT_SOURCE_DIR}/src/")
-  string(REPLACE "-" "_" _name "${FOLDER}")
-  set(_target quillmere_${_name})
+  quillmere_target(${FOLDER} _target)
   set(_scope PUBLIC)
   set(_compiler PRIVATE)
-  if(ARG_SOURCES)
+  if(ARG_SOURCES OR ARG_QML_FILES)
     add_library(${_target} STATIC ${ARG_SOURCES})
     set_target_properties(${_target} PROPERTIES AUTOMOC ON)
   else()
@@ -42,12 +64,42 @@ function(quillmere_folder FOLDER)
     set(_scope INTERFACE)
     set(_compiler INTERFACE)
   endif()
-  target_sources(${_target} ${_scope} FILE_SET HEADERS
-    BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${ARG_HEADERS})
-  set_target_properties(${_target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  if(ARG_HEADERS)
+    target_sources(${_target} ${_scope} FILE_SET HEADERS
+      BASE_DIRS "${PROJECT_SOURCE_DIR}/src" FILES ${ARG_HEADERS})
+    set_target_properties(${_target} PROPERTIES VERIFY_INTERFACE_HEADER_SETS ON)
+  endif()
   quillmere_arrows(${FOLDER} _uses)
   target_link_libraries(${_target} ${_scope} ${_uses} ${ARG_LINK})
   target_link_libraries(${_target} ${_compiler} quillmere_compiler)
+  if(ARG_QML_FILES)
+    quillmere_qml_module(${FOLDER} ${ARG_QML_FILES})
+  endif()
+endfunction()
+
+# quillmere_qml_module(FOLDER FILES …) makes a folder's library a QML module, which may import the
+# modules among the folders that it may use.
+function(quillmere_qml_module FOLDER)
+  quillmere_target(${FOLDER} _target)
+  quillmere_uri(${FOLDER} _uri)
+  set(_imports QtQuick)
+  foreach(_used IN LISTS QUILLMERE_ARROWS_${FOLDER})
+    quillmere_target(${_used} _library)
+    if(TARGET ${_library}plugin)
+      quillmere_uri(${_used} _import)
+      list(APPEND _imports ${_import})
+    endif()
+  endforeach()
+  target_link_libraries(${_target} PUBLIC Qt6::Quick)
+  qt_add_qml_module(${_target}
+    URI ${_uri}
+    VERSION 1.0
+    RESOURCE_PREFIX /qt/qml
+    DEPENDENCIES ${_imports}
+    QML_FILES ${ARGN})
+  # The registration of types includes headers by their bare names.
+  target_include_directories(${_target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+  quillmere_compiled_qml(${_target})
 endfunction()
 
 # quillmere_compiled_qml(TARGET)

@@ -2,8 +2,8 @@
 
 #include <QtCore/QByteArray>
 
-#include "screens/CatalogInputs.h"
-#include "screens/LocalInventoryInputs.h"
+#include "screens/browse/CatalogInputs.h"
+#include "screens/shared/LocalInventoryInputs.h"
 
 namespace quillmere::demo {
 

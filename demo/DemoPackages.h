@@ -3,8 +3,8 @@
 #include <QtCore/QString>
 #include <QtCore/QUrl>
 
-#include "screens/LocalInventoryInputs.h"
-#include "screens/PackageDetailViewModel.h"
+#include "screens/package/PackageDetailViewModel.h"
+#include "screens/shared/LocalInventoryInputs.h"
 
 namespace quillmere::demo {
 

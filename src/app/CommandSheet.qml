@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Layouts
 import Quillmere.App
-import Quillmere.Screens
+import Quillmere.Preview
+import Quillmere.Run
 
 // A command in its sheet: first its preview, then its run.
 CommandPreviewSheet {

@@ -6,8 +6,8 @@
 
 #include <memory>
 
-#include "screens/CommandPreviewSheetModel.h"
-#include "screens/DirectExecutionSessionViewModel.h"
+#include "screens/preview/CommandPreviewSheetModel.h"
+#include "screens/run/DirectExecutionSessionViewModel.h"
 
 namespace quillmere {
 

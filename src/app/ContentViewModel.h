@@ -19,14 +19,14 @@
 #include "app/QuitGuard.h"
 #include "execution/BrewExecutableResolver.h"
 #include "execution/DirectCommandExecution.h"
-#include "screens/CleanupGuidanceViewModel.h"
-#include "screens/CommandHistoryViewModel.h"
-#include "screens/DashboardViewModel.h"
-#include "screens/FormulaCatalogViewModel.h"
-#include "screens/InstalledPackagesViewModel.h"
-#include "screens/ServicesGuidanceViewModel.h"
-#include "screens/SettingsViewModel.h"
-#include "screens/UpdatesViewModel.h"
+#include "screens/browse/FormulaCatalogViewModel.h"
+#include "screens/cleanup/CleanupGuidanceViewModel.h"
+#include "screens/dashboard/DashboardViewModel.h"
+#include "screens/history/CommandHistoryViewModel.h"
+#include "screens/installed/InstalledPackagesViewModel.h"
+#include "screens/services/ServicesGuidanceViewModel.h"
+#include "screens/settings/SettingsViewModel.h"
+#include "screens/updates/UpdatesViewModel.h"
 
 namespace quillmere {
 

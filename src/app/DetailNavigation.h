@@ -6,7 +6,7 @@
 #include <memory>
 #include <vector>
 
-#include "screens/PackageDetailViewModel.h"
+#include "screens/package/PackageDetailViewModel.h"
 
 namespace quillmere {
 

@@ -7,10 +7,10 @@ import QtQuick
 Repeater {
     id: root
 
-    readonly property list<string> files: ["Screens/FormulaCatalogView",
-        "Screens/InstalledPackagesView", "Screens/PackageDetailView", "Screens/UpdatesView",
-        "Screens/CleanupGuidanceView", "Screens/CommandHistoryView",
-        "Screens/SettingsView", "Screens/ServicesGuidanceView", "Screens/AboutLegalView",
+    readonly property list<string> files: ["Browse/FormulaCatalogView",
+        "Installed/InstalledPackagesView", "Package/PackageDetailView", "Updates/UpdatesView",
+        "Cleanup/CleanupGuidanceView", "History/CommandHistoryView",
+        "Settings/SettingsView", "Services/ServicesGuidanceView", "About/AboutLegalView",
         "App/CommandSheet", "App/PrefixRefusalAlert", "App/QuitAlert"]
 
     property bool begun: false

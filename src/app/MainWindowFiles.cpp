@@ -25,7 +25,7 @@ MainWindowFiles::MainWindowFiles() {
   engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
   windowFile_.loadUrl(qmlFile(QStringLiteral("App/MainWindow.qml")));
   // The engine's own thread loads the first screen while this one makes the window.
-  firstScreenFile_.loadUrl(qmlFile(QStringLiteral("Screens/DashboardView.qml")),
+  firstScreenFile_.loadUrl(qmlFile(QStringLiteral("Dashboard/DashboardView.qml")),
                            QQmlComponent::Asynchronous);
 }
 

@@ -1,6 +1,6 @@
 import QtQuick
 import Quillmere.App
-import Quillmere.Screens
+import Quillmere.Shared
 
 // The folder chooser, in a file of its own because it is loaded when a folder is first asked for.
 Item {

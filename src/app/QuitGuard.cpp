@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "screens/CommandPreviewSheetModel.h"
+#include "screens/preview/CommandPreviewSheetModel.h"
 
 namespace quillmere {
 namespace {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Quillmere.App
-import Quillmere.Screens
+import Quillmere.Package
 
 // The screen of the selected section, and over it the package that is open in it. A screen lives
 // while its section is selected, so that it is as it was when a package is closed. Its file is
@@ -19,7 +19,7 @@ FocusScope {
 
     component Place: Loader {
         function fill(view: string, viewModel: QtObject): void {
-            setSource("../Screens/" + view + ".qml", viewModel ? {viewModel: viewModel} : {});
+            setSource("../" + view + ".qml", viewModel ? {viewModel: viewModel} : {});
         }
 
         anchors.fill: parent
@@ -59,55 +59,55 @@ FocusScope {
 
         Section {
             name: "dashboard"
-            view: "DashboardView"
+            view: "Dashboard/DashboardView"
             viewModel: root.viewModel.dashboard
         }
 
         Section {
             name: "installed"
-            view: "InstalledPackagesView"
+            view: "Installed/InstalledPackagesView"
             viewModel: root.viewModel.installed
         }
 
         Section {
             name: "browse"
-            view: "FormulaCatalogView"
+            view: "Browse/FormulaCatalogView"
             viewModel: root.viewModel.browse
         }
 
         Section {
             name: "updates"
-            view: "UpdatesView"
+            view: "Updates/UpdatesView"
             viewModel: root.viewModel.updates
         }
 
         Section {
             name: "cleanup"
-            view: "CleanupGuidanceView"
+            view: "Cleanup/CleanupGuidanceView"
             viewModel: root.viewModel.cleanup
         }
 
         Section {
             name: "services"
-            view: "ServicesGuidanceView"
+            view: "Services/ServicesGuidanceView"
             viewModel: root.viewModel.services
         }
 
         Section {
             name: "history"
-            view: "CommandHistoryView"
+            view: "History/CommandHistoryView"
             viewModel: root.viewModel.history
         }
 
         Section {
             name: "settings"
-            view: "SettingsView"
+            view: "Settings/SettingsView"
             viewModel: root.viewModel.settings
         }
 
         Section {
             name: "aboutLegal"
-            view: "AboutLegalView"
+            view: "About/AboutLegalView"
         }
     }
 
@@ -116,7 +116,7 @@ FocusScope {
 
         function show(detail: PackageDetailViewModel): void {
             if (detail)
-                fill("PackageDetailView", detail);
+                fill("Package/PackageDetailView", detail);
             else
                 detailPlace.source = "";
         }

@@ -1,5 +1,5 @@
 import QtQuick
-import Quillmere.Screens
+import Quillmere.Settings
 
 // The settings in a window of their own, made when they are first asked for.
 Loader {

@@ -1,6 +1,6 @@
 import QtQuick
 import Quillmere.App
-import Quillmere.Screens
+import Quillmere.Settings
 
 // The window of the settings, in a file of its own because most starts never load it.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import "../support/window"
 
 // The keyboard is somewhere that can be seen, whatever comes and goes on a screen.
 PackageCase {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import "../support/window"
 
 // What a catalog or a prefix holds is shown, whatever it is: on one line, the way it is written, and
 // without asking anybody for anything.

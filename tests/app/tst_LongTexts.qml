@@ -1,6 +1,7 @@
 import QtQuick
 import QtTest
 import Quillmere.Components
+import "../support/window"
 
 // Nothing that is too long for its place leaves it.
 WindowCase {

@@ -1,5 +1,6 @@
 import QtQuick
 import Quillmere.App
+import "../support/window"
 
 WindowCase {
     id: root

@@ -1,5 +1,6 @@
 import QtQuick
 import QtTest
+import "../support/window"
 
 // What assistive technology finds on each screen.
 WindowCase {

@@ -60,12 +60,25 @@ class Findings:
     def add(self, file, line, message):
         self._lines.append(f"{file}:{line}: {message}")
 
+    def addFolder(self, folder, message):
+        self._lines.append(f"{folder}: {message}")
+
     def addAt(self, file, text, position, message):
         self.add(file, text.count("\n", 0, position) + 1, message)
 
     def finish(self):
         print("\n".join(self._lines) if self._lines else "nothing to object to")
         sys.exit(1 if self._lines else 0)
+
+
+def readArrows(root):
+    """src/arrows.txt: of each folder, its line and the folders that it may use, as they are written."""
+    rows = {}
+    for number, line in enumerate((root / "src/arrows.txt").read_text().splitlines(), 1):
+        if line.strip() and not line.startswith("#"):
+            folder, _, uses = line.partition(":")
+            rows[folder.strip()] = (number, uses.split())
+    return rows
 
 
 def rootArgument():

@@ -2,18 +2,12 @@
 
 import re
 
-from lintlib import CODE, Findings, projectFiles, readText, rootArgument
+from lintlib import CODE, Findings, projectFiles, readArrows, readText, rootArgument
 
 LINES = 20
 HEADINGS = ("Owns:", "Must never know:", "Entry types:", "Threads:", "May use:")
 NAME = re.compile(r"`([A-Za-z_]\w*(?:::\w+)*)(?:\(\))?`")
 FILE = re.compile(r"`([\w/.-]+\.(?:h|cpp|qml|txt|cmake))`")
-
-
-def readTable(root):
-    rows = (line.partition(":") for line in (root / "src/arrows.txt").read_text().splitlines()
-            if line.strip() and not line.startswith("#"))
-    return {folder.strip(): uses.split() for folder, _, uses in rows}
 
 
 def checkNames(root, file, text, findings):
@@ -35,7 +29,7 @@ def checkArrows(file, text, allowed, findings):
     match = re.search(r"^May use:(.*)$", text, re.MULTILINE)
     if not match:
         return
-    named = [] if match[1].strip() == "nothing." else re.findall(r"[\w-]+", match[1])
+    named = [] if match[1].strip() == "nothing." else re.findall(r"[\w/*-]+", match[1])
     if named != allowed:
         expected = ", ".join(allowed) or "nothing"
         findings.addAt(file, text, match.start(),
@@ -45,7 +39,7 @@ def checkArrows(file, text, allowed, findings):
 def main():
     root = rootArgument()
     findings = Findings()
-    for folder, allowed in readTable(root).items():
+    for folder, (_, allowed) in readArrows(root).items():
         if not (root / "src" / folder).is_dir():
             continue
         path = root / "src" / folder / "README.md"

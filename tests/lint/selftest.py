@@ -10,7 +10,14 @@ from pathlib import Path
 
 HERE = Path(__file__).resolve().parent
 PROJECT = HERE.parent.parent
-ARROWS = "platform :\napp-values :\ncommands : platform app-values\nscreens : platform commands\n"
+ARROWS = """platform :
+app-values :
+commands : platform app-values
+screens/components :
+screens/one : commands screens/components
+screens/two : screens/components
+app : screens/*
+"""
 README = """Owns: names.
 Must never know: Homebrew.
 Entry types: `Name`.
@@ -30,7 +37,7 @@ class LintTest(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.root = Path(folder.name).resolve()
-        self.write("src/arrows.txt", ARROWS)
+        self.write("src/arrows.txt", "platform :\n")
 
     def write(self, name, text):
         path = self.root / name
@@ -69,9 +76,19 @@ class LintTest(unittest.TestCase):
 
 
 class Arrows(LintTest):
+    def setUp(self):
+        super().setUp()
+        self.write("src/arrows.txt", ARROWS)
+        # What uses each arrow of the table.
+        self.write("src/commands/Used.h", '#include "platform/A.h"\n#include "app/AppSection.h"\n')
+        self.write("src/screens/one/Used.h", '#include "commands/Used.h"\n')
+        self.write("src/screens/one/Used.qml", "import Quillmere.Components\n")
+        self.write("src/screens/two/Used.h", '#include "screens/components/A.h"\n')
+
     def testLetsAllowedIncludesPass(self):
         self.write("src/commands/A.h", '#include "platform/B.h"\n#include "app/AppSection.h"\n'
-                   '#include "commands/C.h"\n// #include "screens/D.h"\n#include <QtCore/QString>\n')
+                   '#include "commands/C.h"\n// #include "screens/one/D.h"\n'
+                   '#include <QtCore/QString>\n')
         self.write("src/commands/A.cpp", '#include "moc_A.cpp"\n')
         self.assertPasses(self.lint("arrows"))
 
@@ -85,7 +102,7 @@ class Arrows(LintTest):
 
     def testStopsAppFromBelow(self):
         self.write("src/commands/A.h", '#include "app/ContentViewModel.h"\n')
-        self.assertStops(self.lint("arrows"), "names no folder")
+        self.assertStops(self.lint("arrows"), "src/commands/A.h:1:", "may not use app")
 
     def testStopsAnIncludeOfNoFolder(self):
         self.write("src/commands/A.h", '#include "B.h"\n')
@@ -95,23 +112,76 @@ class Arrows(LintTest):
         self.write("src/arrows.txt", "platform : commands\ncommands : platform\n")
         self.assertStops(self.lint("arrows"), "src/arrows.txt:1:", "loop")
 
+    def testStopsAnArrowThatNothingNeeds(self):
+        (self.root / "src/screens/one/Used.h").unlink()
+        self.assertStops(self.lint("arrows"), "src/arrows.txt:5:", "screens/one -> commands")
+
     def testStopsAFolderThatIsNotInTheTable(self):
         self.write("src/helpers/A.h", "\n")
         self.assertStops(self.lint("arrows"), "helpers is no row")
+        self.write("src/screens/A.qml", "import QtQuick\n")
+        self.assertStops(self.lint("arrows"), "screens is no row")
 
-    def testLetsScreensUseComponents(self):
-        self.write("src/screens/A.qml", "import Quillmere.Components\n")
-        self.write("src/screens/A.h", '#include "screens/components/B.h"\n')
+    def testLetsAppUseEachScreen(self):
+        self.write("src/app/A.qml", "import Quillmere.One\nimport Quillmere.Components\n")
+        self.write("src/app/A.h", '#include "screens/two/B.h"\n')
         self.assertPasses(self.lint("arrows"))
 
-    def testStopsComponentsFromUsingScreens(self):
-        self.write("src/screens/components/A.qml", "import Quillmere.Screens\n")
-        self.write("src/screens/components/A.h", '#include "screens/B.h"\n')
+    def testStopsOneScreenFromUsingAnother(self):
+        self.write("src/screens/one/A.h", '#include "screens/two/B.h"\n')
+        self.write("src/screens/two/A.qml", "import QtQuick\nimport Quillmere.One\n")
+        self.assertStops(self.lint("arrows"),
+                         "src/screens/one/A.h:1:", "screens/one may not use screens/two",
+                         "src/screens/two/A.qml:2:", "screens/two may not import Quillmere.One")
+
+    def testStopsComponentsFromUsingAScreen(self):
+        self.write("src/screens/components/A.qml", "import Quillmere.One\n")
+        self.write("src/screens/components/A.h", '#include "screens/one/B.h"\n')
         self.assertStops(self.lint("arrows"), "components/A.qml:1:", "components/A.h:1:")
 
+    def testStopsAnImportOfNoModule(self):
+        self.write("src/screens/one/A.qml", "import Quillmere.Screens\n")
+        self.assertStops(self.lint("arrows"), "src/screens/one/A.qml:1:")
+
     def testStopsImportsByFolder(self):
-        self.write("src/screens/A.qml", 'import "components"\n')
-        self.assertStops(self.lint("arrows"), "src/screens/A.qml:1:")
+        self.write("src/screens/one/A.qml", 'import "../components"\n')
+        self.assertStops(self.lint("arrows"), "src/screens/one/A.qml:1:")
+
+
+class Linking(LintTest):
+    """Builds two screens of which one uses the other, as the project builds its own."""
+
+    def build(self, arrows):
+        self.write("src/arrows.txt", arrows)
+        self.write("CMakeLists.txt", f"""
+            cmake_minimum_required(VERSION 3.25)
+            project(Sample LANGUAGES CXX)
+            add_library(quillmere_compiler INTERFACE)
+            include("{PROJECT}/cmake/QuillmereFolder.cmake")
+            add_subdirectory(src)
+            add_executable(two Main.cpp)
+            target_link_libraries(two PRIVATE quillmere_screens_two)
+            """)
+        self.write("Main.cpp", '#include "screens/two/Two.h"\nint main() { return two(); }\n')
+        for file in ("src/CMakeLists.txt", "src/screens/CMakeLists.txt"):
+            self.write(file, (PROJECT / file).read_text())
+        self.write("src/screens/one/CMakeLists.txt", "quillmere_folder(screens/one"
+                   " HEADERS screens/one/One.h SOURCES screens/one/One.cpp)\n")
+        self.write("src/screens/one/One.h", "int one();\n")
+        self.write("src/screens/one/One.cpp", "int one() { return 1; }\n")
+        self.write("src/screens/two/CMakeLists.txt", "quillmere_folder(screens/two"
+                   " HEADERS screens/two/Two.h SOURCES screens/two/Two.cpp)\n")
+        self.write("src/screens/two/Two.h", "int two();\n")
+        self.write("src/screens/two/Two.cpp", '#include "screens/two/Two.h"\n'
+                   '#include "screens/one/One.h"\nint two() { return one(); }\n')
+        self.assertPasses(self.run_("cmake", "-S", ".", "-B", "build"))
+        return self.run_("cmake", "--build", "build")
+
+    def testLinksAnArrowOfTheTable(self):
+        self.assertPasses(self.build("screens/one :\nscreens/two : screens/one\n"))
+
+    def testDoesNotLinkOneScreenWithAnother(self):
+        self.assertStops(self.build("screens/one :\nscreens/two :\n"), "undefined reference", "one()")
 
 
 class Readmes(LintTest):
@@ -193,11 +263,29 @@ class Sizes(LintTest):
     def testKeepsTheLimits(self):
         for name, limit in (("A.h", 400), ("A.cpp", 400), ("A.qml", 150)):
             with self.subTest(name=name):
-                path = self.write("src/screens/" + name, "\n" * (limit - 1))
+                path = self.write("src/screens/one/" + name, "\n" * (limit - 1))
                 self.assertPasses(self.lint("sizes"))
-                self.write("src/screens/" + name, "\n" * limit)
-                self.assertStops(self.lint("sizes"), f"src/screens/{name}:{limit}:")
+                self.write("src/screens/one/" + name, "\n" * limit)
+                self.assertStops(self.lint("sizes"), f"src/screens/one/{name}:{limit}:")
                 path.unlink()
+
+    def testKeepsFoldersSmall(self):
+        for folder, limit in (("src/screens/one", 30), ("src/screens/components", 60),
+                              ("src/platform", 60)):
+            with self.subTest(folder=folder):
+                for number in range(limit):
+                    self.write(f"{folder}/A{number}.h", "")
+                self.assertPasses(self.lint("sizes"))
+                self.write(f"{folder}/B.h", "")
+                self.assertStops(self.lint("sizes"), f"{folder}: {limit + 1} files")
+                (self.root / folder / "B.h").unlink()
+
+    def testKeepsScreensInFoldersOfTheirOwn(self):
+        self.write("src/screens/README.md", "")
+        self.write("src/screens/CMakeLists.txt", "")
+        self.assertPasses(self.lint("sizes"))
+        self.write("src/screens/A.qml", "")
+        self.assertStops(self.lint("sizes"), "src/screens: 3 files")
 
 
 class Forbidden(LintTest):

@@ -1,0 +1,149 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Browse
+import Quillmere.Components
+import Quillmere.Shared
+
+// The catalog: where it comes from, a search in it, and what the search found.
+FocusScope {
+    id: root
+
+    required property FormulaCatalogViewModel viewModel
+
+    // Read once, so that all bindings switch together and the keyboard's focus is kept.
+    readonly property int phase: viewModel.state
+    readonly property bool listed: phase === FormulaCatalogViewModel.Listed
+    readonly property bool loading: phase === FormulaCatalogViewModel.Loading
+    readonly property bool searchable: phase >= FormulaCatalogViewModel.Filtering
+    readonly property bool waiting: loading || phase === FormulaCatalogViewModel.Filtering
+    readonly property bool compact: column.width < actions.implicitWidth
+
+    // A catalog has to come from somewhere before there is a list.
+    Component.onCompleted: if (!searchable && !compact) actions.begin()
+
+    ColumnLayout {
+        id: column
+
+        x: (root.width - width) / 2
+        y: Theme.large
+        width: Math.min(root.width - 2 * Theme.large, Theme.textWidth)
+        height: root.height - 2 * Theme.large
+        spacing: Theme.normal
+
+        ScreenHeader {
+            Layout.fillWidth: true
+            freshness: root.viewModel.freshnessText
+            symbolName: "magnifyingglass"
+            title: "Browse Catalog"
+
+            CatalogMenu {
+                viewModel: root.viewModel
+                visible: root.compact
+            }
+        }
+
+        CatalogActions {
+            id: actions
+
+            viewModel: root.viewModel
+            visible: !root.compact
+        }
+
+        PackageSearchBar {
+            id: searchBar
+
+            Layout.fillWidth: true
+            enabled: root.searchable
+            placeholder: "Search formulae and casks"
+            search: root.viewModel.search
+
+            onLeftDownwards: area.enter()
+        }
+
+        PackageListArea {
+            id: area
+
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            accessibleSummary: root.viewModel.accessibleSummary
+            focus: true
+            listed: root.listed
+            model: root.viewModel.packages
+            summary: root.compact ? root.viewModel.shortSummary : root.viewModel.longSummary
+
+            onOpened: row => root.viewModel.open(row)
+
+            delegate: CatalogPackageRow {
+                width: ListView.view.width
+            }
+
+            StateMessage {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.sheetWidth)
+                symbolName: root.viewModel.symbolName
+                text: root.viewModel.text
+                title: root.viewModel.title
+                visible: !root.listed && !root.waiting
+
+                // The large window has them above, in a row.
+                PrimaryButton {
+                    focus: visible
+                    text: "Fetch All"
+                    visible: root.compact && !root.searchable
+
+                    onClicked: root.viewModel.fetchAll()
+                }
+
+                PlainButton {
+                    text: "Load Cached All"
+                    visible: root.compact && !root.searchable && root.viewModel.hasCachedCatalog
+
+                    onClicked: root.viewModel.loadCachedAll()
+                }
+
+                PlainButton {
+                    enabled: root.viewModel.search.searchText.length > 0
+                    focus: visible
+                    text: "Clear Search"
+                    visible: root.phase === FormulaCatalogViewModel.NoMatch
+
+                    onClicked: {
+                        root.viewModel.search.clear();
+                        searchBar.edit();
+                    }
+                }
+            }
+
+            Progress {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.alertWidth)
+                details: root.viewModel.progressText
+                fraction: root.viewModel.progressFraction
+                title: root.viewModel.title
+                visible: root.waiting
+
+                PlainButton {
+                    focus: visible
+                    text: "Cancel"
+                    visible: root.loading
+
+                    onClicked: root.viewModel.cancelFetch()
+                }
+            }
+        }
+    }
+
+    Announcement {
+        id: announcement
+    }
+
+    Connections {
+        function onAnnounced(text: string): void {
+            announcement.say(text);
+        }
+
+        target: root.viewModel
+    }
+}

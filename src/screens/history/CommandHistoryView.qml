@@ -1,0 +1,118 @@
+import QtQuick
+import QtQuick.Layouts
+import Quillmere.Components
+import Quillmere.History
+
+// The commands that were copied or run, newest first, and a search in them.
+FocusScope {
+    id: root
+
+    required property CommandHistoryViewModel viewModel
+
+    readonly property bool empty: viewModel.state === CommandHistoryViewModel.Empty
+    readonly property bool listed: viewModel.state === CommandHistoryViewModel.Listed
+
+    // Who comes back wants to see the history, not what was searched then.
+    Component.onCompleted: viewModel.enter()
+
+    ColumnLayout {
+        anchors.fill: parent
+        anchors.margins: Theme.large
+        spacing: Theme.normal
+        visible: !root.empty
+
+        ScreenHeader {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.textWidth
+            symbolName: "clock.arrow.circlepath"
+            title: "History"
+
+            DestructiveButton {
+                symbolName: "trash"
+                text: "Clear History"
+
+                onClicked: root.viewModel.askClear()
+            }
+        }
+
+        CommandHistorySearch {
+            id: search
+
+            Layout.alignment: Qt.AlignHCenter
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.textWidth
+            viewModel: root.viewModel
+
+            onFinished: list.takeKeyboard()
+        }
+
+        Item {
+            Layout.alignment: Qt.AlignHCenter
+            Layout.fillHeight: true
+            Layout.fillWidth: true
+            Layout.maximumWidth: Theme.textWidth
+
+            CommandHistoryList {
+                id: list
+
+                width: parent.width
+                height: Math.min(parent.height, fullHeight)
+                viewModel: root.viewModel
+                visible: root.listed
+            }
+
+            StateMessage {
+                anchors.centerIn: parent
+                width: Math.min(parent.width, Theme.sheetWidth)
+                symbolName: "magnifyingglass"
+                text: "Try a different command, package, operation, or source screen search."
+                title: "No History Matches"
+                visible: !root.empty && !root.listed
+
+                PlainButton {
+                    text: "Clear Search"
+
+                    onClicked: {
+                        root.viewModel.clearSearch();
+                        search.begin();
+                    }
+                }
+            }
+        }
+    }
+
+    StateMessage {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.large, Theme.sheetWidth)
+        symbolName: "clock.arrow.circlepath"
+        text: "Commands you copy or run will appear here. History is stored locally and can be cleared anytime."
+        title: "No Command History"
+        visible: root.empty
+    }
+
+    Shortcut {
+        enabled: !root.empty
+        sequence: "Ctrl+F"
+
+        onActivated: search.begin()
+    }
+
+    Announcement {
+        id: announcement
+    }
+
+    Alert {
+        confirmTitle: "Clear History"
+        message: "Quillmere will remove locally stored copied-command and execution history records."
+        parent: root
+        shown: root.viewModel.showsClearConfirmation
+        title: "Clear Command History?"
+
+        onCancelled: root.viewModel.cancelClear()
+        onConfirmed: {
+            root.viewModel.confirmClear();
+            announcement.say("Command history cleared");
+        }
+    }
+}

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "guidance/InstalledPackageSummary.h"
+#include "screens/components/ReplacedRowsModel.h"
+
+namespace quillmere {
+
+using InstalledPackagesSnapshot = std::shared_ptr<const std::vector<InstalledPackageSummary>>;
+
+/// Rows of the local inventory, as places in the shared list: their texts are made when a row comes
+/// into view. Owned by `InstalledPackagesViewModel`; UI thread only.
+class InstalledPackageListModel : public quillmere::ReplacedRowsModel {
+  Q_OBJECT
+  QML_ANONYMOUS
+
+ public:
+  enum Role {
+    NameRole = Qt::UserRole,
+    KindRole,
+    InstalledVersionRole,
+    LatestKnownVersionRole,
+    /// The description, or how the package came to be installed where there is none.
+    DescriptionRole,
+    AccessibleLabelRole,
+  };
+
+  using ReplacedRowsModel::ReplacedRowsModel;
+
+  /// Shows the packages at these places of `packages`, which may be null only where there are none.
+  void show(InstalledPackagesSnapshot packages, std::vector<std::size_t> places);
+
+  /// The package in this row, which there must be.
+  [[nodiscard]] const InstalledPackageSummary& package(int row) const;
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+ private:
+  InstalledPackagesSnapshot packages_;
+  std::vector<std::size_t> places_;
+};
+
+/// What a screen reader says of an installed package: what is not known is left out.
+[[nodiscard]] QString accessibleLabel(const InstalledPackageSummary& package);
+
+}  // namespace quillmere

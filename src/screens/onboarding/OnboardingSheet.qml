@@ -1,0 +1,19 @@
+import QtQuick.Templates as T
+import Quillmere.Components
+
+// The first thing that a new user sees. It goes only when one of its two ways in was taken.
+Sheet {
+    id: root
+
+    signal finished
+    signal selectPrefixWanted
+
+    closePolicy: T.Popup.NoAutoClose
+    sheetWidth: Theme.wideSheetWidth
+    title: "Welcome to Quillmere"
+
+    contentItem: OnboardingPage {
+        onFinished: root.finished()
+        onSelectPrefixWanted: root.selectPrefixWanted()
+    }
+}

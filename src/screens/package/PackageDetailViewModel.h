@@ -1,0 +1,164 @@
+#pragma once
+
+#include <QtCore/QDateTime>
+#include <QtCore/QObject>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QUrl>
+#include <QtGui/QDesktopServices>
+#include <QtQml/qqmlregistration.h>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "catalog/HomebrewPackageSummary.h"
+#include "guidance/InstalledPackageSummary.h"
+#include "screens/package/PackageCommandListModel.h"
+#include "screens/shared/PreviewRequest.h"
+
+namespace quillmere {
+
+/// One package, from the catalog or from the local inventory. What it shows never changes: the
+/// package is opened anew to see more. Owned by `ContentViewModel`, which makes one for each
+/// package that is opened. UI thread only.
+class PackageDetailViewModel : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the main window's view model")
+  Q_PROPERTY(QString name READ name CONSTANT)
+  Q_PROPERTY(QString kindText READ kindText CONSTANT)
+  Q_PROPERTY(QString versionText READ versionText CONSTANT)
+  Q_PROPERTY(QString descriptionText READ descriptionText CONSTANT)
+  Q_PROPERTY(QString notListedText READ notListedText CONSTANT)
+  Q_PROPERTY(QString latestKnownText READ latestKnownText CONSTANT)
+  Q_PROPERTY(QString headVersionText READ headVersionText CONSTANT)
+  Q_PROPERTY(QString homepageText READ homepageText CONSTANT)
+  Q_PROPERTY(bool canOpenHomepage READ canOpenHomepage CONSTANT)
+  Q_PROPERTY(QString homepageProblem READ homepageProblem NOTIFY homepageProblemChanged)
+  Q_PROPERTY(QString licenseText READ licenseText CONSTANT)
+  Q_PROPERTY(QString tapText READ tapText CONSTANT)
+  Q_PROPERTY(bool isInstalled READ isInstalled CONSTANT)
+  Q_PROPERTY(QString installedVersionText READ installedVersionText CONSTANT)
+  Q_PROPERTY(QString localSourceText READ localSourceText CONSTANT)
+  Q_PROPERTY(bool isFormula READ isFormula CONSTANT)
+  Q_PROPERTY(QString detailTitle READ detailTitle CONSTANT)
+  Q_PROPERTY(QString detailSymbolName READ detailSymbolName CONSTANT)
+  Q_PROPERTY(QString detailText READ detailText CONSTANT)
+  Q_PROPERTY(QList<QString> detailItems READ detailItems CONSTANT)
+  Q_PROPERTY(bool detailItemsLead READ detailItemsLead CONSTANT)
+  Q_PROPERTY(QString formulaProblem READ formulaProblem NOTIFY formulaProblemChanged)
+  Q_PROPERTY(QString reverseDependencyText READ reverseDependencyText CONSTANT)
+  Q_PROPERTY(QList<QString> reverseDependencyNames READ reverseDependencyNames CONSTANT)
+  Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText CONSTANT)
+  Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText CONSTANT)
+  Q_PROPERTY(quillmere::PackageCommandListModel* commands READ commands CONSTANT)
+  Q_PROPERTY(QString commandText READ commandText CONSTANT)
+
+ public:
+  using Clock = std::function<QDateTime()>;
+  /// Hands an address to the desktop; returns whether somebody took it.
+  using UrlOpener = std::function<bool(const QUrl&)>;
+
+  struct Inputs {
+    HomebrewPackageSummary package;
+    std::optional<InstalledPackageSummary> installedPackage;
+    /// Absent when unknown.
+    std::optional<std::vector<SharedText>> reverseDependencyNames;
+    /// Says why they are.
+    QString reverseDependencyUnavailableText;
+    std::optional<QDateTime> catalogLastRefreshDate;
+    std::optional<QDateTime> localInventoryLastScanDate;
+    /// Whether what a scan found is known, so that a package without a record is not installed.
+    bool hasInventory = false;
+    /// Whether there is a catalog that formulae can be looked up in.
+    bool hasCatalog = false;
+    /// The name of the section that it was opened in, for the history.
+    QString sourceScreen;
+  };
+
+  PackageDetailViewModel(Inputs inputs, PreviewRequest previewRequest,
+                         Clock clock = &QDateTime::currentDateTimeUtc,
+                         UrlOpener openUrl = &QDesktopServices::openUrl, QObject* parent = nullptr);
+
+  [[nodiscard]] QString name() const;
+  /// "Formula" or "Cask".
+  [[nodiscard]] QString kindText() const;
+  /// The catalog's version; empty where it has none.
+  [[nodiscard]] QString versionText() const;
+  [[nodiscard]] QString descriptionText() const;
+
+  /// What stands where the metadata have no value.
+  [[nodiscard]] static QString notListedText();
+  // The metadata.
+  [[nodiscard]] QString latestKnownText() const;
+  [[nodiscard]] QString headVersionText() const;
+  [[nodiscard]] QString homepageText() const;
+  [[nodiscard]] QString licenseText() const;
+  [[nodiscard]] QString tapText() const;
+
+  /// Whether the homepage is one for a browser. A package may name any address, and some of them
+  /// start other programs.
+  [[nodiscard]] bool canOpenHomepage() const;
+
+  /// Why the homepage did not open; empty while nothing is wrong.
+  [[nodiscard]] QString homepageProblem() const { return homepageProblem_; }
+
+  [[nodiscard]] bool isInstalled() const { return inputs_.installedPackage.has_value(); }
+
+  [[nodiscard]] QString installedVersionText() const;
+  [[nodiscard]] QString localSourceText() const;
+
+  [[nodiscard]] bool isFormula() const;
+  [[nodiscard]] QString detailTitle() const;
+  [[nodiscard]] QString detailSymbolName() const;
+  /// What is said in place of an empty list; empty above a list.
+  [[nodiscard]] QString detailText() const;
+  /// A formula's dependencies, a cask's artifacts.
+  [[nodiscard]] QStringList detailItems() const;
+
+  /// Whether choosing one of them can open it.
+  [[nodiscard]] bool detailItemsLead() const { return isFormula() && inputs_.hasCatalog; }
+
+  /// Why the formula that was chosen last did not open; empty while nothing is wrong.
+  [[nodiscard]] QString formulaProblem() const { return formulaProblem_; }
+
+  /// The formula of this name, which was wanted, is not in the loaded catalog.
+  void reportUnknownFormula(const QString& name);
+
+  /// What is said above the dependants, or in place of them.
+  [[nodiscard]] QString reverseDependencyText() const;
+  [[nodiscard]] QStringList reverseDependencyNames() const;
+
+  [[nodiscard]] QString catalogFreshnessText() const;
+  [[nodiscard]] QString inventoryFreshnessText() const;
+
+  [[nodiscard]] PackageCommandListModel* commands() { return &commands_; }
+
+  /// What is said above the commands, or in place of them.
+  [[nodiscard]] QString commandText() const;
+
+  /// Does nothing where `canOpenHomepage` is false.
+  Q_INVOKABLE void openHomepage();
+  /// Asks for the preview of the command in this row of `commands`.
+  Q_INVOKABLE void preview(int row);
+
+ Q_SIGNALS:
+  void homepageProblemChanged();
+  void formulaProblemChanged();
+  /// The user goes back to where the package was opened.
+  void backWanted();
+  /// The user chose a dependency or a dependant, which may or may not be in the loaded catalog.
+  void formulaWanted(const QString& name);
+
+ private:
+  Inputs inputs_;
+  PreviewRequest previewRequest_;
+  Clock clock_;
+  UrlOpener openUrl_;
+  PackageCommandListModel commands_;
+  QString homepageProblem_;
+  QString formulaProblem_;
+};
+
+}  // namespace quillmere

@@ -1,0 +1,30 @@
+import QtQuick
+import Quillmere.Components
+import Quillmere.Preview
+
+// Copies the command, and shows for a moment that it did.
+PlainButton {
+    id: root
+
+    required property CommandPreviewSheetModel viewModel
+
+    help: "Copies the command text to the clipboard and records it in local History."
+    symbolName: done.running ? "checkmark.circle" : "doc.on.doc"
+    text: "Copy Command"
+
+    onClicked: viewModel.copy()
+
+    Timer {
+        id: done
+
+        interval: Theme.noticeTime
+    }
+
+    Connections {
+        function onCopied(): void {
+            done.restart();
+        }
+
+        target: root.viewModel
+    }
+}

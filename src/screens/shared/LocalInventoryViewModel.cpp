@@ -1,0 +1,73 @@
+#include "screens/shared/LocalInventoryViewModel.h"
+
+#include <utility>
+#include <variant>
+
+namespace quillmere {
+
+LocalInventoryViewModel::LocalInventoryViewModel(Clock clock, QObject* parent)
+    : QObject(parent), clock_(std::move(clock)) {
+}
+
+void LocalInventoryViewModel::setInputs(const LocalInventoryInputs& inputs) {
+  const LocalInventoryInputs before = std::exchange(inputs_, inputs);
+  follow(before);
+  notifyChanges();
+}
+
+LocalInventoryViewModel::Phase LocalInventoryViewModel::phase() const {
+  static_assert(std::variant_size_v<decltype(inputs_.state.value)> == Failed + 1);
+  return static_cast<Phase>(inputs_.state.value.index());
+}
+
+QString LocalInventoryViewModel::overtakenText() const {
+  return inputs_.isOvertaken ? QStringLiteral("A command ran since this scan") : QString();
+}
+
+QString LocalInventoryViewModel::progressText() const {
+  return phase() == Loading && inputs_.knownPackages > 0
+             ? QStringLiteral("%1 of %2 packages scanned")
+                   .arg(QString::number(inputs_.scannedPackages),
+                        QString::number(inputs_.knownPackages))
+             : QString();
+}
+
+double LocalInventoryViewModel::progressFraction() const {
+  return phase() == Loading && inputs_.knownPackages > 0
+             ? static_cast<double>(inputs_.scannedPackages) / inputs_.knownPackages
+             : -1;
+}
+
+const QString& LocalInventoryViewModel::failure() const {
+  return std::get<InstalledPackagesState::Failed>(inputs_.state.value).message;
+}
+
+/// Empty where nothing came about.
+QString LocalInventoryViewModel::spokenState() const {
+  switch (phase()) {
+    case Loading:
+      return title();
+    case Loaded:
+      return spokenResult();
+    case Failed:
+      return title() + QStringLiteral(". ") + text();
+    case Idle:
+    case AccessNeeded:
+      break;
+  }
+  return {};
+}
+
+void LocalInventoryViewModel::notifyChanges() {
+  Q_EMIT changed();
+  const QString spoken = spokenState();
+  if (spoken_.isNews(spoken)) {
+    Q_EMIT announced(spoken);
+  }
+}
+
+QString counted(qsizetype count, const QString& noun) {
+  return QString::number(count) + u' ' + noun + (count == 1 ? QString() : QStringLiteral("s"));
+}
+
+}  // namespace quillmere

@@ -1,0 +1,213 @@
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtTest/QAbstractItemModelTester>
+#include <QtTest/QSignalSpy>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+#include "commands/BrewCommandBuilder.h"
+#include "execution/DirectCommandRunner.h"
+#include "platform/FileUrl.h"
+#include "screens/run/SessionView.h"
+#include "support/DemoPrefix.h"
+#include "support/Printers.h"
+
+namespace quillmere::test {
+namespace {
+
+TEST_F(SessionView, BeginsWithNothingToShow) {
+  const auto& session = view("#!/bin/sh\n", upgrade);
+  EXPECT_EQ(session.commandText(), QStringLiteral("brew upgrade"));
+  EXPECT_EQ(session.statusText(), QStringLiteral("Ready"));
+  EXPECT_EQ(session.summaryTitle(), QStringLiteral("Upgrade Result"));
+  EXPECT_EQ(session.durationText(), QString());
+  EXPECT_FALSE(session.showsRawOutput());
+  EXPECT_TRUE(session.rawOutputIsEmpty());
+  EXPECT_TRUE(session.isRunning());
+  EXPECT_EQ(stepStates(), QStringList({QStringLiteral("complete"), QStringLiteral("pending"),
+                                       QStringLiteral("pending"), QStringLiteral("pending")}));
+}
+
+TEST_F(SessionView, ShowsWhatItPrintedAndHowItEnded) {
+  auto& session =
+      view("#!/bin/sh\necho '==> Upgrading wget'\necho detail\necho warned >&2\n", upgrade);
+  const QAbstractItemModelTester logTester(session.rawOutput());
+  const QAbstractItemModelTester summaryTester(session.summaryRows());
+  const QAbstractItemModelTester stepsTester(session.progressSteps());
+  runToEnd();
+  EXPECT_EQ(session.statusText(), QStringLiteral("Completed with exit code 0"));
+  EXPECT_EQ(session.statusSymbol(), QStringLiteral("checkmark.circle"));
+  EXPECT_EQ(session.statusTint(), QStringLiteral("green"));
+  EXPECT_TRUE(session.durationText().endsWith(QStringLiteral(" s")));
+  EXPECT_FALSE(session.isRunning());
+  EXPECT_EQ(summary(), QStringList(QStringLiteral("Upgrading wget")));
+  EXPECT_EQ(stepStates(), QStringList(4, QStringLiteral("complete")));
+  EXPECT_TRUE(log().contains(QStringLiteral("detail")));
+  const qsizetype warned = log().indexOf(QStringLiteral("warned"));
+  EXPECT_EQ(log(RawOutputModel::StreamRole).at(warned), QStringLiteral("standardError"));
+  EXPECT_EQ(log(RawOutputModel::MarkerRole).at(warned), QStringLiteral("err"));
+  EXPECT_TRUE(log().first().startsWith(QStringLiteral("[quillmere] ")));
+  EXPECT_EQ(log(RawOutputModel::MarkerRole).first(), QStringLiteral("app"));
+}
+
+TEST_F(SessionView, MarksWhatFailed) {
+  const auto& session = view("#!/bin/sh\necho 'Error: no'\nexit 1\n", upgrade);
+  runToEnd();
+  EXPECT_EQ(session.statusText(), QStringLiteral("Command exited with status 1."));
+  EXPECT_EQ(session.statusTint(), QStringLiteral("red"));
+  EXPECT_EQ(stepStates(), QStringList({QStringLiteral("complete"), QStringLiteral("failed"),
+                                       QStringLiteral("complete"), QStringLiteral("failed")}));
+  EXPECT_EQ(model->summaryRows()->index(0).data(OutputSummaryModel::TintRole).toString(),
+            QStringLiteral("red"));
+}
+
+TEST_F(SessionView, AdvisesOnAFailureThatItKnows) {
+  const auto& session = view(
+      "#!/bin/sh\necho 'Error: wget: A `brew install wget` process has already locked x.' >&2\n"
+      "exit 1\n",
+      upgrade);
+  const QSignalSpy said(model.get(), &DirectExecutionSessionViewModel::announced);
+  runToEnd();
+  EXPECT_TRUE(session.adviceText().startsWith(QStringLiteral("Another brew process is working")));
+  EXPECT_EQ(said.last()[0].toString(), session.adviceText());
+}
+
+TEST_F(SessionView, AdvisesOnNothingThatWentWell) {
+  const auto& session = view("#!/bin/sh\necho 'x process has already locked y'\n", upgrade);
+  runToEnd();
+  EXPECT_EQ(session.adviceText(), QString());
+}
+
+TEST_F(SessionView, ShowsOutputWhileTheRunGoesOn) {
+  const auto& session = view(
+      "#!/bin/sh\ncd \"${0%/*}/..\"\necho '==> Pouring'\n"
+      "while [ -e bin/brew ] && [ ! -e release ]; do sleep 0.05; done\n",
+      upgrade);
+  controller->start();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !summary().isEmpty(); }));
+  EXPECT_EQ(session.statusText(), QStringLiteral("Running"));
+  EXPECT_EQ(summary(), QStringList(QStringLiteral("Pouring")));
+  EXPECT_EQ(stepStates(), QStringList({QStringLiteral("complete"), QStringLiteral("active"),
+                                       QStringLiteral("active"), QStringLiteral("pending")}));
+  EXPECT_TRUE(log().contains(QStringLiteral("==> Pouring")));
+  QSignalSpy settled(model.get(), &DirectExecutionSessionViewModel::outputSettled);
+  prefix.withFile(QStringLiteral("release"));
+  EXPECT_TRUE(settled.wait());
+}
+
+TEST_F(SessionView, ReadsTheOutputAtMostTenTimesASecondAndOnceAtTheEnd) {
+  view("#!/bin/sh\ni=0\nwhile [ $i -lt 300 ]; do echo line $i; sleep 0.004; i=$((i+1)); done\n",
+       upgrade);
+  QSignalSpy changes(model.get(), &DirectExecutionSessionViewModel::presentationChanged);
+  QElapsedTimer timer;
+  timer.start();
+  runToEnd();
+  const auto most = timer.elapsed() / 100 + 2;
+  EXPECT_LE(changes.count(), most);
+  EXPECT_GE(changes.count(), 3);
+  const auto atTheEnd = changes.count();
+  QTest::qWait(250);
+  EXPECT_EQ(changes.count(), atTheEnd);
+  EXPECT_EQ(log().filter(QStringLiteral("line ")).size(), 300);
+}
+
+TEST_F(SessionView, ShowsTheTextThatATerminalWouldLeaveStanding) {
+  view("#!/bin/sh\nprintf '\\033[32mgreen\\033[0m\\nprogress 1\\rprogress 2\\n'\n", upgrade);
+  runToEnd();
+  EXPECT_TRUE(log().contains(QStringLiteral("green")));
+  EXPECT_TRUE(log().contains(QStringLiteral("progress 2")));
+  EXPECT_EQ(controller->result()->standardOutput, "\x1b[32mgreen\x1b[0m\nprogress 1\rprogress 2\n");
+}
+
+TEST_F(SessionView, SaysSoWhileACancelledChildStillRuns) {
+  auto& session = view(
+      "#!/bin/sh\ntrap '' TERM\ncd \"${0%/*}/..\"\necho ready\n"
+      "while [ -e bin/brew ] && [ ! -e release ]; do sleep 0.05; done\n",
+      upgrade);
+  controller->start();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return log().contains(QStringLiteral("ready")); }));
+  EXPECT_FALSE(session.cancellationPending());
+  EXPECT_EQ(session.cancelTitle(), QStringLiteral("Cancel"));
+  QSignalSpy announced(model.get(), &DirectExecutionSessionViewModel::announced);
+  session.cancel();
+  EXPECT_TRUE(session.cancellationPending());
+  EXPECT_EQ(session.cancelTitle(), QStringLiteral("Cancelling\u2026"));
+  EXPECT_EQ(announced.takeLast().constFirst().toString(), session.cancellationText());
+  EXPECT_FALSE(session.cancellationText().isEmpty());
+  EXPECT_EQ(session.statusText(), QStringLiteral("Running"));
+  QSignalSpy settled(model.get(), &DirectExecutionSessionViewModel::outputSettled);
+  prefix.withFile(QStringLiteral("release"));
+  ASSERT_TRUE(settled.wait());
+  EXPECT_FALSE(session.cancellationPending());
+  EXPECT_EQ(session.statusText(), QStringLiteral("Cancelled"));
+  EXPECT_EQ(session.statusSymbol(), QStringLiteral("stop.circle"));
+}
+
+TEST_F(SessionView, NamesWhatItsToggleDoes) {
+  auto& session = view("#!/bin/sh\n", upgrade);
+  EXPECT_EQ(session.rawOutputToggleTitle(), QStringLiteral("Show Command-Line Output"));
+  EXPECT_EQ(session.rawOutputToggleAccessibleName(), QStringLiteral("Show command-line output"));
+  session.setShowsRawOutput(true);
+  EXPECT_EQ(session.rawOutputToggleTitle(), QStringLiteral("Hide Command-Line Output"));
+  EXPECT_EQ(session.rawOutputToggleAccessibleName(), QStringLiteral("Hide command-line output"));
+}
+
+TEST_F(SessionView, CopiesLinesOfTheLog) {
+  view("#!/bin/sh\nprintf 'one\\ntwo\\nthree\\n'\n", upgrade);
+  runToEnd();
+  const int first = static_cast<int>(log().indexOf(QStringLiteral("one")));
+  model->copyRawOutput(first, first + 1);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("one\ntwo"));
+}
+
+TEST_F(SessionView, SaysHowManyLinesItCopied) {
+  view("#!/bin/sh\nprintf 'one\\ntwo\\n'\n", upgrade);
+  runToEnd();
+  QSignalSpy copied(model.get(), &DirectExecutionSessionViewModel::rawOutputCopied);
+  model->copyRawOutput(0, 0);
+  EXPECT_EQ(copied.takeLast().constFirst().toString(), QStringLiteral("1 line copied"));
+  model->copyRawOutput(0, 1'000'000);
+  EXPECT_EQ(copied.takeLast().constFirst().toString(),
+            QStringLiteral("%1 lines copied").arg(log().size()));
+}
+
+TEST_F(SessionView, LeavesTheClipboardWhereThereIsNothingToCopy) {
+  view("#!/bin/sh\n", upgrade);
+  QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
+  model->copyRawOutput(-1, -1);
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("mine"));
+}
+
+TEST_F(SessionView, AnnouncesHowItStandsEachTimeThatChanges) {
+  view("#!/bin/sh\nexit 1\n", upgrade);
+  QSignalSpy announced(model.get(), &DirectExecutionSessionViewModel::announced);
+  runToEnd();
+  ASSERT_EQ(announced.count(), 2);
+  EXPECT_EQ(announced.at(0).constFirst().toString(), QStringLiteral("Running"));
+  EXPECT_EQ(announced.at(1).constFirst().toString(),
+            QStringLiteral("Command exited with status 1."));
+}
+
+TEST_F(SessionView, ShowsALineThatGrows) {
+  RawOutputModel log;
+  const QAbstractItemModelTester tester(&log);
+  OutputTranscript transcript(BrewCommandOperation::install);
+  const auto print = [&](const QByteArray& text) {
+    const DirectExecutionOutputChunk chunk{.text = text};
+    auto lines = transcript.add({&chunk, 1});
+    log.append(std::move(lines), transcript.openLine());
+  };
+  print("wor");
+  EXPECT_EQ(log.text(0, 9), QStringLiteral("wor"));
+  print("king");
+  EXPECT_EQ(log.text(0, 9), QStringLiteral("working"));
+  print("\nnext");
+  EXPECT_EQ(log.text(0, 9), QStringLiteral("working\nnext"));
+  EXPECT_EQ(log.text(1, 1), QStringLiteral("next"));
+  print("\n");
+  EXPECT_EQ(log.rowCount(), 2);
+}
+
+}  // namespace
+}  // namespace quillmere::test
