@@ -19,7 +19,7 @@ QByteArray realDocument(const QString& name) {
   xz.start(QStringLiteral("xz"), {QStringLiteral("--decompress"), QStringLiteral("--stdout"),
                                   folder + u'/' + name + QStringLiteral(".json.xz")});
   QByteArray document = xz.waitForFinished() ? xz.readAllStandardOutput() : QByteArray();
-  document.reserve(document.size() + readAheadPadding);
+  document.reserve(document.size() + parserPadding);
   return document;
 }
 

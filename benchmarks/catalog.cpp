@@ -23,7 +23,7 @@ void onDocuments(benchmark::State& state, const Task& task) {
   state.SetBytesProcessed(state.iterations() * documents.size());
 }
 
-PackageCatalogSnapshot catalogOf(const CatalogBytes& documents) {
+PackageCatalogPtr catalogOf(const CatalogBytes& documents) {
   return decodeCatalog({.formulae = documents.formulae, .casks = documents.casks}).value();
 }
 
@@ -113,7 +113,7 @@ void keepCatalog(benchmark::State& state) {
   std::size_t texts = 0;
   onDocuments(state, [&](const CatalogBytes& documents) {
     const double before = allocated();
-    const PackageCatalogSnapshot catalog = catalogOf(documents);
+    const PackageCatalogPtr catalog = catalogOf(documents);
     kept = allocated() - before;
     texts = 0;
     for (const HomebrewPackageSummary& row : catalog->packages()) {
@@ -129,7 +129,7 @@ BENCHMARK(keepCatalog)->Unit(benchmark::kMillisecond);
 
 /// The catalog that searches are measured on.
 const PackageCatalog& searchedCatalog() {
-  static const PackageCatalogSnapshot catalog = catalogOf(catalogAtHand());
+  static const PackageCatalogPtr catalog = catalogOf(catalogAtHand());
   return *catalog;
 }
 
@@ -154,7 +154,7 @@ void sortNames(benchmark::State& state) {
   const std::vector<QString> unsorted = names();
   for (auto _ : state) {
     std::vector<QString> sorted = unsorted;
-    NameOrdering::ofUser().stableSort(sorted, [](const QString& name) { return name; });
+    NameOrdering::forUserLocale().stableSort(sorted, [](const QString& name) { return name; });
     benchmark::DoNotOptimize(sorted);
   }
 }
@@ -169,7 +169,7 @@ void makeSortKeys(benchmark::State& state) {
     std::vector<QCollatorSortKey> keys;
     keys.reserve(unsorted.size());
     for (const QString& name : unsorted) {
-      keys.push_back(NameOrdering::ofUser().sortKey(name));
+      keys.push_back(NameOrdering::forUserLocale().sortKey(name));
     }
     benchmark::DoNotOptimize(keys);
   }

@@ -13,7 +13,7 @@ const BrewCommandTarget firefox{BrewCommandTargetKind::cask, QStringLiteral("fir
 void buildAndJudgeOneCommand(benchmark::State& state) {
   for (auto _ : state) {
     const auto command = builder.upgrade(firefox);
-    benchmark::DoNotOptimize(decide(*command, AppCapabilities::all()));
+    benchmark::DoNotOptimize(executionPolicyDecision(*command, AppCapabilities::all()));
   }
 }
 
@@ -26,7 +26,7 @@ QString deepCopy(const QString& text) {
 /// The floor: the same values, field by field, with nothing worked out.
 void copyOneCommandAndItsDecision(benchmark::State& state) {
   const BrewCommand command = *builder.upgrade(firefox);
-  const auto decision = decide(command, AppCapabilities::all());
+  const auto decision = executionPolicyDecision(command, AppCapabilities::all());
   for (auto _ : state) {
     benchmark::DoNotOptimize(BrewCommand{
         command.id,

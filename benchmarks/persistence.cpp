@@ -23,7 +23,7 @@ void appendToHistoryOfTenThousand(benchmark::State& state) {
   for (auto _ : state) {
     store.appendHistory(record);
     state.PauseTiming();
-    QCoro::waitFor(store.settled());
+    QCoro::waitFor(store.flush());
     state.ResumeTiming();
   }
   state.counters["bytes"] = static_cast<double>(QFileInfo(file).size());

@@ -14,8 +14,8 @@
 #include "persistence/LocalPersistenceStore.h"
 #include "screens/browse/FormulaCatalogViewModel.h"
 #include "support/CatalogServer.h"
-#include "support/DemoPrefix.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 namespace quillmere {
 namespace {
@@ -98,8 +98,8 @@ BENCHMARK(searchCatalog)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 /// A prefix with so many formulae. Made once for each size: making and removing it takes longer
 /// than scanning it.
-const test::DemoPrefix& prefixOfSize(std::int64_t formulae) {
-  static std::map<std::int64_t, test::DemoPrefix> prefixes;
+const test::TestPrefix& prefixOfSize(std::int64_t formulae) {
+  static std::map<std::int64_t, test::TestPrefix> prefixes;
   const auto [prefix, isNew] = prefixes.try_emplace(formulae);
   if (isNew) {
     prefix->second.withFile(QStringLiteral("bin/brew"));

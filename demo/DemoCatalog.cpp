@@ -90,7 +90,7 @@ LocalInventoryInputs scannedInventory() {
   unknown.name = shared(u"of-my-own"_s);
   unknown.detail = shared(u"Install reason unknown"_s);
   packages->push_back(unknown);
-  NameOrdering::ofUser().stableSort(
+  NameOrdering::forUserLocale().stableSort(
       *packages, [](const InstalledPackageSummary& package) { return package.name.toString(); });
   const QString prefix = u"/home/linuxbrew/.linuxbrew"_s;
   return {.state = {InstalledPackagesState::Loaded{std::move(packages)}},

@@ -24,14 +24,14 @@ struct Ending {
 
 CommandHistoryRecord ran(const BrewCommand& command, const QString& screen, const QDateTime& start,
                          const Ending& ending) {
-  return executionRecord({.command = command,
-                          .standardOutput = ending.standardOutput,
-                          .standardError = ending.standardError,
-                          .exitCode = ending.exitCode,
-                          .startedAt = start,
-                          .endedAt = start.addSecs(ending.seconds),
-                          .wasCancelled = ending.wasCancelled},
-                         screen);
+  return makeExecutionRecord({.command = command,
+                              .standardOutput = ending.standardOutput,
+                              .standardError = ending.standardError,
+                              .exitCode = ending.exitCode,
+                              .startedAt = start,
+                              .endedAt = start.addSecs(ending.seconds),
+                              .wasCancelled = ending.wasCancelled},
+                             screen);
 }
 
 BrewCommandTarget formula(const QString& name) {
@@ -51,7 +51,7 @@ CommandHistory historyUntil(const QDateTime& now) {
       ran(builder.servicesList(), u"Services"_s, ago(25 * minute),
           {.seconds = 1,
            .standardOutput = "Name          Status  User     File\npostgresql@17 started anna\n"}),
-      copyRecord(builder.upgrade(formula(u"node"_s)).value(), u"Updates"_s, ago(3 * hour)),
+      makeCopyRecord(builder.upgrade(formula(u"node"_s)).value(), u"Updates"_s, ago(3 * hour)),
       ran(builder.upgrade(formula(u"ripgrep"_s)).value(), u"Updates"_s, ago(day + 2 * hour),
           {.seconds = 8,
            .standardOutput = "==> Upgrading 1 outdated package:\nripgrep 14.1.1 -> 15.1.0\n"
@@ -64,15 +64,15 @@ CommandHistory historyUntil(const QDateTime& now) {
            .standardError = "==> Fetching downloads for: blender\nError: SIGTERM\n"}),
       ran(builder.upgrade(formula(u"ffmpeg"_s)).value(), u"Browse"_s, ago(2 * day),
           {.seconds = 1, .exitCode = 1, .standardError = "Error: ffmpeg not installed\n"}),
-      copyRecord(builder.uninstall(formula(u"tree"_s)).value(), u"Installed"_s,
-                 ago(2 * day + hour)),
+      makeCopyRecord(builder.uninstall(formula(u"tree"_s)).value(), u"Installed"_s,
+                     ago(2 * day + hour)),
       ran(builder.cleanup(), u"Cleanup"_s, ago(6 * day),
           {.seconds = 5,
            .standardOutput =
                "==> This operation has freed approximately 412.6MB of disk space.\n"}),
       ran(builder.dependencies(u"curl"_s).value(), u"Browse"_s, ago(9 * day),
           {.seconds = 1, .standardOutput = "brotli\nca-certificates\nlibnghttp2\n"}),
-      copyRecord(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s, ago(12 * day)),
+      makeCopyRecord(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s, ago(12 * day)),
   };
 }
 

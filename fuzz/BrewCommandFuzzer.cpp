@@ -39,7 +39,7 @@ void check(std::uint8_t choice, const QString& name) {
   }
   require(std::ranges::all_of(command->commandText, isHarmless));
   require(command->target.name == name && !name.contains(u' '));
-  require(!couldBePackage(name) || !name.startsWith(u'-'));
+  require(!isPlausiblePackageName(name) || !name.startsWith(u'-'));
   const auto arguments = brewArguments(*command);
   require(arguments && arguments->last() == name);
   require(command->commandText == QStringLiteral("brew ") + arguments->join(u' '));

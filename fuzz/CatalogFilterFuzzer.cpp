@@ -68,7 +68,7 @@ FilteredPackageResults naiveAnswer(const PackageCatalog& catalog, const FilterRe
       continue;
     }
     ++count;
-    if (results.visiblePackages.size() < FilteredPackageResults::mostVisible) {
+    if (results.visiblePackages.size() < FilteredPackageResults::maximumVisible) {
       results.visiblePackages.push_back(i);
     } else if (!request.searchQuery.isEmpty()) {
       return results;

@@ -2,7 +2,7 @@
 #include <cstdint>
 
 #include "platform/UrlText.h"
-#include "platform/WebPage.h"
+#include "platform/WebUrl.h"
 #include "require.h"
 
 namespace quillmere {
@@ -23,14 +23,14 @@ void check(const QString& text) {
   }
   const QUrl url = homepage->url();
   require(homepage->text().toString() == text && url.isValid() && !url.isEmpty());
-  if (!isWebPage(url)) {
+  if (!isWebUrl(url)) {
     return;
   }
   const QByteArray address = url.toEncoded();
   require(address.startsWith("http://") || address.startsWith("https://"));
   require(std::ranges::all_of(address, isPlain));
   require(!url.host().isEmpty() && url.userInfo().isEmpty());
-  require(isWebPage(QUrl::fromEncoded(address)));
+  require(isWebUrl(QUrl::fromEncoded(address)));
   require(QUrl::fromEncoded(address).host() == url.host());
 }
 

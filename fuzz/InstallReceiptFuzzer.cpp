@@ -28,7 +28,7 @@ void check(const QByteArray& json) {
   require(!receipt || agreesWithQt(*receipt, json));
   static HomebrewInstallReceiptReader reader;
   QByteArray padded;
-  padded.reserve(json.size() + readAheadPadding);
+  padded.reserve(json.size() + parserPadding);
   padded += json;
   require(reader.read(padded) == receipt);
 }

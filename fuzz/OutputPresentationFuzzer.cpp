@@ -71,7 +71,7 @@ Reading readingOf(BrewCommandOperation operation, const Chunks& chunks) {
   for (const DirectExecutionOutputChunk& chunk : chunks) {
     std::ranges::for_each(transcript.add({&chunk, 1}), addLines);
   }
-  if (const auto open = transcript.openLine()) {
+  if (const auto open = transcript.unfinishedLine()) {
     addLines(*open);
   }
   return {std::move(log), transcript.liveDigest(), transcript.resultDigest()};

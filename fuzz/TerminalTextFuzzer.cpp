@@ -18,9 +18,9 @@ bool isAllowed(QChar character) {
 // could have made it, and stands as it is when it is written again.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const QByteArrayView line(data, static_cast<qsizetype>(size));
-  const QString text = quillmere::standingText(line);
+  const QString text = quillmere::terminalText(line);
   require(std::ranges::all_of(text, isAllowed));
   require(text.size() <= 2 * line.size() + 512);
-  require(quillmere::standingText(text.toUtf8()) == text);
+  require(quillmere::terminalText(text.toUtf8()) == text);
   return 0;
 }

@@ -11,7 +11,7 @@ namespace quillmere {
 inline QByteArray bytesOf(const unsigned char* data, std::size_t size) {
   QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
   if (size % 2 == 0) {
-    bytes.reserve(bytes.size() + readAheadPadding);
+    bytes.reserve(bytes.size() + parserPadding);
   }
   return bytes;
 }

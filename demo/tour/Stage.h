@@ -8,7 +8,7 @@
 #include "app/QuillmereApp.h"
 #include "demo/DemoHome.h"
 #include "demo/tour/Album.h"
-#include "support/HeldFileSystem.h"
+#include "support/BlockingFileSystem.h"
 
 namespace quillmere::demo {
 
@@ -76,7 +76,7 @@ class Stage {
   Album& album_;
   QTemporaryDir folder_{QDir::tempPath() + QStringLiteral("/demo-XXXXXX")};
   DemoHome home_;
-  std::shared_ptr<test::HeldFileSystem> disk_ = std::make_shared<test::HeldFileSystem>();
+  std::shared_ptr<test::BlockingFileSystem> disk_ = std::make_shared<test::BlockingFileSystem>();
   std::unique_ptr<QuillmereApp> app_;
 };
 

@@ -176,7 +176,7 @@ QCoro::Task<bool> CatalogWorkflows::loadCached(CatalogScope scope) {
 }
 
 auto CatalogWorkflows::readCached(CatalogScope scope)
-    -> QCoro::Task<std::expected<PackageCatalogSnapshot, QString>> {
+    -> QCoro::Task<std::expected<PackageCatalogPtr, QString>> {
   const CachedCatalogFiles files{.formulae = store_.formulaCacheURL(),
                                  .casks = store_.caskCacheURL()};
   const auto reading = QtConcurrent::run(backgroundThreads(), &readCachedCatalog, files, scope);

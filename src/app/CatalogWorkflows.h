@@ -14,7 +14,7 @@
 #include "catalog/HomebrewCaskMetadataClient.h"
 #include "catalog/HomebrewFormulaMetadataClient.h"
 #include "catalog/PackageCatalogState.h"
-#include "platform/AwaitedExpected.h"
+#include "platform/QCoroExpected.h"
 
 namespace quillmere {
 
@@ -79,7 +79,7 @@ class CatalogWorkflows : public QObject {
 
   struct Fetched {
     CatalogDocuments documents;
-    PackageCatalogSnapshot catalog;
+    PackageCatalogPtr catalog;
   };
 
   Fetch begin(CatalogScope scope);
@@ -94,7 +94,7 @@ class CatalogWorkflows : public QObject {
   QCoro::Task<std::expected<Fetched, QString>> downloadAndDecode(Fetch fetch);
   QCoro::Task<std::expected<CatalogDocuments, QString>> download(Fetch fetch);
   QCoro::Task<> save(CatalogDocuments documents);
-  QCoro::Task<std::expected<PackageCatalogSnapshot, QString>> readCached(CatalogScope scope);
+  QCoro::Task<std::expected<PackageCatalogPtr, QString>> readCached(CatalogScope scope);
 
   LocalPersistenceStore& store_;
   Clients clients_;

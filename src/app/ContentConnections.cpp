@@ -122,7 +122,7 @@ void ContentViewModel::openCatalogPackage(const HomebrewPackageSummary& package)
       installedPackage = *found;
     }
   }
-  const PackageCatalogSnapshot catalog = catalog_.state().catalog();
+  const PackageCatalogPtr catalog = catalog_.state().catalog();
   openDetail(
       {.package = package,
        .installedPackage = installedPackage,
@@ -166,7 +166,7 @@ void ContentViewModel::openInstalledPackage(const InstalledPackageSummary& packa
 }
 
 void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& name) {
-  if (const PackageCatalogSnapshot catalog = catalog_.state().catalog()) {
+  if (const PackageCatalogPtr catalog = catalog_.state().catalog()) {
     SharedTextBuilder texts;
     const SharedText id =
         packageId(HomebrewPackageSummary::Kind::formula, name.toStdString(), texts);

@@ -39,7 +39,7 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
   QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &localPersistenceStore_,
                    [this](Qt::ApplicationState state) {
                      if (state == Qt::ApplicationActive) {
-                       localPersistenceStore_.catchUpHistory();
+                       localPersistenceStore_.refreshHistory();
                      }
                    });
 }

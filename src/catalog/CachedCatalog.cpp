@@ -60,8 +60,8 @@ std::expected<CatalogDocuments, QString> readCachedDocuments(const CachedCatalog
   return documents;
 }
 
-std::expected<PackageCatalogSnapshot, QString> readCachedCatalog(const CachedCatalogFiles& files,
-                                                                 CatalogScope scope) {
+std::expected<PackageCatalogPtr, QString> readCachedCatalog(const CachedCatalogFiles& files,
+                                                            CatalogScope scope) {
   const auto documents = readCachedDocuments(files, scope);
   if (!documents) {
     return std::unexpected(documents.error());

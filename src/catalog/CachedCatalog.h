@@ -25,7 +25,7 @@ struct CachedCatalogFiles {
     const CachedCatalogFiles& files, CatalogScope scope);
 
 /// The catalog of those documents, or a sentence that says why there is none. Slow; any thread.
-[[nodiscard]] std::expected<PackageCatalogSnapshot, QString> readCachedCatalog(
+[[nodiscard]] std::expected<PackageCatalogPtr, QString> readCachedCatalog(
     const CachedCatalogFiles& files, CatalogScope scope);
 
 /// The records of the documents that lie in the cache, each name and token once; none of a document

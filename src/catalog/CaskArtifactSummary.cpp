@@ -7,7 +7,7 @@ namespace quillmere {
 CaskArtifactSummary CaskArtifactSummary::fromJson(const simdjson::dom::object& json,
                                                   SharedTextBuilder& texts) {
   const auto key = DynamicCodingKey::firstOf(json);
-  return {.label = texts.addOnce(key ? key->stringValue : "artifact")};
+  return {.label = texts.intern(key ? key->stringValue : "artifact")};
 }
 
 }  // namespace quillmere

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "catalog/JsonTypes.h"
+#include "catalog/JsonForward.h"
 #include "platform/SharedText.h"
 
 namespace quillmere {

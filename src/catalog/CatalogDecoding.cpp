@@ -18,7 +18,7 @@ using Document = CatalogDecodingError::Document;
 HomebrewFormula::Versions versionsOf(const simdjson::dom::object& json, DecodingContext& context) {
   static constexpr auto keys = std::to_array<std::string_view>({"stable", "head"});
   RecordFields fields(json, keys, context, QLatin1StringView("versions."));
-  return {.stable = fields.optionalText("stable"), .head = fields.optionalCommonText("head")};
+  return {.stable = fields.optionalText("stable"), .head = fields.optionalInternedText("head")};
 }
 
 HomebrewFormula::Versions versionsIn(RecordFields& fields, DecodingContext& context) {
@@ -74,7 +74,7 @@ struct RecordKind<HomebrewFormula> {
         .versions = versionsIn(fields, context),
         .homepage = fields.optionalUrl("homepage"),
         .license = licenseIn(fields, context),
-        .tap = fields.optionalCommonText("tap"),
+        .tap = fields.optionalInternedText("tap"),
         .dependencies = fields.optionalTexts("dependencies"),
     };
   }
@@ -95,7 +95,7 @@ struct RecordKind<HomebrewCask> {
         .description = fields.optionalText("desc"),
         .version = fields.optionalText("version"),
         .homepage = fields.optionalUrl("homepage"),
-        .tap = fields.optionalCommonText("tap"),
+        .tap = fields.optionalInternedText("tap"),
         .artifacts = artifactsIn(fields, context),
     };
   }
@@ -174,8 +174,8 @@ std::expected<std::vector<Record>, CatalogDecodingError> decodeDocument(
   if (document.isEmpty()) {
     return failure(problemOf(simdjson::EMPTY));
   }
-  static_assert(readAheadPadding >= qsizetype{simdjson::SIMDJSON_PADDING});
-  const bool isPadded = hasReadAheadPadding(document);
+  static_assert(parserPadding >= qsizetype{simdjson::SIMDJSON_PADDING});
+  const bool isPadded = hasParserPadding(document);
   simdjson::dom::parser parser;
   simdjson::dom::element root;
   const auto error =

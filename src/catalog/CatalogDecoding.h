@@ -18,7 +18,7 @@ namespace quillmere {
 ///
 /// A document of thirty megabytes takes some fifty milliseconds and a hundred megabytes, which
 /// are given back, so call these off the UI thread; they are pure and run side by side. A document
-/// that has `readAheadPadding` of capacity behind it is not copied first.
+/// that has `parserPadding` of capacity behind it is not copied first.
 [[nodiscard]] std::expected<std::vector<HomebrewFormula>, CatalogDecodingError> decodeFormulae(
     const QByteArray& document);
 [[nodiscard]] std::expected<std::vector<HomebrewCask>, CatalogDecodingError> decodeCasks(

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 
 namespace quillmere {
 namespace {
@@ -12,11 +12,11 @@ constexpr qsizetype longestExcerpt = 80;
 }  // namespace
 
 QString quotedExcerpt(const QString& text) {
-  QString line = shortened(text, longestExcerpt);
+  QString line = elidedText(text, longestExcerpt);
   std::ranges::replace_if(
       line, [](QChar c) { return c.isSpace() || c.category() == QChar::Other_Control; },
       QChar(u' '));
-  return u'"' + shownText(line) + u'"';
+  return u'"' + sanitizedText(line) + u'"';
 }
 
 QString CatalogDecodingError::description() const {

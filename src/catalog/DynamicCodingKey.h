@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "catalog/JsonTypes.h"
+#include "catalog/JsonForward.h"
 
 namespace quillmere {
 

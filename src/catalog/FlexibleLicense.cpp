@@ -27,11 +27,11 @@ FlexibleLicense FlexibleLicense::fromJson(const simdjson::dom::element& json,
                                           SharedTextBuilder& texts) {
   std::string_view text;
   if (json.get(text) == simdjson::SUCCESS) {
-    return {.value = texts.addOnce(text)};
+    return {.value = texts.intern(text)};
   }
   simdjson::dom::array array;
   const auto list = json.get(array) == simdjson::SUCCESS ? joined(array) : std::nullopt;
-  return {.value = texts.addOnce(list ? std::string_view(*list) : "Unknown")};
+  return {.value = texts.intern(list ? std::string_view(*list) : "Unknown")};
 }
 
 }  // namespace quillmere

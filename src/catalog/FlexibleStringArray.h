@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "catalog/JsonTypes.h"
+#include "catalog/JsonForward.h"
 #include "platform/SharedText.h"
 
 namespace quillmere {

@@ -5,7 +5,7 @@
 namespace quillmere {
 
 QUrl HomebrewCaskMetadataClient::defaultApiURL() {
-  return urlFromFixedText(QStringLiteral("https://formulae.brew.sh/api/cask.json"));
+  return urlLiteral(QStringLiteral("https://formulae.brew.sh/api/cask.json"));
 }
 
 QCoro::Task<MetadataFetchResult> HomebrewCaskMetadataClient::fetch(

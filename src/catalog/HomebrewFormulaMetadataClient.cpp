@@ -5,7 +5,7 @@
 namespace quillmere {
 
 QUrl HomebrewFormulaMetadataClient::defaultApiURL() {
-  return urlFromFixedText(QStringLiteral("https://formulae.brew.sh/api/formula.json"));
+  return urlLiteral(QStringLiteral("https://formulae.brew.sh/api/formula.json"));
 }
 
 QCoro::Task<MetadataFetchResult> HomebrewFormulaMetadataClient::fetch(

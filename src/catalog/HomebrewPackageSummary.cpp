@@ -28,7 +28,7 @@ HomebrewPackageSummary summaryOf(HomebrewCask&& cask, SharedTextBuilder& texts) 
   return {
       .id = packageId(HomebrewPackageSummary::Kind::cask, cask.token.view(), texts),
       .kind = HomebrewPackageSummary::Kind::cask,
-      .name = shownName(cask),
+      .name = displayName(cask),
       .description = std::move(cask.description),
       .version = std::move(cask.version),
       .alternateVersion = std::nullopt,
@@ -66,7 +66,7 @@ std::string_view nameInPackageId(HomebrewPackageSummary::Kind kind, const Shared
   return name;
 }
 
-const SharedText& shownName(const HomebrewCask& cask) {
+const SharedText& displayName(const HomebrewCask& cask) {
   return cask.names.empty() ? cask.token : cask.names.front();
 }
 

@@ -50,7 +50,7 @@ struct HomebrewPackageSummary {
                                                const SharedText& id);
 
 /// What a cask is called: its first name, or its token where it has none. A member of `cask`.
-[[nodiscard]] const SharedText& shownName(const HomebrewCask& cask);
+[[nodiscard]] const SharedText& displayName(const HomebrewCask& cask);
 
 /// "Formula" or "Cask".
 [[nodiscard]] QLatin1StringView displayLabel(HomebrewPackageSummary::Kind kind);

@@ -80,7 +80,7 @@ class Download : public QObject {
   QByteArray body_;
   bool replyHasEnded_ = false;
   QTimer nextStep_;
-  QTimer patience_;
+  QTimer stallLimit_;
   qint64 bytesInWindow_ = 0;
   QElapsedTimer sinceProgress_;
   QPromise<void> ended_;
@@ -97,12 +97,12 @@ Download::Download(QNetworkAccessManager& session, const QUrl& url, MetadataFetc
   // the next one, Qt would deliver all before it returns to the event loop.
   nextStep_.setSingleShot(true);
   connect(&nextStep_, &QTimer::timeout, this, &Download::step);
-  patience_.setSingleShot(true);
-  connect(&patience_, &QTimer::timeout, this, [this] {
+  stallLimit_.setSingleShot(true);
+  connect(&stallLimit_, &QTimer::timeout, this, [this] {
     end(transportError(
         QStringLiteral("The server sent too little for too long, so the download was given up.")));
   });
-  patience_.start(options_.patience.window);
+  stallLimit_.start(options_.stallLimit.window);
   connectReply();
   // Called on the thread that asks; the end of `onStop_` waits for a call that is under way.
   onStop_.emplace(options_.stop, [this] {
@@ -164,22 +164,22 @@ qint64 Download::takeBytes() {
     return 0;
   }
   const qsizetype before = body_.size();
-  if (before + available + readAheadPadding > body_.capacity()) {
+  if (before + available + parserPadding > body_.capacity()) {
     reserve(std::max(before + available, 2 * qint64{before}));
   }
   body_.resize(before + available);
   const qint64 count = std::max(reply_->read(body_.data() + before, available), qint64{0});
   body_.resize(before + count);
   bytesInWindow_ += count;
-  if (bytesInWindow_ >= options_.patience.bytes) {
+  if (bytesInWindow_ >= options_.stallLimit.bytes) {
     bytesInWindow_ = 0;
-    patience_.start();
+    stallLimit_.start();
   }
   return count;
 }
 
 void Download::reserve(qint64 bytes) {
-  body_.reserve(bytes + readAheadPadding);
+  body_.reserve(bytes + parserPadding);
 }
 
 void Download::reportProgress() {
@@ -247,7 +247,7 @@ void Download::end(MetadataFetchResult result) {
   }
   result_ = std::move(result);
   nextStep_.stop();
-  patience_.stop();
+  stallLimit_.stop();
   if (reply_) {
     disconnect(reply_, nullptr, this, nullptr);
     // Deleting it aborts the transfer.
@@ -274,7 +274,7 @@ QCoro::Task<MetadataFetchResult> downloadMetadata(QNetworkAccessManager* session
   co_return download.takeResult();
 }
 
-QUrl urlFromFixedText(const QString& text) {
+QUrl urlLiteral(const QString& text) {
   QUrl url(text, QUrl::StrictMode);
   if (!url.isValid() || url.isRelative()) {
     qFatal("\"%s\" is not a URL.", qUtf8Printable(text));

@@ -8,7 +8,7 @@
 
 #include "catalog/MetadataFetchError.h"
 #include "catalog/MetadataFetchOptions.h"
-#include "platform/AwaitedExpected.h"
+#include "platform/QCoroExpected.h"
 
 class QNetworkAccessManager;
 
@@ -18,7 +18,7 @@ using MetadataFetchResult = std::expected<QByteArray, MetadataFetchError>;
 
 /// One GET of `url` through `session`, which is borrowed. UI thread only, like the session.
 /// The result is the whole body of an answer with a status from 200 to 299, unpacked, with
-/// `readAheadPadding` of capacity behind it. A body that is known to be cut is an error even where
+/// `parserPadding` of capacity behind it. A body that is known to be cut is an error even where
 /// the platform takes it for whole.
 ///
 /// Nothing is tried again, kept on disk, or sent back as a cookie, and nothing in the request tells
@@ -29,6 +29,6 @@ using MetadataFetchResult = std::expected<QByteArray, MetadataFetchError>;
                                                                 MetadataFetchOptions options);
 
 /// The URL that a text written in the program spells; the process ends when it spells none.
-[[nodiscard]] QUrl urlFromFixedText(const QString& text);
+[[nodiscard]] QUrl urlLiteral(const QString& text);
 
 }  // namespace quillmere

@@ -20,7 +20,7 @@ struct MetadataProgress {
 
 /// A download is given up when a `window` passes in which fewer than `bytes` of the document
 /// arrived: a server that sends nothing is as useless as one that sends a byte a second.
-struct DownloadPatience {
+struct StallLimit {
   std::chrono::milliseconds window = std::chrono::seconds(60);
   qint64 bytes = qint64{60} * 1024;
 };
@@ -32,7 +32,7 @@ struct MetadataFetchOptions {
   /// Called on the UI thread, at most some thirty times a second, and once more when the document
   /// is whole; never after `stop` was asked there.
   std::function<void(MetadataProgress)> onProgress;
-  DownloadPatience patience;
+  StallLimit stallLimit;
   /// A document that is larger is refused, before it fills the memory. The largest one today has
   /// 30 MB and grows by a tenth in a year; one with ten times as many packages is not refused.
   qint64 maximumBytes = qint64{512} * 1024 * 1024;

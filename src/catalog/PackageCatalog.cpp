@@ -58,7 +58,7 @@ std::optional<std::vector<SharedText>> PackageCatalog::reverseDependencyNames(
   return names;
 }
 
-std::expected<PackageCatalogSnapshot, CatalogDecodingError> decodeCatalog(
+std::expected<PackageCatalogPtr, CatalogDecodingError> decodeCatalog(
     const CatalogDocuments& documents) {
   auto decodingCasks = std::async(std::launch::async, &catalogOf<decodeCasks>, documents.casks);
   auto formulae = catalogOf<decodeFormulae>(documents.formulae);

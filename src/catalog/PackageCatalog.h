@@ -52,7 +52,7 @@ class PackageCatalog {
   ReverseDependencies reverseDependencies_;
 };
 
-using PackageCatalogSnapshot = std::shared_ptr<const PackageCatalog>;
+using PackageCatalogPtr = std::shared_ptr<const PackageCatalog>;
 
 /// Catalog documents as they come from the server or the cache; one that was not asked for is
 /// absent.
@@ -63,7 +63,7 @@ struct CatalogDocuments {
 
 /// The catalog of the documents that are there, decoded side by side where both are. What is wrong
 /// with the formulae comes before what is wrong with the casks. Slow; any thread.
-[[nodiscard]] std::expected<PackageCatalogSnapshot, CatalogDecodingError> decodeCatalog(
+[[nodiscard]] std::expected<PackageCatalogPtr, CatalogDecodingError> decodeCatalog(
     const CatalogDocuments& documents);
 
 }  // namespace quillmere

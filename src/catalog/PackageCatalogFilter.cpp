@@ -109,7 +109,7 @@ FilteredPackageResults filteredPackages(const PackageCatalog& catalog,
   FilteredPackageResults results = FilteredPackageResults::provisional(request);
   auto& visible = results.visiblePackages;
   if (request.isUnfiltered()) {
-    visible.resize(std::min(FilteredPackageResults::mostVisible, results.totalCount));
+    visible.resize(std::min(FilteredPackageResults::maximumVisible, results.totalCount));
     std::iota(visible.begin(), visible.end(), std::size_t{0});
     results.exactMatchCount = results.totalCount;
     return results;
@@ -118,7 +118,7 @@ FilteredPackageResults filteredPackages(const PackageCatalog& catalog,
   std::size_t count = 0;
   while (const auto match = matches.next()) {
     ++count;
-    if (visible.size() < FilteredPackageResults::mostVisible) {
+    if (visible.size() < FilteredPackageResults::maximumVisible) {
       visible.push_back(*match);
     } else if (!request.searchQuery.isEmpty()) {
       return results;

@@ -44,7 +44,7 @@ struct FilterRequest {
 
 struct FilteredPackageResults {
   /// Nobody reads further than this; whoever looks for more narrows the search.
-  static constexpr std::size_t mostVisible = 250;
+  static constexpr std::size_t maximumVisible = 250;
 
   FilterRequest request;
   /// The packages shown, as positions in the catalog, ascending.

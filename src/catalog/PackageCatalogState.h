@@ -24,7 +24,7 @@ struct PackageCatalogState {
 
   struct Loaded {
     /// Never null.
-    PackageCatalogSnapshot catalog;
+    PackageCatalogPtr catalog;
 
     /// Whether the rows are the same, wherever they are kept.
     friend bool operator==(const Loaded& left, const Loaded& right) {
@@ -44,7 +44,7 @@ struct PackageCatalogState {
   bool operator==(const PackageCatalogState&) const = default;
 
   /// The catalog, if it is loaded; null otherwise.
-  [[nodiscard]] PackageCatalogSnapshot catalog() const {
+  [[nodiscard]] PackageCatalogPtr catalog() const {
     const auto* const loaded = std::get_if<Loaded>(&value);
     return loaded != nullptr ? loaded->catalog : nullptr;
   }

@@ -51,9 +51,9 @@ std::optional<SharedText> RecordFields::optionalText(std::string_view key) {
   return value ? std::optional(context_.texts.add(*value)) : std::nullopt;
 }
 
-std::optional<SharedText> RecordFields::optionalCommonText(std::string_view key) {
+std::optional<SharedText> RecordFields::optionalInternedText(std::string_view key) {
   const auto value = text(key, optionalValue(key));
-  return value ? std::optional(context_.texts.addOnce(*value)) : std::nullopt;
+  return value ? std::optional(context_.texts.intern(*value)) : std::nullopt;
 }
 
 std::optional<UrlText> RecordFields::optionalUrl(std::string_view key) {
@@ -82,7 +82,7 @@ std::vector<SharedText> RecordFields::optionalTexts(std::string_view key) {
       noteWrongType(key, element, aText, texts.size());
       return {};
     }
-    texts.push_back(context_.texts.addOnce(text));
+    texts.push_back(context_.texts.intern(text));
   }
   return texts;
 }

@@ -37,11 +37,11 @@ struct DecodingContext {
 /// the context outlive it.
 class RecordFields {
  public:
-  static constexpr std::size_t mostKeys = 8;
+  static constexpr std::size_t maximumKeys = 8;
 
   /// `keys` are all that will be asked for; `path` stands before a key that has a problem.
   template <std::size_t KeyCount>
-    requires(KeyCount <= mostKeys)
+    requires(KeyCount <= maximumKeys)
   RecordFields(const simdjson::dom::object& object,
                const std::array<std::string_view, KeyCount>& keys, DecodingContext& context,
                QLatin1StringView path = {})
@@ -53,7 +53,7 @@ class RecordFields {
   // Absent or empty when the key is missing or its value null.
   [[nodiscard]] std::optional<SharedText> optionalText(std::string_view key);
   /// For a text that other records are likely to hold as well.
-  [[nodiscard]] std::optional<SharedText> optionalCommonText(std::string_view key);
+  [[nodiscard]] std::optional<SharedText> optionalInternedText(std::string_view key);
   [[nodiscard]] std::optional<UrlText> optionalUrl(std::string_view key);
   /// Common texts as well.
   [[nodiscard]] std::vector<SharedText> optionalTexts(std::string_view key);
@@ -77,7 +77,7 @@ class RecordFields {
   void note(std::string_view key, const QString& problem);
 
   std::span<const std::string_view> keys_;
-  std::array<Field, mostKeys> fields_;
+  std::array<Field, maximumKeys> fields_;
   DecodingContext& context_;
   QLatin1StringView path_;
 };

@@ -55,7 +55,7 @@ inline constexpr auto rawValues<BrewCommandTargetKind> =
     });
 
 /// Whether a target of this kind is a package and has its name.
-[[nodiscard]] constexpr bool namesPackage(BrewCommandTargetKind kind) {
+[[nodiscard]] constexpr bool isPackageKind(BrewCommandTargetKind kind) {
   return kind == BrewCommandTargetKind::formula || kind == BrewCommandTargetKind::cask;
 }
 

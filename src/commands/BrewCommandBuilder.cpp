@@ -66,13 +66,13 @@ constexpr bool isAllowed(QChar character) {
 }
 
 /// Whether no character of the name means anything to a shell. The first character and the length
-/// are not looked at: `couldBePackage` does.
+/// are not looked at: `isPlausiblePackageName` does.
 bool isValidIdentifier(QStringView identifier) {
   return !identifier.isEmpty() && std::ranges::all_of(identifier, isAllowed);
 }
 
 std::optional<BrewCommandBuilderError> problemOf(const BrewCommandTarget& target) {
-  if (!namesPackage(target.kind)) {
+  if (!isPackageKind(target.kind)) {
     return BrewCommandBuilderError{target.name.value_or(QString(rawValue(target.kind)))};
   }
   const QString name = target.name.value_or(QString());
@@ -117,7 +117,7 @@ QStringList brewWords(Operation operation, const BrewCommandTarget& target) {
   if (target.kind == Kind::cask) {
     words += u"--cask"_s;
   }
-  if (namesPackage(target.kind) && target.name) {
+  if (isPackageKind(target.kind) && target.name) {
     words += *target.name;
   }
   return words;
@@ -157,7 +157,7 @@ QStringList possibleEffects(Operation operation, const BrewCommandTarget& target
   Q_UNREACHABLE();
 }
 
-bool couldBePackage(QStringView name) {
+bool isPlausiblePackageName(QStringView name) {
   constexpr qsizetype longestName = 255;
   const auto parts = name.split(u'/');
   return name.size() <= longestName && std::ranges::all_of(parts, [](QStringView part) {

@@ -33,7 +33,7 @@ struct BrewCommandBuilderError {
 
 /// False for names that Homebrew would read as an option or a path ("--force", "../x") and for
 /// names longer than a folder name may be (255). Pure; any thread.
-[[nodiscard]] bool couldBePackage(QStringView name);
+[[nodiscard]] bool isPlausiblePackageName(QStringView name);
 
 /// The only place where a package name reaches a command line. It refuses every character that
 /// means something to a shell, so that the text needs no quoting when it is copied and run.

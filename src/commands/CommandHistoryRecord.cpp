@@ -2,8 +2,9 @@
 
 namespace quillmere {
 
-CommandHistoryRecord copyRecord(const BrewCommand& command,
-                                const std::optional<QString>& sourceScreen, const QDateTime& now) {
+CommandHistoryRecord makeCopyRecord(const BrewCommand& command,
+                                    const std::optional<QString>& sourceScreen,
+                                    const QDateTime& now) {
   return {
       .id = QUuid::createUuid(),
       .command = command.commandText,

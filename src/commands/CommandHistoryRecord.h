@@ -38,8 +38,8 @@ struct CommandHistoryRecord {
 };
 
 /// The record of a copy made at `now` from `sourceScreen`. Pure but for its fresh `id`; any thread.
-[[nodiscard]] CommandHistoryRecord copyRecord(const BrewCommand& command,
-                                              const std::optional<QString>& sourceScreen,
-                                              const QDateTime& now);
+[[nodiscard]] CommandHistoryRecord makeCopyRecord(const BrewCommand& command,
+                                                  const std::optional<QString>& sourceScreen,
+                                                  const QDateTime& now);
 
 }  // namespace quillmere

@@ -53,8 +53,8 @@ Decision decideDoctor(const BrewCommand& command, const AppCapabilities& capabil
 
 }  // namespace
 
-DirectExecutionPolicyDecision decide(const BrewCommand& command,
-                                     const AppCapabilities& capabilities) {
+DirectExecutionPolicyDecision executionPolicyDecision(const BrewCommand& command,
+                                                      const AppCapabilities& capabilities) {
   using enum BrewCommandOperation;
   if (!capabilities.canExecuteCommands) {
     return previewOnly(command, u"This build keeps Homebrew commands as preview and copy only."_s);

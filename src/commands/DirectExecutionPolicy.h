@@ -39,8 +39,8 @@ struct DirectExecutionPolicyDecision {
 
 /// Decides by the command's operation and target kind and by what this build may do; the risk level
 /// takes no part. Pure; any thread.
-[[nodiscard]] DirectExecutionPolicyDecision decide(const BrewCommand& command,
-                                                   const AppCapabilities& capabilities);
+[[nodiscard]] DirectExecutionPolicyDecision executionPolicyDecision(
+    const BrewCommand& command, const AppCapabilities& capabilities);
 
 /// The label of the button that confirms running `command`. It names the exact command, so that the
 /// user sees what the click will run. Pure; any thread.

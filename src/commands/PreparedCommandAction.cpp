@@ -7,7 +7,7 @@ PreparedCommandAction PreviewOnlyCommandRunner::prepare(const BrewCommand& comma
                                                         const QDateTime& now) const {
   return {
       .commandText = command.commandText,
-      .historyRecord = copyRecord(command, sourceScreen, now),
+      .historyRecord = makeCopyRecord(command, sourceScreen, now),
       .executedCommand = false,
   };
 }

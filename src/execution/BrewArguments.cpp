@@ -13,7 +13,7 @@ bool hasFormFor(BrewCommandOperation operation, Kind kind) {
     case info:
     case install:
     case uninstall:
-      return namesPackage(kind);
+      return isPackageKind(kind);
     case upgrade:
       return kind != Kind::diagnostic;
     case dependencies:
@@ -34,7 +34,7 @@ bool hasFormFor(BrewCommandOperation operation, Kind kind) {
 
 std::expected<QStringList, UnsupportedTarget> brewArguments(const BrewCommand& command) {
   const BrewCommandTarget& target = command.target;
-  const bool isNameless = namesPackage(target.kind) && !target.name;
+  const bool isNameless = isPackageKind(target.kind) && !target.name;
   if (!hasFormFor(command.operation, target.kind) || isNameless) {
     return std::unexpected(UnsupportedTarget{target.kind});
   }

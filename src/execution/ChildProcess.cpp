@@ -194,7 +194,7 @@ std::expected<ChildProcess, std::error_code> ChildProcess::launch(const Launch& 
 }
 
 ChildProcess::ChildProcess(pid_t pid)
-    : pid_(pid), exitSignal_(static_cast<int>(syscall(SYS_pidfd_open, pid, 0))) {
+    : pid_(pid), exitDescriptor_(static_cast<int>(syscall(SYS_pidfd_open, pid, 0))) {
 }
 
 bool ChildProcess::hasExited() const {

@@ -42,7 +42,7 @@ class ChildProcess {
   [[nodiscard]] pid_t pid() const { return pid_; }
 
   /// Becomes readable when the child has exited; not open on a system without such a descriptor.
-  [[nodiscard]] const FileDescriptor& exitSignal() const { return exitSignal_; }
+  [[nodiscard]] const FileDescriptor& exitDescriptor() const { return exitDescriptor_; }
 
   /// Whether the child has exited. It stays a zombie until `reap`, so that its session keeps its
   /// number.
@@ -61,7 +61,7 @@ class ChildProcess {
   explicit ChildProcess(pid_t pid);
 
   pid_t pid_;
-  FileDescriptor exitSignal_;
+  FileDescriptor exitDescriptor_;
 };
 
 }  // namespace quillmere

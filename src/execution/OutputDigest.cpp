@@ -192,12 +192,12 @@ void OutputDigest::addOutputLine(QByteArrayView line) {
   for (qsizetype end = 0; end < line.size();) {
     const qsizetype length = lineBreakLength(line.sliced(end));
     if (length > 0) {
-      addLine(standingText(line.sliced(begin, end - begin)));
+      addLine(terminalText(line.sliced(begin, end - begin)));
       begin = end + length;
     }
     end += std::max<qsizetype>(length, 1);
   }
-  addLine(standingText(line.sliced(begin)));
+  addLine(terminalText(line.sliced(begin)));
 }
 
 bool OutputDigest::mayQuote(QByteArrayView plainLine) const {

@@ -120,7 +120,7 @@ void OutputTranscript::addToLog(const DirectExecutionOutputChunk& chunk,
   }
 }
 
-std::optional<OutputLines> OutputTranscript::openLine() const {
+std::optional<OutputLines> OutputTranscript::unfinishedLine() const {
   if (openText_.isEmpty()) {
     return std::nullopt;
   }

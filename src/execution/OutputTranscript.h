@@ -58,7 +58,7 @@ class OutputTranscript {
   /// Reads further chunks and returns the lines of the log that they completed.
   [[nodiscard]] std::vector<OutputLines> add(std::span<const DirectExecutionOutputChunk> chunks);
   /// The last line of the log while it is not complete.
-  [[nodiscard]] std::optional<OutputLines> openLine() const;
+  [[nodiscard]] std::optional<OutputLines> unfinishedLine() const;
 
   /// Of all that was printed so far, both streams as they arrived.
   [[nodiscard]] OutputDigest liveDigest() const;

@@ -198,12 +198,12 @@ void ProcessDirectCommandExecution::followUntilExit(const ChildProcess& child) {
 }
 
 void ProcessDirectCommandExecution::readUntilExitOrCancel(const ChildProcess& child) {
-  const bool canWaitForExit = child.exitSignal().isOpen();
+  const bool canWaitForExit = child.exitDescriptor().isOpen();
   const int timeout = canWaitForExit ? -1 : static_cast<int>(exitPollInterval.count());
   for (bool woken = false; !woken;) {
     std::array entries = {listenTo(standardOutputReader_.fileHandle()),
                           listenTo(standardErrorReader_.fileHandle()), listenTo(cancelSignal_),
-                          listenTo(child.exitSignal())};
+                          listenTo(child.exitDescriptor())};
     const int ready = poll(entries.data(), entries.size(), timeout);
     if (ready > 0) {
       readIfReady(standardOutputReader_, entries[0]);

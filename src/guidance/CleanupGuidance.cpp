@@ -5,10 +5,10 @@
 
 #include <sys/stat.h>
 
+#include "platform/DirectoryReader.h"
 #include "platform/FileUrl.h"
 #include "platform/NameOrdering.h"
 #include "platform/SecurityScopedAccess.h"
-#include "platform/VisibleEntries.h"
 #include "prefix/HomebrewPrefixReader.h"
 
 namespace quillmere {
@@ -31,8 +31,8 @@ class SizeEstimate {
  public:
   /// Whether the folder could be listed. Leaves the folders in it for later, by their paths: a
   /// tree may be deeper than a process may have folders open.
-  bool addFolder(const QString& path, VisibleEntries::Links links) {
-    VisibleEntries entries(path, links);
+  bool addFolder(const QString& path, DirectoryReader::LinkPolicy links) {
+    DirectoryReader entries(path, links);
     if (entries.error()) {
       return false;
     }
@@ -49,7 +49,7 @@ class SizeEstimate {
 
   void addRemainingFolders() {
     while (!remaining_.isEmpty()) {
-      addFolder(remaining_.takeLast(), VisibleEntries::Links::refused);
+      addFolder(remaining_.takeLast(), DirectoryReader::LinkPolicy::refuse);
     }
   }
 
@@ -76,7 +76,7 @@ std::vector<OldVersionPackage> oldVersionPackages(
       packages.push_back(oldVersionsOf(package));
     }
   }
-  NameOrdering::ofUser().stableSort(
+  NameOrdering::forUserLocale().stableSort(
       packages, [](const OldVersionPackage& package) { return package.name.toString(); });
   return packages;
 }
@@ -122,7 +122,7 @@ std::optional<qint64> estimatedSize(const QUrl& folder) {
   const SecurityScopedAccess access(folder);
   SizeEstimate estimate;
   // The cache itself may well be a link to a larger disk.
-  if (!estimate.addFolder(filePath(folder), VisibleEntries::Links::followed)) {
+  if (!estimate.addFolder(filePath(folder), DirectoryReader::LinkPolicy::follow)) {
     return std::nullopt;
   }
   estimate.addRemainingFolders();

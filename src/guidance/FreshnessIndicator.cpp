@@ -69,11 +69,11 @@ FreshnessIndicator inventoryFreshness(const std::optional<QDateTime>& date, cons
   return freshness(date, now, inventoryDays, QStringLiteral("Scan local inventory"));
 }
 
-QDateTime catalogStalePoint(const QDateTime& date) {
+QDateTime catalogStaleDate(const QDateTime& date) {
   return stalePoint(date, catalogFreshDays);
 }
 
-QDateTime inventoryStalePoint(const QDateTime& date) {
+QDateTime inventoryStaleDate(const QDateTime& date) {
   return stalePoint(date, inventoryDays);
 }
 

@@ -61,7 +61,7 @@ inline constexpr int catalogFreshDays = 7;
                                                     const QDateTime& now);
 
 /// When catalog metadata of `date` becomes stale; `date` itself where the calendar ends.
-[[nodiscard]] QDateTime catalogStalePoint(const QDateTime& date);
-[[nodiscard]] QDateTime inventoryStalePoint(const QDateTime& date);
+[[nodiscard]] QDateTime catalogStaleDate(const QDateTime& date);
+[[nodiscard]] QDateTime inventoryStaleDate(const QDateTime& date);
 
 }  // namespace quillmere

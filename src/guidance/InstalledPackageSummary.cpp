@@ -39,7 +39,7 @@ InstalledPackageSummary summaryOf(const InstalledFormula& formula, SharedTextBui
   summary.kind = HomebrewPackageSummary::Kind::formula;
   summary.installedVersions = added(texts, formula.installedVersions);
   summary.installedVersion = added(texts, formula.currentVersion);
-  summary.detail = texts.addOnce(detailOf(formula.installReason));
+  summary.detail = texts.intern(detailOf(formula.installReason));
   if (const auto& known = formula.catalogFormula) {
     summary.description = known->description;
     summary.latestKnownVersion = known->versions.stable;
@@ -60,7 +60,7 @@ InstalledPackageSummary summaryOf(const InstalledCask& cask, SharedTextBuilder& 
   summary.installedVersions = added(texts, cask.installedVersions);
   summary.installedVersion = added(texts, cask.currentVersion);
   summary.detail = texts.add("Cask token: ", token.view());
-  summary.name = cask.catalogCask ? shownName(*cask.catalogCask) : token;
+  summary.name = cask.catalogCask ? displayName(*cask.catalogCask) : token;
   if (const auto& known = cask.catalogCask) {
     summary.description = known->description;
     summary.latestKnownVersion = known->version;
@@ -84,13 +84,13 @@ std::vector<InstalledPackageSummary> installedPackageSummaries(
   for (const InstalledCask& cask : casks) {
     summaries.push_back(summaryOf(cask, texts));
   }
-  NameOrdering::ofUser().stableSort(
+  NameOrdering::forUserLocale().stableSort(
       summaries, [](const InstalledPackageSummary& summary) { return summary.name.toString(); });
   return summaries;
 }
 
 bool comesBefore(const InstalledPackageSummary& left, const InstalledPackageSummary& right) {
-  return NameOrdering::ofUser().compare(left.name.toString(), right.name.toString()) < 0;
+  return NameOrdering::forUserLocale().compare(left.name.toString(), right.name.toString()) < 0;
 }
 
 }  // namespace quillmere

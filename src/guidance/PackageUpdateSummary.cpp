@@ -3,13 +3,13 @@
 #include <QtCore/QStringList>
 
 #include "platform/NameOrdering.h"
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 
 namespace quillmere {
 namespace {
 
 QString spoken(const QString& lead, const std::optional<SharedText>& value) {
-  return lead + (value ? shownText(*value) : QStringLiteral("unknown"));
+  return lead + (value ? sanitizedText(*value) : QStringLiteral("unknown"));
 }
 
 PackageUpdateSummary updateOf(const InstalledPackageSummary& package) {
@@ -31,14 +31,14 @@ std::vector<PackageUpdateSummary> packageUpdateSummaries(
   for (const InstalledPackageSummary& package : inventory) {
     updates.push_back(updateOf(package));
   }
-  NameOrdering::ofUser().stableSort(
+  NameOrdering::forUserLocale().stableSort(
       updates, [](const PackageUpdateSummary& update) { return update.package.name.toString(); });
   return updates;
 }
 
-QString spokenLabel(const PackageUpdateSummary& update) {
+QString accessibleLabel(const PackageUpdateSummary& update) {
   const PackageVersionState& state = update.versionState;
-  return QStringList{shownText(update.package.name),
+  return QStringList{sanitizedText(update.package.name),
                      displayLabel(update.package.kind),
                      rawValue(state.status),
                      spoken(QStringLiteral("installed "), state.currentVersion),

@@ -22,6 +22,6 @@ struct PackageUpdateSummary {
     const std::vector<InstalledPackageSummary>& inventory);
 
 /// The entry as assistive technology reads it out. Pure; any thread.
-[[nodiscard]] QString spokenLabel(const PackageUpdateSummary& update);
+[[nodiscard]] QString accessibleLabel(const PackageUpdateSummary& update);
 
 }  // namespace quillmere

@@ -38,7 +38,7 @@ Status packageVersionStatus(const std::optional<SharedText>& current,
   if (hasNoDigit(installed) || hasNoDigit(known)) {
     return Status::notComparable;
   }
-  const int order = NameOrdering::ofUser().compare(installed, known);
+  const int order = NameOrdering::forUserLocale().compare(installed, known);
   if (order == 0) {
     return Status::upToDate;
   }

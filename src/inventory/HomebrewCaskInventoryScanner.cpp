@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "inventory/InventoryFolders.h"
+#include "inventory/PackageFolders.h"
 #include "platform/SecurityScopedAccess.h"
 #include "prefix/HomebrewPrefixReader.h"
 

@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "inventory/HomebrewInstallReceipt.h"
-#include "inventory/InventoryFolders.h"
+#include "inventory/PackageFolders.h"
 #include "platform/FileUrl.h"
 #include "platform/SecurityScopedAccess.h"
 #include "prefix/HomebrewPrefixReader.h"

@@ -8,7 +8,7 @@
 namespace quillmere {
 namespace {
 
-static_assert(readAheadPadding >= simdjson::SIMDJSON_PADDING);
+static_assert(parserPadding >= simdjson::SIMDJSON_PADDING);
 
 /// The value of `wanted`; of its last occurrence, if the document repeats the key.
 std::optional<simdjson::dom::element> lastValue(const simdjson::dom::object& object,
@@ -63,7 +63,7 @@ HomebrewInstallReceiptReader::HomebrewInstallReceiptReader() : parser_(std::make
 HomebrewInstallReceiptReader::~HomebrewInstallReceiptReader() = default;
 
 std::optional<HomebrewInstallReceipt> HomebrewInstallReceiptReader::read(const QByteArray& json) {
-  return parser_->read(json, !hasReadAheadPadding(json));
+  return parser_->read(json, !hasParserPadding(json));
 }
 
 }  // namespace quillmere

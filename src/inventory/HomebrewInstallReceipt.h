@@ -27,7 +27,7 @@ class HomebrewInstallReceiptReader {
   /// Absent when `json` is no receipt: not a JSON object in UTF-8, or one whose
   /// "installed_on_request" is neither a truth value nor null. Other keys may hold anything that
   /// fits a JSON reader: no number beyond 64 bits, nothing a thousand levels deep. Text with
-  /// `readAheadPadding` of capacity behind it is read where it stands.
+  /// `parserPadding` of capacity behind it is read where it stands.
   [[nodiscard]] std::optional<HomebrewInstallReceipt> read(const QByteArray& json);
 
  private:

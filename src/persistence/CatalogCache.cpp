@@ -85,7 +85,7 @@ QCoro::Task<bool> CatalogCache::save(QByteArray document, QUrl file) {
   co_return *clearings == before;
 }
 
-void CatalogCache::adopt(const QByteArray& document, const QUrl& file) {
+void CatalogCache::migrate(const QByteArray& document, const QUrl& file) {
   if (!isReadableFile(filePath(file))) {
     write(document, file);
   }

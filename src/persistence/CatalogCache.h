@@ -37,7 +37,7 @@ class CatalogCache {
   QCoro::Task<bool> save(QByteArray document, QUrl file);
   /// Keeps a document that an older version kept elsewhere, unless `file` can be read. Blocks on
   /// the disk.
-  void adopt(const QByteArray& document, const QUrl& file);
+  void migrate(const QByteArray& document, const QUrl& file);
   /// Replaces `file`, making its folder first, or removes it when there are no bytes. Blocks on the
   /// disk while it writes.
   void write(const std::optional<QByteArray>& bytes, const QUrl& file);

@@ -212,8 +212,8 @@ std::optional<CommandHistory> decodeCommandHistory(const QByteArray& json) {
   return history;
 }
 
-CommandHistoryRecord executionRecord(const DirectCommandResult& result,
-                                     const std::optional<QString>& sourceScreen) {
+CommandHistoryRecord makeExecutionRecord(const DirectCommandResult& result,
+                                         const std::optional<QString>& sourceScreen) {
   return {
       .id = QUuid::createUuid(),
       .command = result.command.commandText,

@@ -25,7 +25,7 @@ using CommandHistory = QList<CommandHistoryRecord>;
 [[nodiscard]] std::optional<CommandHistory> decodeCommandHistory(const QByteArray& json);
 
 /// The record of a finished run.
-[[nodiscard]] CommandHistoryRecord executionRecord(const DirectCommandResult& result,
-                                                   const std::optional<QString>& sourceScreen);
+[[nodiscard]] CommandHistoryRecord makeExecutionRecord(const DirectCommandResult& result,
+                                                       const std::optional<QString>& sourceScreen);
 
 }  // namespace quillmere

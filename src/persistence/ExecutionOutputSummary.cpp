@@ -103,12 +103,12 @@ std::optional<QString> executionOutputSummary(QByteArrayView standardOutput,
   for (qsizetype length = 4 * summaryLimit; length < output.size(); length *= 2) {
     // The last user-perceived character of a prefix, or a secret, may continue beyond its end, so
     // the prefix has to be longer than the summary.
-    const QString start = secrets.hiddenIn(output.prefix(length));
+    const QString start = secrets.redacted(output.prefix(length));
     if (abbreviated(start, summaryLimit + secrets.longest()) != start) {
       return abbreviated(start, summaryLimit);
     }
   }
-  return abbreviated(secrets.hiddenIn(output.prefix(output.size())), summaryLimit);
+  return abbreviated(secrets.redacted(output.prefix(output.size())), summaryLimit);
 }
 
 }  // namespace quillmere

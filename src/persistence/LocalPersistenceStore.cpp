@@ -113,7 +113,7 @@ QCoro::Task<> LocalPersistenceStore::readLongHistory() {
 }
 
 void LocalPersistenceStore::finishReadingHistory() const {
-  if (!hasReadHistory()) {
+  if (!isHistoryLoaded()) {
     commandHistory_ = readingHistory_.result().value_or(CommandHistory());
     readingHistory_ = {};
   }
@@ -133,14 +133,14 @@ void LocalPersistenceStore::write(QLatin1StringView key, const T& value) {
 void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file) {
   const auto document = valueOf<QByteArray>(*defaults_, oldKey);
   if (document) {
-    catalogCache_.adopt(*document, file);
+    catalogCache_.migrate(*document, file);
   }
   if (defaults_->contains(oldKey)) {
     write(oldKey, std::optional<QByteArray>());
   }
 }
 
-QCoro::Task<> LocalPersistenceStore::settled() {
+QCoro::Task<> LocalPersistenceStore::flush() {
   const QFuture<void> last = QtConcurrent::run(&settingsWriter_, [] {});
   co_await last;
 }
@@ -202,8 +202,8 @@ void LocalPersistenceStore::appendHistory(const CommandHistoryRecord& record) {
   Q_EMIT commandHistoryChanged();
 }
 
-void LocalPersistenceStore::catchUpHistory() {
-  if (hasReadHistory()) {
+void LocalPersistenceStore::refreshHistory() {
+  if (isHistoryLoaded()) {
     takeOver(QtConcurrent::run(&settingsWriter_, &SharedHistory::synchronize, sharedHistory_));
   }
 }
@@ -293,7 +293,7 @@ void LocalPersistenceStore::resetOnboarding() {
 
 void LocalPersistenceStore::recordExecution(const DirectCommandResult& result,
                                             const std::optional<QString>& sourceScreen) {
-  appendHistory(executionRecord(result, sourceScreen));
+  appendHistory(makeExecutionRecord(result, sourceScreen));
 }
 
 }  // namespace quillmere

@@ -75,7 +75,7 @@ class LocalPersistenceStore : public QObject {
 
   /// Whether `commandHistory` returns at once. `commandHistoryChanged` is emitted when a long
   /// history has been read.
-  [[nodiscard]] bool hasReadHistory() const { return !readingHistory_.isValid(); }
+  [[nodiscard]] bool isHistoryLoaded() const { return !readingHistory_.isValid(); }
 
   void setCommandHistory(const CommandHistory& history);
 
@@ -118,14 +118,14 @@ class LocalPersistenceStore : public QObject {
 
   /// Ends when every setting that was set so far has been written; does not wait for the catalog
   /// documents.
-  QCoro::Task<> settled();
+  QCoro::Task<> flush();
 
   /// Puts `record` at the front of the history, which has no maximum length, and what other windows
   /// of the program have added behind it.
   void appendHistory(const CommandHistoryRecord& record);
   /// Takes over what other windows of the program did to the history; `commandHistoryChanged` says
   /// when it is there.
-  void catchUpHistory();
+  void refreshHistory();
   /// Appends the record of a finished run.
   void recordExecution(const DirectCommandResult& result,
                        const std::optional<QString>& sourceScreen);

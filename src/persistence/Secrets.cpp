@@ -44,7 +44,7 @@ Secrets::Secrets(const QProcessEnvironment& environment) {
   std::ranges::sort(values_, std::ranges::greater(), &QString::size);
 }
 
-QString Secrets::hiddenIn(QString text) const {
+QString Secrets::redacted(QString text) const {
   for (const QString& value : values_) {
     text.replace(value, hidden());
   }

@@ -14,7 +14,7 @@ class Secrets {
   explicit Secrets(const QProcessEnvironment& environment);
 
   /// `text` with "•••" for each of them.
-  [[nodiscard]] QString hiddenIn(QString text) const;
+  [[nodiscard]] QString redacted(QString text) const;
 
   /// In characters: if a text is cut, this much at its end may be the beginning of a secret.
   [[nodiscard]] qsizetype longest() const { return longest_; }

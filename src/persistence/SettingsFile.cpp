@@ -15,7 +15,7 @@ bool hasRoomFor(const QString& fileName, const QVariant& value) {
   constexpr qint64 keyAndDate = 1024;
   const qint64 size =
       QFileInfo(fileName).size() + longestEscape * value.toByteArray().size() + keyAndDate;
-  return hasRoomBeside(fileName, size);
+  return hasFreeSpaceFor(fileName, size);
 }
 
 }  // namespace

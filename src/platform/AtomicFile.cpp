@@ -12,7 +12,7 @@ namespace quillmere {
 
 bool replaceFile(const QString& path, const QByteArray& bytes) {
   QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(ownerAlone)) {
+  if (!file.open(QIODevice::WriteOnly) || !file.setPermissions(ownerOnly)) {
     return false;
   }
   // A write that comes up short stays in the buffer of the file, and commit() does not look whether
@@ -24,7 +24,7 @@ bool replaceFile(const QString& path, const QByteArray& bytes) {
   return file.commit();
 }
 
-bool hasRoomBeside(const QString& path, qint64 bytes) {
+bool hasFreeSpaceFor(const QString& path, qint64 bytes) {
   QTemporaryFile probe(QFileInfo(path).path() + QStringLiteral("/.room-XXXXXX"));
   return probe.open() && posix_fallocate(probe.handle(), 0, bytes) == 0;
 }

@@ -12,6 +12,6 @@ namespace quillmere {
 
 /// Whether the disk has room for a file of `bytes` beside the one at `path`. For writers that are
 /// not ours and would lose the old file to a full disk. Any thread.
-[[nodiscard]] bool hasRoomBeside(const QString& path, qint64 bytes);
+[[nodiscard]] bool hasFreeSpaceFor(const QString& path, qint64 bytes);
 
 }  // namespace quillmere

@@ -52,7 +52,7 @@ NameOrdering::NameOrdering(const QLocale& locale) : collator_(languageOf(locale)
   collator_.setCaseSensitivity(Qt::CaseInsensitive);
 }
 
-const NameOrdering& NameOrdering::ofUser() {
+const NameOrdering& NameOrdering::forUserLocale() {
   thread_local const NameOrdering ordering{QLocale::system().collation()};
   return ordering;
 }

@@ -21,7 +21,7 @@ class NameOrdering {
 
   /// The ordering of the user's language, made when the calling thread first asks and kept for that
   /// thread.
-  [[nodiscard]] static const NameOrdering& ofUser();
+  [[nodiscard]] static const NameOrdering& forUserLocale();
 
   /// Negative, zero or positive as `left` comes before, with or after `right`.
   [[nodiscard]] int compare(QStringView left, QStringView right) const;

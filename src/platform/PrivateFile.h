@@ -6,7 +6,7 @@
 namespace quillmere {
 
 /// What nobody but the user may read: packages that somebody has tell a lot about them.
-inline constexpr QFile::Permissions ownerAlone = QFile::ReadOwner | QFile::WriteOwner;
+inline constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner;
 
 /// Takes the file at `path` from everybody but its owner, where there is one. Any thread.
 void restrictToOwner(const QString& path);

@@ -41,7 +41,7 @@ SharedText SharedTextBuilder::add(QStringView text) {
   return add(std::string_view(QByteArrayView(text.toUtf8())));
 }
 
-SharedText SharedTextBuilder::addOnce(std::string_view utf8) {
+SharedText SharedTextBuilder::intern(std::string_view utf8) {
   const auto known = once_.find(utf8);
   if (known != once_.end()) {
     return known->second;

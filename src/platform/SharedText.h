@@ -60,7 +60,7 @@ class SharedTextBuilder {
   [[nodiscard]] SharedText add(std::string_view utf8);
   [[nodiscard]] SharedText add(QStringView text);
   /// The same for a text that others are likely to repeat: it is stored once.
-  [[nodiscard]] SharedText addOnce(std::string_view utf8);
+  [[nodiscard]] SharedText intern(std::string_view utf8);
   /// One text from two pieces.
   [[nodiscard]] SharedText add(std::string_view first, std::string_view second);
 

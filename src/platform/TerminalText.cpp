@@ -72,7 +72,7 @@ class LineReader {
  public:
   explicit LineReader(QStringView text) : rest_(text) {}
 
-  QString standingText() {
+  QString terminalText() {
     while (!rest_.isEmpty()) {
       if (const QStringView ascii = joins_ ? QStringView() : takeWhile(u' ', u'~');
           !ascii.isEmpty()) {
@@ -206,9 +206,9 @@ class LineReader {
 
 }  // namespace
 
-QString standingText(QByteArrayView line) {
+QString terminalText(QByteArrayView line) {
   const QString text = decoded(line);
-  return needsTerminal(line) ? LineReader(text).standingText() : text;
+  return needsTerminal(line) ? LineReader(text).terminalText() : text;
 }
 
 }  // namespace quillmere

@@ -10,6 +10,6 @@ namespace quillmere {
 /// goes back to the first column so that later text overwrites earlier, a backspace goes back one.
 /// Colours and links are dropped, tabs kept. Pure; a line without control characters comes back as
 /// it is. `line` is UTF-8 without its line feed.
-[[nodiscard]] QString standingText(QByteArrayView line);
+[[nodiscard]] QString terminalText(QByteArrayView line);
 
 }  // namespace quillmere

@@ -5,15 +5,15 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/DirectoryReader.h"
 #include "platform/FileUrl.h"
 #include "platform/RegularFile.h"
-#include "platform/VisibleEntries.h"
 
 namespace quillmere {
 namespace {
 
 /// What is read of a prefix are receipts. The largest have some hundred kilobytes.
-constexpr qint64 mostBytes = qint64{4} * 1024 * 1024;
+constexpr qint64 maximumBytes = qint64{4} * 1024 * 1024;
 
 /// Whether the calling user may do to what is at `path` what `mode` says.
 bool isAccessible(const QString& path, int mode) {
@@ -29,7 +29,7 @@ class PlatformFileSystem final : public HomebrewPrefixFileSystem {
   std::expected<QList<QUrl>, FileSystemError> contentsOfDirectory(const QUrl& url) const override {
     const QString folder = filePath(url);
     const QString beginning = folder.endsWith(u'/') ? folder : folder + u'/';
-    VisibleEntries entries(folder);
+    DirectoryReader entries(folder);
     QList<QUrl> contents;
     while (const dirent* const entry = entries.next()) {
       contents += fileUrl(beginning + QFile::decodeName(entry->d_name));
@@ -41,7 +41,7 @@ class PlatformFileSystem final : public HomebrewPrefixFileSystem {
   }
 
   std::expected<QByteArray, FileSystemError> readData(const QUrl& url) const override {
-    auto data = readRegularFile(filePath(url), mostBytes);
+    auto data = readRegularFile(filePath(url), maximumBytes);
     if (!data) {
       return std::unexpected(FileSystemError{std::move(data).error()});
     }

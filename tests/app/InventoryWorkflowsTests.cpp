@@ -10,10 +10,10 @@
 
 #include "app/InventoryWorkflows.h"
 #include "persistence/LocalPersistenceStore.h"
-#include "support/DemoPrefix.h"
-#include "support/HeldFileSystem.h"
+#include "support/BlockingFileSystem.h"
 #include "support/Printers.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 using namespace Qt::StringLiterals;
 
@@ -70,9 +70,9 @@ class InventoryWorkflowsTest : public testing::Test {
   }
 
   test::TemporarySettings settings_;
-  test::DemoPrefix prefix_;
+  test::TestPrefix prefix_;
   LocalPersistenceStore store_{settings_.open(), settings_.cacheDirectoryURL()};
-  std::shared_ptr<test::HeldFileSystem> disk_ = std::make_shared<test::HeldFileSystem>();
+  std::shared_ptr<test::BlockingFileSystem> disk_ = std::make_shared<test::BlockingFileSystem>();
   std::optional<InventoryWorkflows> workflows_{std::in_place, store_, disk_};
 };
 
@@ -209,7 +209,7 @@ TEST_F(InventoryWorkflowsTest, CountThePackages) {
 
 TEST_F(InventoryWorkflowsTest, ForgetWhatWasFoundInAnotherPrefix) {
   scan();
-  test::DemoPrefix other;
+  test::TestPrefix other;
   store_.selectPrefix(other.url());
   EXPECT_EQ(workflows_->state(), State{State::Idle{}});
   EXPECT_EQ(store_.localInventoryLastScanDate(), std::nullopt);
@@ -218,7 +218,7 @@ TEST_F(InventoryWorkflowsTest, ForgetWhatWasFoundInAnotherPrefix) {
 TEST_F(InventoryWorkflowsTest, DropAScanOfAPrefixThatIsNoLongerSelected) {
   hold();
   auto scanning = workflows_->scan();
-  test::DemoPrefix other;
+  test::TestPrefix other;
   store_.selectPrefix(other.url());
   disk_->released.release();
   QCoro::waitFor(scanning);

@@ -15,10 +15,10 @@
 
 #include "app/QuillmereApp.h"
 #include "commands/BrewCommandBuilder.h"
-#include "support/DemoPrefix.h"
 #include "support/FakeBrew.h"
 #include "support/Rounds.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 // What Qt offers to tools that look at a program from outside; no header of it is installed.
 extern Q_DECL_IMPORT quintptr qtHookData[];
@@ -162,7 +162,7 @@ class LongUse : public testing::Test {
   static constexpr int tolerated = 3;
 
   TemporarySettings settings_;
-  DemoPrefix prefix_;
+  TestPrefix prefix_;
   QuillmereApp app_{{.settings = [this] { return settings_.open(); },
                      .cacheDirectoryURL = settings_.cacheDirectoryURL()}};
 };

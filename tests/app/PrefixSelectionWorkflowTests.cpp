@@ -5,9 +5,9 @@
 #include "app/PrefixSelectionWorkflow.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "prefix/HomebrewPrefixStartFolder.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,8 +21,8 @@ class PrefixSelectionWorkflowTest : public testing::Test {
   test::TemporarySettings settings_;
   LocalPersistenceStore store_{settings_.open(), settings_.cacheDirectoryURL()};
   PrefixSelectionWorkflow workflow_{store_};
-  test::DemoPrefix prefix_;
-  test::DemoPrefix emptyFolder_;
+  test::TestPrefix prefix_;
+  test::TestPrefix emptyFolder_;
 };
 
 TEST_F(PrefixSelectionWorkflowTest, AsksTheWindowForAChooserThatOpensAtTheUsualPrefix) {

@@ -24,15 +24,15 @@
 #include "demo/DemoPackages.h"
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
-#include "support/BaitServer.h"
+#include "support/BackgroundThreadBlocker.h"
+#include "support/BlockingFileSystem.h"
 #include "support/CatalogServer.h"
-#include "support/DemoPrefix.h"
 #include "support/FakeBrew.h"
 #include "support/GeneratedCatalog.h"
-#include "support/HeldFileSystem.h"
-#include "support/HeldThreads.h"
+#include "support/HoneypotServer.h"
 #include "support/HostileCatalog.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 namespace {
 
@@ -53,16 +53,16 @@ struct World {
   ~World() { disk->released.release(); }
 
   test::TemporarySettings settings;
-  test::DemoPrefix prefix;
-  test::DemoPrefix emptyFolder;
-  std::shared_ptr<test::HeldFileSystem> disk = std::make_shared<test::HeldFileSystem>();
+  test::TestPrefix prefix;
+  test::TestPrefix emptyFolder;
+  std::shared_ptr<test::BlockingFileSystem> disk = std::make_shared<test::BlockingFileSystem>();
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
   WindowMemory memory{settings.open()};
   /// Answers that nothing is there, until it is told otherwise.
   test::CatalogServer server;
-  test::BaitServer bait;
+  test::HoneypotServer bait;
   QNetworkAccessManager session;
-  std::optional<test::HeldThreads> heldThreads;
+  std::optional<test::BackgroundThreadBlocker> heldThreads;
   ContentViewModel content{store, AppCapabilities::all(), std::make_shared<DirectCommandRunner>(),
                            CatalogWorkflows::Clients{
                                .formulae = {.apiURL = server.url(formulaPath), .session = &session},
@@ -141,7 +141,7 @@ class Stage : public QObject {
       const BrewCommand command{.commandText = "brew info " + text,
                                 .target = {BrewCommandTargetKind::formula, text}};
       world_->store.appendHistory(
-          copyRecord(command, QStringLiteral("<b>bold</b>"), QDateTime::currentDateTimeUtc()));
+          makeCopyRecord(command, QStringLiteral("<b>bold</b>"), QDateTime::currentDateTimeUtc()));
     }
   }
 
@@ -222,16 +222,16 @@ class Stage : public QObject {
   }
 
   Q_INVOKABLE void addToHistory() {
-    world_->store.appendHistory(copyRecord(BrewCommandBuilder().cleanup(),
-                                           QStringLiteral("Cleanup"),
-                                           QDateTime::currentDateTimeUtc()));
+    world_->store.appendHistory(makeCopyRecord(BrewCommandBuilder().cleanup(),
+                                               QStringLiteral("Cleanup"),
+                                               QDateTime::currentDateTimeUtc()));
   }
 
   Q_INVOKABLE void addManyToHistory(int count) {
     CommandHistory history;
     for (int number = 0; number < count; ++number) {
-      history += copyRecord(BrewCommandBuilder().update(), QStringLiteral("Updates"),
-                            QDateTime::currentDateTimeUtc());
+      history += makeCopyRecord(BrewCommandBuilder().update(), QStringLiteral("Updates"),
+                                QDateTime::currentDateTimeUtc());
     }
     world_->store.setCommandHistory(history);
   }

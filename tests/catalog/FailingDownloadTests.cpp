@@ -110,21 +110,21 @@ TEST_F(FailingDownload, HasALimitThatTenTimesAsManyPackagesDoNotReach) {
 }
 
 TEST_F(FailingDownload, LosesPatienceWithASilentServer) {
-  const DownloadPatience patience{.window = 100ms, .bytes = 1'000};
+  const StallLimit stallLimit{.window = 100ms, .bytes = 1'000};
   EXPECT_EQ(
-      told(fetch({.headBytes = 0, .ending = Answer::Ending::silence}, {.patience = patience})),
+      told(fetch({.headBytes = 0, .ending = Answer::Ending::silence}, {.stallLimit = stallLimit})),
       lostPatience);
   EXPECT_EQ(told(fetch({.body = document, .headBytes = 20, .ending = Answer::Ending::silence},
-                       {.patience = patience})),
+                       {.stallLimit = stallLimit})),
             lostPatience);
   EXPECT_EQ(told(fetch({.body = document, .bodyBytes = 500, .ending = Answer::Ending::silence},
-                       {.patience = patience})),
+                       {.stallLimit = stallLimit})),
             lostPatience);
 }
 
 TEST_F(FailingDownload, LosesPatienceWithATrickle) {
   EXPECT_EQ(told(fetch({.body = document, .pieceBytes = 1, .pause = 5ms},
-                       {.patience = {.window = 300ms, .bytes = 10'000}})),
+                       {.stallLimit = {.window = 300ms, .bytes = 10'000}})),
             lostPatience);
 }
 
@@ -132,14 +132,14 @@ TEST_F(FailingDownload, KeepsPatienceWhileEnoughArrives) {
   QElapsedTimer clock;
   clock.start();
   const auto result = fetch({.body = document, .pieceBytes = document.size() / 60, .pause = 50ms},
-                            {.patience = {.window = 2s, .bytes = 1'000}});
+                            {.stallLimit = {.window = 2s, .bytes = 1'000}});
   EXPECT_EQ(told(result), "");
   EXPECT_GE(clock.elapsed(), 2'000);
 }
 
 TEST_F(FailingDownload, HasPatienceForAMinute) {
-  EXPECT_EQ(DownloadPatience().window, 60s);
-  EXPECT_EQ(DownloadPatience().bytes, 60 * 1024);
+  EXPECT_EQ(StallLimit().window, 60s);
+  EXPECT_EQ(StallLimit().bytes, 60 * 1024);
 }
 
 TEST_F(FailingDownload, PassesOnThatNobodyListens) {

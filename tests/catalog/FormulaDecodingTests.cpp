@@ -146,11 +146,11 @@ TEST(FormulaDecoding, ReadsTheSameWhereverTheDocumentLies) {
       decodeFormulae(QByteArray::fromRawData(within.constData() + 2, document.size()));
   EXPECT_EQ(whole.value(), part.value());
   QByteArray padded = document;
-  padded.reserve(document.size() + readAheadPadding);
+  padded.reserve(document.size() + parserPadding);
   EXPECT_EQ(whole.value(), decodeFormulae(padded).value());
   // What was cut off in front is no room behind.
-  QByteArray shifted = QByteArray(readAheadPadding, ' ') + document;
-  shifted.remove(0, readAheadPadding);
+  QByteArray shifted = QByteArray(parserPadding, ' ') + document;
+  shifted.remove(0, parserPadding);
   EXPECT_EQ(whole.value(), decodeFormulae(shifted).value());
 }
 

@@ -98,7 +98,7 @@ TEST(HostileCatalog, MayHaveAMillionRecords) {
   EXPECT_EQ(withoutDuplicates(decodeFormulae(same).value()).size(), 1U);
   const auto decoded = decodeCatalog({.formulae = all});
   ASSERT_TRUE(decoded);
-  const PackageCatalogSnapshot& catalog = *decoded;
+  const PackageCatalogPtr& catalog = *decoded;
   EXPECT_EQ(catalog->packages().size(), static_cast<std::size_t>(count));
   EXPECT_EQ(catalog->reverseDependencyNames(catalog->packages().front()).value().size(),
             static_cast<std::size_t>(count - 1));

@@ -20,7 +20,7 @@ TEST(MetadataClientDefaults, AreThePublicDocuments) {
 
 TEST(MetadataClientDefaults, EndTheProcessWhenTheFixedTextIsNoUrl) {
   GTEST_FLAG_SET(death_test_style, "threadsafe");
-  EXPECT_DEATH((void)urlFromFixedText(QStringLiteral("https://bad host/")), "is not a URL");
+  EXPECT_DEATH((void)urlLiteral(QStringLiteral("https://bad host/")), "is not a URL");
 }
 
 TEST_F(MetadataClient, HandsOnTheBodyAsItIs) {
@@ -52,7 +52,7 @@ TEST_F(MetadataClient, LeavesRoomBehindTheDocumentForItsReader) {
     const auto result = fetch({.body = body}, {.maximumBytes = maximumBytes});
     ASSERT_EQ(told(result), "");
     EXPECT_TRUE(result == body);
-    EXPECT_GE(result->capacity(), result->size() + readAheadPadding);
+    EXPECT_GE(result->capacity(), result->size() + parserPadding);
   };
   hasRoom("[]", 2);
   // Ends within the padding of what is set aside at first.

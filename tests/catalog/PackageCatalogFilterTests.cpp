@@ -214,10 +214,10 @@ TEST(FilteredPackages, AreTheSameAsThoseOfAWalkThroughTheFields) {
       }
     }
     const auto results = filtered(catalog, text);
-    const bool isCut = expected.size() > FilteredPackageResults::mostVisible;
+    const bool isCut = expected.size() > FilteredPackageResults::maximumVisible;
     EXPECT_EQ(results.exactMatchCount, isCut ? std::nullopt : std::optional(expected.size()))
         << text.toString().toStdString();
-    expected.resize(std::min(expected.size(), FilteredPackageResults::mostVisible));
+    expected.resize(std::min(expected.size(), FilteredPackageResults::maximumVisible));
     EXPECT_EQ(results.visiblePackages, expected) << text.toString().toStdString();
   }
 }

@@ -52,7 +52,7 @@ TEST(PackageCatalog, NamesADependantOnceThatListsAFormulaTwice) {
 }
 
 TEST(PackageCatalog, OfBothDocumentsHasFormulaeBeforeCasks) {
-  const PackageCatalogSnapshot catalog =
+  const PackageCatalogPtr catalog =
       decodeCatalog({.formulae = R"([{"name": "wget", "versions": {}, "dependencies": ["zlib"]},
                            {"name": "zlib", "versions": {}}])",
                      .casks = R"([{"token": "firefox"}, {"token": "zlib"}])"})

@@ -188,12 +188,12 @@ TEST(BrewCommandBuilder, PutsAnAcceptedIdentifierUnchangedAtTheEndOfTheCommand) 
 TEST(BrewCommandBuilder, TellsAPackageFromAnOptionAndAFile) {
   for (const QString& name : {u"wget"_s, u"openssl@3"_s, u"0-ad"_s, u"user/tap/thing"_s,
                               u"A+b.c_d"_s, QString(255, u'a')}) {
-    EXPECT_TRUE(couldBePackage(name)) << name.toStdString();
+    EXPECT_TRUE(isPlausiblePackageName(name)) << name.toStdString();
   }
   for (const QString& name :
        {u""_s, u"-x"_s, u"--cask"_s, u"../x"_s, u"./x"_s, u"/x"_s, u"a/../x"_s, u"a/-x"_s,
         u"a//b"_s, u"a/"_s, u"@"_s, u"\u00e9"_s, u"\u0661"_s, QString(256, u'a')}) {
-    EXPECT_FALSE(couldBePackage(name)) << name.toStdString();
+    EXPECT_FALSE(isPlausiblePackageName(name)) << name.toStdString();
   }
 }
 

@@ -68,7 +68,7 @@ std::string nameOf(const testing::TestParamInfo<Row>& row) {
 class Decision : public testing::TestWithParam<Row> {};
 
 TEST_P(Decision, IsThatOfTheTable) {
-  const auto decision = decide(GetParam().command, GetParam().capabilities);
+  const auto decision = executionPolicyDecision(GetParam().command, GetParam().capabilities);
   EXPECT_EQ(decision.mode, GetParam().mode);
   EXPECT_EQ(decision.title, GetParam().title);
   EXPECT_EQ(decision.message, GetParam().message);
@@ -135,7 +135,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(DirectExecutionPolicy, KeepsEveryCommandToThePreviewWhereNoneMayBeRun) {
   for (const BrewCommand& command : everyCommand()) {
-    EXPECT_EQ(decide(command, allBut(&AppCapabilities::canExecuteCommands)),
+    EXPECT_EQ(executionPolicyDecision(command, allBut(&AppCapabilities::canExecuteCommands)),
               (DirectExecutionPolicyDecision{
                   Mode::previewOnly, u"Preview "_s + command.commandText,
                   u"This build keeps Homebrew commands as preview and copy only."_s}));
@@ -146,23 +146,24 @@ TEST(DirectExecutionPolicy, NeverRunsAnUninstallWhateverTheBuildMayDo) {
   for (unsigned flags = 0; flags < 32; ++flags) {
     const AppCapabilities capabilities = {(flags & 1) != 0, (flags & 2) != 0, (flags & 4) != 0,
                                           (flags & 8) != 0, (flags & 16) != 0};
-    EXPECT_EQ(decide(*builder.uninstall(firefox), capabilities).mode, Mode::previewOnly);
+    EXPECT_EQ(executionPolicyDecision(*builder.uninstall(firefox), capabilities).mode,
+              Mode::previewOnly);
   }
 }
 
 TEST(DirectExecutionPolicy, DecidesAlikeWithAndWithoutStreamedOutput) {
   for (const BrewCommand& command : everyCommand()) {
-    EXPECT_EQ(decide(command, all),
-              decide(command, allBut(&AppCapabilities::canStreamCommandOutput)));
+    EXPECT_EQ(executionPolicyDecision(command, all),
+              executionPolicyDecision(command, allBut(&AppCapabilities::canStreamCommandOutput)));
   }
 }
 
 TEST(DirectExecutionPolicy, DecidesAlikeForEveryRiskLevel) {
   for (BrewCommand command : everyCommand()) {
-    const auto decision = decide(command, all);
+    const auto decision = executionPolicyDecision(command, all);
     for (const auto& risk : rawValues<BrewCommandRiskLevel>) {
       command.riskLevel = risk.value;
-      EXPECT_EQ(decide(command, all), decision);
+      EXPECT_EQ(executionPolicyDecision(command, all), decision);
     }
   }
 }

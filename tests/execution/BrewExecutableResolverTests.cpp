@@ -3,16 +3,16 @@
 
 #include "execution/BrewExecutableResolver.h"
 #include "platform/SecurityScopedAccess.h"
-#include "support/DemoPrefix.h"
 #include "support/InMemoryPrefixFileSystem.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
 using test::InMemoryPrefixFileSystem;
+using test::TestPrefix;
 using Status = BrewExecutableResolution::Status;
 
 const QUrl prefixURL = QUrl(u"file:///opt/homebrew"_s);
@@ -69,17 +69,17 @@ TEST(BrewExecutableResolver, CallsAnUnreadableBrewNotExecutable) {
 }
 
 TEST(BrewExecutableResolver, CallsAnUnreadableBrewOfTheDiskNotExecutable) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\n");
   ASSERT_EQ(chmod(prefix.path().toUtf8().constData(), 0755), 0);
   ASSERT_EQ(chmod(prefix.pathOf(u"bin/brew"_s).toUtf8().constData(), 0), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+  EXPECT_TRUE(test::runUnprivileged([&prefix] {
     return BrewExecutableResolver().resolve(prefix.url()).status == Status::notExecutable;
   }));
 }
 
 TEST(BrewExecutableResolver, AsksForNoExecutePermission) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"bin/brew"_s, "#!/bin/sh\n");
   ASSERT_EQ(chmod(prefix.pathOf(u"bin/brew"_s).toUtf8().constData(), 0644), 0);
   EXPECT_EQ(BrewExecutableResolver().resolve(prefix.url()).status, Status::resolved);

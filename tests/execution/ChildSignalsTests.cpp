@@ -59,7 +59,7 @@ TEST(ChildSignals, LeaveTheHandlerOfAnother) {
 }
 
 TEST(ChildSignals, AreNoSuccessWhereTheExitStatusIsLost) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew(
       "#!/bin/sh\ncd \"${0%/*}/..\"\necho last words\ntouch started\n"
       "while [ -e bin/brew ] && [ ! -e release ]; do sleep 0.05; done\nexit 3\n");

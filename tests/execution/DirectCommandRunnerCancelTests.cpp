@@ -23,7 +23,7 @@ const QString beforeLaunch =
 const QString started = QStringLiteral("started");
 
 TEST(DirectCommandRunnerCancel, NeverLaunchesAChildThatWasCancelledBefore) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\ntouch \"${0%/*}/../ran\"\n");
   // The run's thread may be quicker than this one; it is not a hundred times in a row.
   for (int attempt = 0; attempt < 100; ++attempt) {
@@ -45,7 +45,7 @@ TEST(DirectCommandRunnerCancel, NeverLaunchesAChildThatWasCancelledBefore) {
 }
 
 TEST(DirectCommandRunnerCancel, EndsARunThatWouldNeverEnd) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew(
       "#!/bin/sh\necho working\ntouch \"${0%/*}/../started\"\nwhile :; do sleep 5; done\n");
   const auto execution = startRun(prefix);
@@ -59,7 +59,7 @@ TEST(DirectCommandRunnerCancel, EndsARunThatWouldNeverEnd) {
 }
 
 TEST(DirectCommandRunnerCancel, ReachesToolsInProcessGroupsOfTheirOwn) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew(
       "#!/bin/bash\n"
       "set -m\n"  // each background job leads a group of its own, as brew's downloads do
@@ -82,7 +82,7 @@ TEST(DirectCommandRunnerCancel, ReachesToolsInProcessGroupsOfTheirOwn) {
 }
 
 TEST(DirectCommandRunnerCancel, WaitsForAChildThatIgnoresTheRequest) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew(
       "#!/bin/sh\ntrap '' TERM\ncd \"${0%/*}/..\"\ntouch started\n"
       "while [ -e bin/brew ] && [ ! -e release ]; do sleep 0.05; done\necho finished my work\n");
@@ -99,7 +99,7 @@ TEST(DirectCommandRunnerCancel, WaitsForAChildThatIgnoresTheRequest) {
 }
 
 TEST(DirectCommandRunnerCancel, ChangesNothingAfterTheEnd) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho done\n");
   const auto execution = startRun(prefix);
   const FinishedRun run = finish(execution);
@@ -114,7 +114,7 @@ TEST(DirectCommandRunnerCancel, LeavesNothingBehindAtAnyMoment) {
   constexpr int runs = 1000;
   constexpr int atOnce = 20;
   constexpr int latestCancel = 12'000;  // microseconds; the child lives about half as long
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho one\nsleep 0.005\necho two >&2\n");
   EXPECT_EQ(finish(startRun(prefix)).result.exitCode, 0);  // what is made once is made now
   const auto counts = SecurityScopedAccess::counts();

@@ -28,7 +28,7 @@ std::vector<std::string> lines(const QStringList& list) {
 }
 
 TEST(DirectCommandRunner, TellsEachStepOfARunInOrder) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\nprintf '%s|' \"$@\"\nexit 0\n");
   const FinishedRun run = finish(startRun(prefix));
   const std::string path = prefix.path().toStdString();
@@ -48,7 +48,7 @@ TEST(DirectCommandRunner, TellsEachStepOfARunInOrder) {
 }
 
 TEST(DirectCommandRunner, DescribesTheRunInItsResult) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho out\necho err >&2\n");
   const BrewCommand command = infoCommand();
   const QDateTime before = QDateTime::currentDateTimeUtc();
@@ -82,7 +82,7 @@ TEST(DirectCommandRunner, RefusesAPrefixWithoutBrewAndStartsNothing) {
 }
 
 TEST(DirectCommandRunner, RefusesATargetThatTheOperationHasNoFormFor) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   BrewCommand command = infoCommand();
   command.target.kind = BrewCommandTargetKind::global;
   const auto execution = DirectCommandRunner().start(command, resolved(prefix));
@@ -92,7 +92,7 @@ TEST(DirectCommandRunner, RefusesATargetThatTheOperationHasNoFormFor) {
 }
 
 TEST(DirectCommandRunner, RunsWithTheSystemsSearchPathWhereNoPrefixIsKnown) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho $PATH\n");
   BrewExecutableResolution resolution = resolved(prefix);
   resolution.selectedPrefixURL.reset();
@@ -169,9 +169,9 @@ TEST(DirectCommandRunner, StartsWhereTheProgramWasStarted) {
 TEST(DirectCommandRunner, StartsAtHomeWhereTheWorkingDirectoryIsGone) {
   const QString before = QDir::currentPath();
   const QByteArray homeBefore = qgetenv("HOME");
-  const DemoPrefix home;
+  const TestPrefix home;
   {
-    const DemoPrefix gone;
+    const TestPrefix gone;
     ASSERT_TRUE(QDir::setCurrent(gone.path()));
   }
   qputenv("HOME", home.path().toLocal8Bit());
@@ -198,7 +198,7 @@ TEST(DirectCommandRunner, ReportsTheSignalThatEndedTheChild) {
 }
 
 TEST(DirectCommandRunner, PassesOnWhyTheProgramDidNotStart) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(QStringLiteral("bin/brew"), "#!/no/such/interpreter\n");
   prefix.withBrew("#!/no/such/interpreter\n");
   const auto counts = SecurityScopedAccess::counts();

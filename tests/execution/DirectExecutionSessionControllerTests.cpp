@@ -228,7 +228,7 @@ TEST_F(Session, MayBeDroppedWhileTheChildRuns) {
 }
 
 TEST(SessionWithARealChild, StreamsItsOutputAndEnds) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho one\nsleep 0.1\necho two >&2\nexit 3\n");
   DirectExecutionSessionController controller(infoCommand(), {}, resolved(prefix),
                                               std::make_shared<DirectCommandRunner>());
@@ -242,7 +242,7 @@ TEST(SessionWithARealChild, StreamsItsOutputAndEnds) {
 }
 
 TEST(SessionWithARealChild, CancelsIt) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho ready\nexec sleep 100\n");
   DirectExecutionSessionController controller(infoCommand(), {}, resolved(prefix),
                                               std::make_shared<DirectCommandRunner>());

@@ -50,7 +50,7 @@ class HostileChild : public testing::Test {
   /// A command that lasts until it is released, or until the prefix is gone.
   const QByteArray untilReleased =
       "while [ -e bin/brew ] && [ ! -e release ]; do sleep 0.05; done\n";
-  DemoPrefix prefix;
+  TestPrefix prefix;
   std::shared_ptr<DirectCommandExecution> execution;
 
  private:

@@ -32,7 +32,7 @@ QByteArray foreignProgram() {
 /// What stands in place of `bin/brew`, what the resolver says of it and why it is not run.
 struct Impostor {
   const char* name;
-  void (*make)(DemoPrefix& prefix, const QString& brew);
+  void (*make)(TestPrefix& prefix, const QString& brew);
   Resolution resolution;
   const char* failure;
 };
@@ -42,37 +42,37 @@ void makeLink(const QString& target, const QString& link) {
 }
 
 const Impostor impostors[] = {
-    {"ADirectory", [](DemoPrefix& prefix, const QString&) { prefix.withFolder(u"bin/brew"_s); },
+    {"ADirectory", [](TestPrefix& prefix, const QString&) { prefix.withFolder(u"bin/brew"_s); },
      Resolution::resolved, "Permission denied"},
-    {"ADanglingLink", [](DemoPrefix&, const QString& brew) { makeLink(u"/no/such/brew"_s, brew); },
+    {"ADanglingLink", [](TestPrefix&, const QString& brew) { makeLink(u"/no/such/brew"_s, brew); },
      Resolution::missingExecutable, "No such file or directory"},
-    {"ALinkToItself", [](DemoPrefix&, const QString& brew) { makeLink(brew, brew); },
+    {"ALinkToItself", [](TestPrefix&, const QString& brew) { makeLink(brew, brew); },
      Resolution::missingExecutable, "Too many levels of symbolic links"},
     {"APipe",
-     [](DemoPrefix&, const QString& brew) {
+     [](TestPrefix&, const QString& brew) {
        ASSERT_EQ(mkfifo(QFile::encodeName(brew).constData(), 0755), 0);
      },
      Resolution::resolved, "Permission denied"},
-    {"ADevice", [](DemoPrefix&, const QString& brew) { makeLink(u"/dev/zero"_s, brew); },
+    {"ADevice", [](TestPrefix&, const QString& brew) { makeLink(u"/dev/zero"_s, brew); },
      Resolution::resolved, "Permission denied"},
     {"WhatMayNotBeExecuted",
-     [](DemoPrefix& prefix, const QString&) { prefix.withFile(u"bin/brew"_s, "#!/bin/sh\n"); },
+     [](TestPrefix& prefix, const QString&) { prefix.withFile(u"bin/brew"_s, "#!/bin/sh\n"); },
      Resolution::resolved, "Permission denied"},
     {"AProgramOfAnotherMachine",
-     [](DemoPrefix& prefix, const QString&) { prefix.withBrew(foreignProgram()); },
+     [](TestPrefix& prefix, const QString&) { prefix.withBrew(foreignProgram()); },
      Resolution::resolved, "Exec format error"},
     {"AScriptWithoutItsInterpreter",
-     [](DemoPrefix& prefix, const QString&) { prefix.withBrew("#!/no/such/interpreter\n"); },
+     [](TestPrefix& prefix, const QString&) { prefix.withBrew("#!/no/such/interpreter\n"); },
      Resolution::resolved, "No such file or directory"},
     {"AScriptThatADirectoryInterprets",
-     [](DemoPrefix& prefix, const QString&) { prefix.withBrew("#!/usr\n"); }, Resolution::resolved,
+     [](TestPrefix& prefix, const QString&) { prefix.withBrew("#!/usr\n"); }, Resolution::resolved,
      "Permission denied"},
-    {"AnEmptyFile", [](DemoPrefix& prefix, const QString&) { prefix.withBrew({}); },
+    {"AnEmptyFile", [](TestPrefix& prefix, const QString&) { prefix.withBrew({}); },
      Resolution::resolved, "Exec format error"},
     {"AScriptWithoutAnInterpreter",
-     [](DemoPrefix& prefix, const QString&) { prefix.withBrew("echo a shell ran this\n"); },
+     [](TestPrefix& prefix, const QString&) { prefix.withBrew("echo a shell ran this\n"); },
      Resolution::resolved, "Exec format error"},
-    {"Nothing", [](DemoPrefix&, const QString&) {}, Resolution::missingExecutable,
+    {"Nothing", [](TestPrefix&, const QString&) {}, Resolution::missingExecutable,
      "No such file or directory"},
 };
 
@@ -103,7 +103,7 @@ class HostileExecutable : public testing::TestWithParam<Impostor> {
     EXPECT_EQ(session->result(), std::nullopt);
   }
 
-  DemoPrefix prefix;
+  TestPrefix prefix;
   std::unique_ptr<DirectExecutionSessionController> session;
 };
 

@@ -41,7 +41,7 @@ std::vector<LogLine> logOf(const Chunks& chunks) {
       addTo(log, lines);
     }
   }
-  if (const auto open = transcript.openLine()) {
+  if (const auto open = transcript.unfinishedLine()) {
     addTo(log, *open);
   }
   return log;

@@ -9,7 +9,7 @@
 #include <unistd.h>
 
 #include "execution/RunFixture.h"
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 
 namespace quillmere::test {
 namespace {
@@ -37,8 +37,8 @@ struct Refusal {
 class RefusedDescriptors : public testing::TestWithParam<Refusal> {};
 
 TEST_P(RefusedDescriptors, AreToldOfAsTheSystemTellsIt) {
-  const DemoPrefix prefix;
-  EXPECT_TRUE(hasEndedWell(inAnotherProcess([&prefix] {
+  const TestPrefix prefix;
+  EXPECT_TRUE(exitedCleanly(runForked([&prefix] {
     const auto& [name, call, error] = GetParam();
     if (!refuse(call, static_cast<unsigned>(error))) {
       _exit(2);

@@ -11,7 +11,7 @@
 
 namespace quillmere::test {
 
-BrewExecutableResolution resolved(const DemoPrefix& prefix) {
+BrewExecutableResolution resolved(const TestPrefix& prefix) {
   return {BrewExecutableResolution::Status::resolved, prefix.url(),
           appendingPath(prefix.url(), u"bin/brew")};
 }
@@ -44,7 +44,7 @@ QStringList FinishedRun::diagnostics() const {
   return lines;
 }
 
-std::shared_ptr<DirectCommandExecution> startRun(const DemoPrefix& prefix,
+std::shared_ptr<DirectCommandExecution> startRun(const TestPrefix& prefix,
                                                  const BrewCommand& command) {
   const auto execution = DirectCommandRunner().start(command, resolved(prefix));
   return execution.value();
@@ -63,7 +63,7 @@ bool hasFinished(OutputChunkStream& stream) {
 }
 
 FinishedRun runScript(const QByteArray& script) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   return finish(startRun(prefix.withBrew(script)));
 }
 

@@ -3,13 +3,13 @@
 #include <QtCore/QStringList>
 
 #include "execution/DirectCommandRunner.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
+#include "support/TestPrefix.h"
 
 namespace quillmere::test {
 
 /// The prefix as resolved, without a look at the disk.
-[[nodiscard]] BrewExecutableResolution resolved(const DemoPrefix& prefix);
+[[nodiscard]] BrewExecutableResolution resolved(const TestPrefix& prefix);
 
 /// A command that `bin/brew` gets as "info wget".
 [[nodiscard]] BrewCommand infoCommand();
@@ -26,7 +26,7 @@ struct FinishedRun {
 
 /// Starts `command` (which must be possible) in `prefix`.
 [[nodiscard]] std::shared_ptr<DirectCommandExecution> startRun(
-    const DemoPrefix& prefix, const BrewCommand& command = infoCommand());
+    const TestPrefix& prefix, const BrewCommand& command = infoCommand());
 
 /// Waits for the end of a run that was launched.
 [[nodiscard]] FinishedRun finish(const std::shared_ptr<DirectCommandExecution>& execution);

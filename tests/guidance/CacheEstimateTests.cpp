@@ -12,30 +12,30 @@
 #include "platform/FileDescriptor.h"
 #include "platform/FileUrl.h"
 #include "platform/SecurityScopedAccess.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
 #include "support/Rounds.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
+using test::TestPrefix;
 using CacheState = CleanupGuidanceSummary::CacheState;
 
 const QString cache = u"var/homebrew/cache"_s;
 
-std::optional<qint64> sizeOf(const DemoPrefix& prefix) {
+std::optional<qint64> sizeOf(const TestPrefix& prefix) {
   return estimatedSize(fileUrl(prefix.pathOf(cache)));
 }
 
-QByteArray encodedPath(const DemoPrefix& prefix, const QString& relativePath) {
+QByteArray encodedPath(const TestPrefix& prefix, const QString& relativePath) {
   return QFile::encodeName(prefix.pathOf(relativePath));
 }
 
 TEST(CacheEstimate, AddsUpTheFilesOfAllFolders) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/wget.tar.gz"_s, QByteArray(1000, 'x'));
   prefix.withFile(cache + u"/downloads/a b%20\u00e9.tar.gz"_s, QByteArray(200, 'x'));
   prefix.withFile(cache + u"/downloads/deep/er/still"_s, QByteArray(30, 'x'));
@@ -44,20 +44,20 @@ TEST(CacheEstimate, AddsUpTheFilesOfAllFolders) {
 }
 
 TEST(CacheEstimate, IsZeroForAnEmptyFolder) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(cache);
   EXPECT_EQ(sizeOf(prefix), 0);
 }
 
 TEST(CacheEstimate, DoesNotCountHiddenFilesNorWhatIsInHiddenFolders) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/.cleaned"_s, QByteArray(1000, 'x'));
   prefix.withFile(cache + u"/.git/objects/pack"_s, QByteArray(1000, 'x'));
   EXPECT_EQ(sizeOf(prefix), 0);
 }
 
 TEST(CacheEstimate, NeitherCountsNorFollowsLinks) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"elsewhere/large"_s, QByteArray(1000, 'x'));
   prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
   for (const auto& [target, name] :
@@ -70,14 +70,14 @@ TEST(CacheEstimate, NeitherCountsNorFollowsLinks) {
 }
 
 TEST(CacheEstimate, CountsACacheThatIsItselfALink) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"large-disk/file"_s, QByteArray(7, 'x')).withFolder(u"var/homebrew"_s);
   ASSERT_TRUE(QFile::link(prefix.pathOf(u"large-disk"_s), prefix.pathOf(cache)));
   EXPECT_EQ(sizeOf(prefix), 7);
 }
 
 TEST(CacheEstimate, CountsRegularFilesOnlyAndOpensNone) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
   // Opening either of them would wait or fail.
   ASSERT_EQ(mkfifo(encodedPath(prefix, cache + u"/pipe"_s).constData(), 0644), 0);
@@ -86,33 +86,33 @@ TEST(CacheEstimate, CountsRegularFilesOnlyAndOpensNone) {
 }
 
 TEST(CacheEstimate, CountsFilesThatMayNotBeReadAndLeavesOutFoldersThatMayNotBeListed) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
   prefix.withFile(cache + u"/secret"_s, QByteArray(20, 'x'));
   prefix.withFile(cache + u"/closed/file"_s, QByteArray(300, 'x'));
   ASSERT_EQ(chmod(encodedPath(prefix, cache + u"/secret"_s).constData(), 0), 0);
   ASSERT_EQ(chmod(encodedPath(prefix, cache + u"/closed"_s).constData(), 0), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] { return sizeOf(prefix) == 27; }));
+  EXPECT_TRUE(test::runUnprivileged([&prefix] { return sizeOf(prefix) == 27; }));
   ASSERT_EQ(chmod(encodedPath(prefix, cache + u"/closed"_s).constData(), 0755), 0);
 }
 
 TEST(CacheEstimate, CountsNothingWhereFilesMayNotBeLookedAt) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
   ASSERT_EQ(chmod(encodedPath(prefix, cache).constData(), 0444), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] { return sizeOf(prefix) == 0; }));
+  EXPECT_TRUE(test::runUnprivileged([&prefix] { return sizeOf(prefix) == 0; }));
   ASSERT_EQ(chmod(encodedPath(prefix, cache).constData(), 0755), 0);
 }
 
 TEST(CacheEstimate, IsAbsentWhereThereIsNoFolderToList) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   EXPECT_EQ(sizeOf(prefix), std::nullopt);
   prefix.withFile(cache, "x");
   EXPECT_EQ(sizeOf(prefix), std::nullopt);
 }
 
 TEST(CacheEstimate, GoesDeeperThanFilesMayBeOpen) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   QString folder = cache;
   for (int depth = 0; depth < 1500; ++depth) {
     folder += u"/d"_s;
@@ -124,7 +124,7 @@ TEST(CacheEstimate, GoesDeeperThanFilesMayBeOpen) {
 /// A name of every path is a file to a process only up to the length that a path may have: deeper
 /// files do not count.
 TEST(CacheEstimate, EndsInATreeThatIsDeeperThanAPathIsLong) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
   const QByteArray name(250, 'd');
   FileDescriptor folder(open(encodedPath(prefix, cache).constData(), O_RDONLY | O_DIRECTORY));
@@ -144,7 +144,7 @@ TEST(CacheEstimate, EndsInATreeThatIsDeeperThanAPathIsLong) {
 }
 
 TEST(CacheEstimate, CountsManyFilesOnceAmongLinksInCircles) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   const int count = test::rounds(2000, 100'000);
   prefix.withFolder(cache + u"/downloads"_s);
   for (int i = 0; i < count; ++i) {
@@ -160,7 +160,7 @@ TEST(CacheEstimate, CountsManyFilesOnceAmongLinksInCircles) {
 }
 
 TEST(CacheEstimate, GivesBackTheAccessThatItWasGranted) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(cache);
   const auto before = SecurityScopedAccess::counts();
   static_cast<void>(sizeOf(prefix));
@@ -186,14 +186,14 @@ TEST(CacheEstimateDeathTest, StopsWhereTheSumIsBeyondANumber) {
 }
 
 TEST(CleanupCacheState, IsReadableWithTheSize) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/file"_s, QByteArray(7, 'x'));
   EXPECT_EQ(cleanupCacheState(prefix.url()),
             (CacheState{CacheState::Readable{.path = prefix.pathOf(cache), .estimatedBytes = 7}}));
 }
 
 TEST(CleanupCacheState, IsReadableWithoutASizeWhereThereIsAFile) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache, "x");
   EXPECT_EQ(cleanupCacheState(prefix.url()),
             (CacheState{CacheState::Readable{.path = prefix.pathOf(cache),
@@ -201,16 +201,16 @@ TEST(CleanupCacheState, IsReadableWithoutASizeWhereThereIsAFile) {
 }
 
 TEST(CleanupCacheState, IsMissing) {
-  const DemoPrefix prefix;
+  const TestPrefix prefix;
   EXPECT_EQ(cleanupCacheState(prefix.url()),
             (CacheState{CacheState::Missing{prefix.pathOf(cache)}}));
 }
 
 TEST(CleanupCacheState, IsNotReadable) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(cache + u"/file"_s, "x");
   ASSERT_EQ(chmod(encodedPath(prefix, cache).constData(), 0), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+  EXPECT_TRUE(test::runUnprivileged([&prefix] {
     return cleanupCacheState(prefix.url()) ==
            CacheState{CacheState::NotReadable{prefix.pathOf(cache)}};
   }));

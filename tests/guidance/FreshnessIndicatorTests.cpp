@@ -40,8 +40,8 @@ TEST(FreshnessIndicator, OfTheInventoryIsStaleAfterOneDay) {
 }
 
 TEST(FreshnessIndicator, TurnsStaleAtItsStalePoint) {
-  EXPECT_EQ(catalogStalePoint(monday), monday.addDays(7));
-  EXPECT_EQ(inventoryStalePoint(monday), monday.addDays(1));
+  EXPECT_EQ(catalogStaleDate(monday), monday.addDays(7));
+  EXPECT_EQ(inventoryStaleDate(monday), monday.addDays(1));
 }
 
 TEST(FreshnessIndicator, OfADateToComeIsFresh) {

@@ -64,7 +64,7 @@ TEST(PackageUpdateSummaries, AreNoneOfNothing) {
 TEST(PackageUpdateSpokenLabel, SaysEverythingInOneLine) {
   InstalledPackageSummary wget = package("wget", {"1.24.5"}, "1.25.0");
   wget.tap = text("homebrew/core");
-  EXPECT_EQ(spokenLabel(packageUpdateSummaries({wget})[0]),
+  EXPECT_EQ(accessibleLabel(packageUpdateSummaries({wget})[0]),
             u"wget, Formula, Update available, installed 1.24.5, latest known 1.25.0, "
             "tap homebrew/core"_s);
 }
@@ -72,7 +72,7 @@ TEST(PackageUpdateSpokenLabel, SaysEverythingInOneLine) {
 TEST(PackageUpdateSpokenLabel, SaysWhatIsUnknown) {
   InstalledPackageSummary cask = package("Mozilla Firefox");
   cask.kind = Kind::cask;
-  EXPECT_EQ(spokenLabel(packageUpdateSummaries({cask})[0]),
+  EXPECT_EQ(accessibleLabel(packageUpdateSummaries({cask})[0]),
             u"Mozilla Firefox, Cask, Unknown, installed unknown, latest known unknown, "
             "tap unknown"_s);
 }

@@ -7,25 +7,25 @@
 
 #include "inventory/HomebrewCaskInventoryScanner.h"
 #include "inventory/HomebrewFormulaInventoryScanner.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
+using test::TestPrefix;
 using Reason = InstalledFormula::InstallReason;
 
 const QByteArray onRequest = R"({"installed_on_request":true})";
 const QByteArray asDependency = R"({"installed_on_request":false})";
 
-std::vector<InstalledFormula> formulaeOf(const DemoPrefix& prefix) {
+std::vector<InstalledFormula> formulaeOf(const TestPrefix& prefix) {
   return HomebrewFormulaInventoryScanner(prefix.url()).scan({}).formulae;
 }
 
-std::vector<InstalledCask> casksOf(const DemoPrefix& prefix) {
+std::vector<InstalledCask> casksOf(const TestPrefix& prefix) {
   return HomebrewCaskInventoryScanner(prefix.url()).scan({}).casks;
 }
 
@@ -37,12 +37,12 @@ QStringList namesOf(const std::vector<InstalledFormula>& formulae) {
   return names;
 }
 
-void link(const DemoPrefix& prefix, const QString& target, const QString& relativePath) {
+void link(const TestPrefix& prefix, const QString& target, const QString& relativePath) {
   ASSERT_TRUE(QFile::link(target, prefix.pathOf(relativePath)));
 }
 
 TEST(DiskInventory, HoldsWhatIsInstalled) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withAllLocations();
   const auto formulae = formulaeOf(prefix);
   ASSERT_EQ(formulae.size(), 2U);
@@ -59,7 +59,7 @@ TEST(DiskInventory, HoldsWhatIsInstalled) {
 }
 
 TEST(DiskInventory, OrdersVersionsByTheirNumbersInEveryLocale) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   for (const QString& version : {u"1.10"_s, u"1.9"_s, u"1.9_1"_s, u"HEAD-1a2b3c4"_s, u"1.9_10"_s}) {
     prefix.withFolder(u"Cellar/tool/"_s + version);
   }
@@ -68,7 +68,7 @@ TEST(DiskInventory, OrdersVersionsByTheirNumbersInEveryLocale) {
 }
 
 TEST(DiskInventory, LeavesOutHiddenEntries) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Caskroom/chrome/121.0.1"_s).withFolder(u"Caskroom/chrome/120.0"_s);
   prefix.withFile(u"Caskroom/chrome/.metadata/120.0/20260101000000.000/Casks/chrome.json"_s);
   prefix.withFile(u"Caskroom/.DS_Store"_s).withFile(u"Cellar/.keepme"_s);
@@ -79,7 +79,7 @@ TEST(DiskInventory, LeavesOutHiddenEntries) {
 }
 
 TEST(DiskInventory, KnowsNamesInAnyScriptAndWithAnySign) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   const QString version = u"1.0,2:3+b c%20#4?"_s;
   for (const QString& name : {u"a b"_s, u"gtk+3"_s, u"100%25"_s, u"\u00e9t\u00e9"_s,
                               u"\u6d4f\u89c8\u5668"_s, u"\U0001F37A"_s, u"e\u0301"_s}) {
@@ -100,7 +100,7 @@ TEST(DiskInventory, KnowsNamesInAnyScriptAndWithAnySign) {
 }
 
 TEST(DiskInventory, LeavesOutAFolderWhoseNameIsNoText) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/wget/1.0"_s);
   const QByteArray cellar = QFile::encodeName(prefix.pathOf(u"Cellar"_s));
   const QByteArrayList folders = {cellar + "/broken\xFF\xFE", cellar + "/wget/2.0\xC3"};
@@ -117,7 +117,7 @@ TEST(DiskInventory, LeavesOutAFolderWhoseNameIsNoText) {
 }
 
 TEST(DiskInventory, FollowsLinksAndLeavesOutThoseThatLeadNowhere) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"elsewhere/1.0/INSTALL_RECEIPT.json"_s, asDependency);
   prefix.withFolder(u"Cellar/tool/1.0"_s).withFolder(u"Caskroom/new-name/2.0"_s);
   link(prefix, prefix.pathOf(u"elsewhere"_s), u"Cellar/linked"_s);
@@ -138,7 +138,7 @@ TEST(DiskInventory, FollowsLinksAndLeavesOutThoseThatLeadNowhere) {
 }
 
 TEST(DiskInventory, TakesPlainFilesForVersionsAndEmptyFoldersForNone) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"Cellar/tool/1.0"_s, "x").withFolder(u"Cellar/empty"_s);
   prefix.withFile(u"Cellar/file"_s, "x");
   const auto formulae = formulaeOf(prefix);
@@ -149,7 +149,7 @@ TEST(DiskInventory, TakesPlainFilesForVersionsAndEmptyFoldersForNone) {
 }
 
 TEST(DiskInventory, PassesByAReceiptThatIsAPipeOrAFolder) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/tool/1.2"_s).withFolder(u"Cellar/tool/1.1/INSTALL_RECEIPT.json"_s);
   prefix.withFile(u"Cellar/tool/1.0/INSTALL_RECEIPT.json"_s, asDependency);
   const QString pipe = prefix.pathOf(u"Cellar/tool/1.2/INSTALL_RECEIPT.json"_s);
@@ -158,14 +158,14 @@ TEST(DiskInventory, PassesByAReceiptThatIsAPipeOrAFolder) {
 }
 
 TEST(DiskInventory, LeavesOutFoldersThatMayNotBeRead) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"Cellar/secret/1.0/INSTALL_RECEIPT.json"_s, onRequest);
   prefix.withFile(u"Cellar/wget/1.0/INSTALL_RECEIPT.json"_s, onRequest);
   prefix.withFolder(u"Caskroom/secret/1.0"_s);
   for (const QString& folder : {u"Cellar/secret"_s, u"Caskroom/secret"_s}) {
     ASSERT_EQ(chmod(QFile::encodeName(prefix.pathOf(folder)).constData(), 0), 0);
   }
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+  EXPECT_TRUE(test::runUnprivileged([&prefix] {
     return namesOf(formulaeOf(prefix)) == QStringList{u"wget"_s} && casksOf(prefix).empty();
   }));
   for (const QString& folder : {u"Cellar/secret"_s, u"Caskroom/secret"_s}) {
@@ -174,12 +174,12 @@ TEST(DiskInventory, LeavesOutFoldersThatMayNotBeRead) {
 }
 
 TEST(DiskInventory, ListsVersionsWhoseReceiptsMayNotBeRead) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"Cellar/tool/1.1/INSTALL_RECEIPT.json"_s, onRequest);
   prefix.withFile(u"Cellar/tool/1.0/INSTALL_RECEIPT.json"_s, asDependency);
   const QString newest = prefix.pathOf(u"Cellar/tool/1.1"_s);
   ASSERT_EQ(chmod(QFile::encodeName(newest).constData(), 0), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+  EXPECT_TRUE(test::runUnprivileged([&prefix] {
     const InstalledFormula tool = formulaeOf(prefix).at(0);
     return tool.currentVersion == u"1.1"_s && tool.installReason == Reason::dependency;
   }));
@@ -187,13 +187,13 @@ TEST(DiskInventory, ListsVersionsWhoseReceiptsMayNotBeRead) {
 }
 
 TEST(DiskInventory, FindsNothingWhereThereIsNoPrefix) {
-  const QUrl gone = QUrl::fromLocalFile(DemoPrefix().path() + u"/gone"_s);
+  const QUrl gone = QUrl::fromLocalFile(TestPrefix().path() + u"/gone"_s);
   EXPECT_TRUE(HomebrewFormulaInventoryScanner(gone).scan({}).formulae.empty());
   EXPECT_TRUE(HomebrewCaskInventoryScanner(gone).scan({}).casks.empty());
 }
 
 TEST(DiskInventory, CountsTenThousandFormulae) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   constexpr int count = 10'000;
   prefix.withFolder(u"Cellar"_s);
   QStringList expected;
@@ -242,7 +242,7 @@ class RestlessDisk final : public HomebrewPrefixFileSystem {
 };
 
 TEST(DiskInventory, LeavesOutAFormulaThatVanishesAfterTheCellarWasListed) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/gone/1.0"_s).withFolder(u"Cellar/stays/1.0"_s);
   const auto disk = std::make_shared<RestlessDisk>(prefix.pathOf(u"Cellar/gone"_s));
   EXPECT_EQ(namesOf(HomebrewFormulaInventoryScanner(prefix.url(), disk).scan({}).formulae),
@@ -250,7 +250,7 @@ TEST(DiskInventory, LeavesOutAFormulaThatVanishesAfterTheCellarWasListed) {
 }
 
 TEST(DiskInventory, AsksTheNextReceiptWhereAVersionVanishesAfterItWasListed) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"Cellar/tool/1.0/INSTALL_RECEIPT.json"_s, asDependency);
   prefix.withFile(u"Cellar/tool/1.1/INSTALL_RECEIPT.json"_s, onRequest);
   const auto disk = std::make_shared<RestlessDisk>(prefix.pathOf(u"Cellar/tool/1.1"_s));

@@ -95,10 +95,10 @@ TEST(HomebrewInstallReceiptReader, ReadsTextWithAndWithoutRoomBehindIt) {
   HomebrewInstallReceiptReader reader;
   const QByteArray json = R"({"installed_on_request":true})";
   QByteArray padded;
-  padded.reserve(json.size() + readAheadPadding);
-  padded = json + QByteArray(readAheadPadding, '}');
+  padded.reserve(json.size() + parserPadding);
+  padded = json + QByteArray(parserPadding, '}');
   padded.truncate(json.size());
-  EXPECT_GE(padded.capacity(), json.size() + readAheadPadding);
+  EXPECT_GE(padded.capacity(), json.size() + parserPadding);
   EXPECT_EQ(reader.read(padded), direct);
   const auto exact = std::make_unique<char[]>(static_cast<std::size_t>(json.size()));
   std::ranges::copy(json, exact.get());
@@ -107,10 +107,10 @@ TEST(HomebrewInstallReceiptReader, ReadsTextWithAndWithoutRoomBehindIt) {
 
 TEST(HomebrewInstallReceiptReader, CountsNoRoomBeforeTheText) {
   HomebrewInstallReceiptReader reader;
-  QByteArray json(2 * readAheadPadding, ' ');
+  QByteArray json(2 * parserPadding, ' ');
   json += R"({"installed_on_request":true})";
   json.squeeze();
-  json.remove(0, 2 * readAheadPadding);
+  json.remove(0, 2 * parserPadding);
   EXPECT_EQ(reader.read(json), direct);
 }
 

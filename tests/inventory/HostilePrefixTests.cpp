@@ -13,9 +13,9 @@
 #include "inventory/HomebrewCaskInventoryScanner.h"
 #include "inventory/HomebrewFormulaInventoryScanner.h"
 #include "platform/FileDescriptor.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
 #include "support/Rounds.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 // A prefix in which nothing is as it should be: every scan ends, waits for nobody, and tells what
@@ -25,7 +25,7 @@ namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
+using test::TestPrefix;
 using Reason = InstalledFormula::InstallReason;
 
 const QByteArray asDependency = R"({"installed_on_request":false})";
@@ -87,7 +87,7 @@ class HostilePrefix : public testing::Test {
     }
   }
 
-  DemoPrefix prefix_;
+  TestPrefix prefix_;
 };
 
 TEST_F(HostilePrefix, WithLinksInCirclesIsScanned) {
@@ -219,7 +219,7 @@ TEST_F(HostilePrefix, KeepsNamesThatNobodyCanRead) {
 TEST_F(HostilePrefix, MayLieInAFolderOfAnyName) {
   for (const QString& name : {u"a b"_s, u"a\nb"_s, u"\u00e9t\u00e9 \u6d4f"_s, u"%41#?"_s,
                               u"a\u202eb"_s, u"--force"_s, QString(255, u'n')}) {
-    DemoPrefix inner(prefix_.withFolder(name).pathOf(name));
+    TestPrefix inner(prefix_.withFolder(name).pathOf(name));
     inner.withAllLocations();
     const auto scan = HomebrewFormulaInventoryScanner(inner.url()).scan({});
     EXPECT_EQ(scan.formulae.size(), 2U) << name.toStdString();
@@ -231,7 +231,7 @@ TEST_F(HostilePrefix, MayLieInAFolderOfAnyName) {
 TEST_F(HostilePrefix, ThatChangesWhileItIsReadIsScanned) {
   prefix_.withFolder(u"Cellar"_s);
   ASSERT_EQ(chmod(path(u"Cellar"_s).constData(), 0777), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([this] {
+  EXPECT_TRUE(test::runUnprivileged([this] {
     prefix_.withFile(u"Cellar/stays/1.0"_s + receipt, asDependency);
     const std::jthread homebrew([this](const std::stop_token& stop) { workOn(stop); });
     const int rounds = test::rounds(300, 30'000);

@@ -219,7 +219,7 @@ TEST_F(CatalogCache, DoesNotWaitForAPipeThatIsNamedLikeACacheFile) {
 }
 
 TEST_F(CatalogCache, WritesAnOldDocumentOverAFileThatCannotBeRead) {
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([] {
+  EXPECT_TRUE(test::runUnprivileged([] {
     const test::TemporarySettings settings;
     settings.open()->setValue(u"cachedCaskCatalogData"_s, QByteArray("old"));
     QDir().mkpath(settings.cacheDirectoryURL().toLocalFile());

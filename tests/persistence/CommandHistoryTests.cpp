@@ -274,7 +274,7 @@ DirectCommandResult finishedRun() {
 
 TEST(ExecutionRecord, HoldsWhatBecameOfTheRun) {
   const DirectCommandResult result = finishedRun();
-  const CommandHistoryRecord record = executionRecord(result, u"Package Detail"_s);
+  const CommandHistoryRecord record = makeExecutionRecord(result, u"Package Detail"_s);
   EXPECT_FALSE(record.id.isNull());
   EXPECT_NE(record.id, result.command.id);
   EXPECT_EQ(record.command, u"brew uses wget"_s);
@@ -296,7 +296,7 @@ TEST(ExecutionRecord, LeavesOutWhatTheRunHadNot) {
   result.command.target = {BrewCommandTargetKind::global, std::nullopt};
   result.standardOutput = " \n";
   result.standardError.clear();
-  const CommandHistoryRecord record = executionRecord(result, std::nullopt);
+  const CommandHistoryRecord record = makeExecutionRecord(result, std::nullopt);
   EXPECT_EQ(record.packageTarget, std::nullopt);
   EXPECT_EQ(record.sourceScreen, std::nullopt);
   EXPECT_EQ(record.executionOutputSummary, std::nullopt);

@@ -4,7 +4,7 @@
 #include <unistd.h>
 
 #include "StoreFixture.h"
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 #include "support/PermissionBits.h"
 #include "support/Rounds.h"
 
@@ -50,7 +50,7 @@ class KilledProgram : public test::StoreFixture {
       store->setSelectedHomebrewPrefixPath(QString(i % 5000, u'/') + QString::number(i));
       store->appendHistory(copyOf(QString::number(i)));
       QCoro::waitFor(store->saveFormulaCatalog(document(i), test::monday));
-      QCoro::waitFor(store->settled());
+      QCoro::waitFor(store->flush());
       (void)::write(pipe, &i, sizeof i);
     }
   }
@@ -59,9 +59,9 @@ class KilledProgram : public test::StoreFixture {
   [[nodiscard]] int killAt(std::chrono::microseconds moment) const {
     int ends[2] = {};
     EXPECT_EQ(pipe(ends), 0);
-    const pid_t program = test::inAnotherProcess([&] {
+    const pid_t program = test::runForked([&] {
       close(ends[0]);
-      test::killMyselfAfter(moment);
+      test::killSelfAfter(moment);
       write(ends[1]);
     });
     close(ends[1]);

@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "StoreFixture.h"
-#include "support/HeldThreads.h"
+#include "support/BackgroundThreadBlocker.h"
 
 // A history of years is read on another thread, so that the first frame does not wait for it.
 
@@ -29,20 +29,20 @@ class LongHistoryTest : public test::StoreFixture {
 TEST_F(LongHistoryTest, IsThereALittleLaterAndSaysSo) {
   std::unique_ptr<LocalPersistenceStore> store;
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     store = start();
-    EXPECT_FALSE(store->hasReadHistory());
+    EXPECT_FALSE(store->isHistoryLoaded());
   }
   QSignalSpy changed(store.get(), &LocalPersistenceStore::commandHistoryChanged);
   ASSERT_TRUE(changed.wait());
-  EXPECT_TRUE(store->hasReadHistory());
+  EXPECT_TRUE(store->isHistoryLoaded());
   EXPECT_EQ(store->commandHistory(), history_);
 }
 
 TEST_F(LongHistoryTest, IsWaitedForByWhoeverAsks) {
   const auto store = start();
   EXPECT_EQ(store->commandHistory(), history_);
-  EXPECT_TRUE(store->hasReadHistory());
+  EXPECT_TRUE(store->isHistoryLoaded());
 }
 
 TEST_F(LongHistoryTest, LosesNothingToARecordThatComesEarly) {
@@ -64,15 +64,15 @@ TEST_F(LongHistoryTest, StaysForgottenWhenItIsClearedEarly) {
 }
 
 TEST_F(LongHistoryTest, MayBeLeftUnread) {
-  const test::HeldThreads held;
+  const test::BackgroundThreadBlocker held;
   start().reset();
 }
 
 TEST_F(LongHistoryTest, KeepsNobodyWaitingWhereItIsShort) {
   given(u"commandHistory"_s, encodeCommandHistory({copyOf(u"brew update"_s)}));
-  const test::HeldThreads held;
+  const test::BackgroundThreadBlocker held;
   const auto store = start();
-  EXPECT_TRUE(store->hasReadHistory());
+  EXPECT_TRUE(store->isHistoryLoaded());
   EXPECT_EQ(store->commandHistory().size(), 1);
 }
 

@@ -23,7 +23,7 @@ TEST(Secrets, AreWhatTheEnvironmentCallsSecret) {
                                      {u"my_password"_s, u"hunter2"_s},
                                      {u"EDITOR"_s, u"visual"_s},
                                      {u"USES_TOKEN"_s, u"yes"_s}}));
-  EXPECT_EQ(secrets.hiddenIn(u"abcdef123 hunter2 abcdef yes visual"_s),
+  EXPECT_EQ(secrets.redacted(u"abcdef123 hunter2 abcdef yes visual"_s),
             u"••• ••• ••• yes visual"_s);
 }
 
@@ -36,7 +36,7 @@ struct Row {
 class SecretsByTheirLooks : public testing::TestWithParam<Row> {};
 
 TEST_P(SecretsByTheirLooks, AreHidden) {
-  EXPECT_EQ(Secrets(QProcessEnvironment()).hiddenIn(GetParam().text), GetParam().hidden);
+  EXPECT_EQ(Secrets(QProcessEnvironment()).redacted(GetParam().text), GetParam().hidden);
 }
 
 INSTANTIATE_TEST_SUITE_P(

@@ -5,7 +5,7 @@
 
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/PrivateFile.h"
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 #include "support/FullDisk.h"
 #include "support/PermissionBits.h"
 #include "support/TemporarySettings.h"
@@ -15,8 +15,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using Store = LocalPersistenceStore;
-using test::hasEndedWell;
-using test::inAnotherProcess;
+using test::exitedCleanly;
+using test::runForked;
 
 CommandHistoryRecord copyOf(const QString& command) {
   CommandHistoryRecord record;
@@ -48,8 +48,8 @@ TEST(SettingsFile, KeepsTheKeysOfTwoStoresThatWriteInTurn) {
   first->appendHistory(copyOf(u"brew update"_s));
   second->setSelectedHomebrewPrefixPath(std::nullopt);
   second->setSelectedHomebrewPrefixBookmarkData("bookmark");
-  QCoro::waitFor(first->settled());
-  QCoro::waitFor(second->settled());
+  QCoro::waitFor(first->flush());
+  QCoro::waitFor(second->flush());
   const auto restarted = startOverTheBytesOf(settings);
   EXPECT_TRUE(restarted->hasCompletedOnboarding());
   EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), std::nullopt);
@@ -61,14 +61,14 @@ TEST(SettingsFile, KeepsTheKeysOfAnotherProcessThatWasOpenAllTheTime) {
   const test::TemporarySettings settings;
   const auto store = startOver(settings);
   store->setHasCompletedOnboarding(true);
-  QCoro::waitFor(store->settled());
-  ASSERT_TRUE(hasEndedWell(inAnotherProcess([&] {
+  QCoro::waitFor(store->flush());
+  ASSERT_TRUE(exitedCleanly(runForked([&] {
     const auto other = startOver(settings);
     other->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
     other->appendHistory(copyOf(u"brew update"_s));
   })));
   store->setSelectedHomebrewPrefixBookmarkData("bookmark");
-  QCoro::waitFor(store->settled());
+  QCoro::waitFor(store->flush());
   const auto restarted = startOverTheBytesOf(settings);
   EXPECT_TRUE(restarted->hasCompletedOnboarding());
   EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/opt/homebrew"_s);
@@ -79,20 +79,20 @@ TEST(SettingsFile, KeepsTheKeysOfAnotherProcessThatWasOpenAllTheTime) {
 TEST(SettingsFile, KeepsTheKeysOfTwoProcessesThatWriteAtTheSameTime) {
   const test::TemporarySettings settings;
   constexpr int rounds = 50;
-  const pid_t paths = inAnotherProcess([&] {
+  const pid_t paths = runForked([&] {
     const auto store = startOver(settings);
     for (int i = 0; i <= rounds; ++i) {
       store->setSelectedHomebrewPrefixPath(u"/prefix/"_s + QString::number(i));
     }
   });
-  const pid_t histories = inAnotherProcess([&] {
+  const pid_t histories = runForked([&] {
     const auto store = startOver(settings);
     for (int i = 0; i < rounds; ++i) {
       store->appendHistory(copyOf(u"brew update"_s));
     }
   });
-  EXPECT_TRUE(hasEndedWell(paths));
-  EXPECT_TRUE(hasEndedWell(histories));
+  EXPECT_TRUE(exitedCleanly(paths));
+  EXPECT_TRUE(exitedCleanly(histories));
   const auto restarted = startOverTheBytesOf(settings);
   EXPECT_EQ(restarted->selectedHomebrewPrefixPath(), u"/prefix/50"_s);
   EXPECT_EQ(restarted->commandHistory().size(), rounds);
@@ -102,10 +102,10 @@ TEST(SettingsFile, IsForItsOwnerAlone) {
   const test::TemporarySettings settings;
   startOver(settings)->setHasCompletedOnboarding(true);
   EXPECT_EQ(test::permissionBits(settings.file()), 0600);
-  ASSERT_TRUE(QFile::setPermissions(settings.file(), ownerAlone | QFile::ReadOther));
+  ASSERT_TRUE(QFile::setPermissions(settings.file(), ownerOnly | QFile::ReadOther));
   startOver(settings)->setHasCompletedOnboarding(false);
   EXPECT_EQ(test::permissionBits(settings.file()), 0600);
-  ASSERT_TRUE(QFile::setPermissions(settings.file(), ownerAlone | QFile::ReadGroup));
+  ASSERT_TRUE(QFile::setPermissions(settings.file(), ownerOnly | QFile::ReadGroup));
   startOver(settings);
   EXPECT_EQ(test::permissionBits(settings.file()), 0600) << "of an earlier version";
 }
@@ -117,11 +117,11 @@ TEST(SettingsFile, KeepsTheOldValuesOnAFullDisk) {
   const auto store = startOver(settings);
   store->setCommandHistory(history);
   store->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
-  QCoro::waitFor(store->settled());
+  QCoro::waitFor(store->flush());
   const qint64 size = QFile(settings.file()).size();
   for (const qint64 room : {qint64(0), size / 2, size - 1, size, size + 50}) {
     for (const qsizetype length : {10, 5'000, 20'000, 100'000, 1'000'000}) {
-      EXPECT_TRUE(test::holdsOnDiskFullAfter(room, [&] {
+      EXPECT_TRUE(test::runWithDiskLimit(room, [&] {
         const auto other = startOver(settings);
         other->appendHistory(copyOf(QString(length, u'x')));
         other->setSelectedHomebrewPrefixPath(std::nullopt);
@@ -138,7 +138,7 @@ TEST(SettingsFile, KeepsTheOldValuesOnAFullDisk) {
 TEST(SettingsFile, IsWrittenAgainOnceThereIsRoom) {
   const test::TemporarySettings settings;
   startOver(settings)->setHasCompletedOnboarding(true);
-  EXPECT_TRUE(test::holdsOnDiskFullAfter(0, [&] {
+  EXPECT_TRUE(test::runWithDiskLimit(0, [&] {
     startOver(settings)->resetOnboarding();
     return true;
   }));
@@ -151,7 +151,7 @@ TEST(SettingsFile, KeepsTheOldDocumentOnAFullDisk) {
   const test::TemporarySettings settings;
   QCoro::waitFor(
       startOver(settings)->saveFormulaCatalog("[]", QDateTime::fromMSecsSinceEpoch(1000, Qt::UTC)));
-  EXPECT_TRUE(test::holdsOnDiskFullAfter(4096, [&] {
+  EXPECT_TRUE(test::runWithDiskLimit(4096, [&] {
     const QDateTime later = QDateTime::fromMSecsSinceEpoch(2000, Qt::UTC);
     const auto store = startOver(settings);
     QCoro::waitFor(store->saveFormulaCatalog(QByteArray(100'000, ' '), later));

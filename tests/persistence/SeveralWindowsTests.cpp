@@ -7,7 +7,7 @@
 #include "StoreFixture.h"
 #include "persistence/SharedHistory.h"
 #include "platform/PrivateFile.h"
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 #include "support/FullDisk.h"
 #include "support/Rounds.h"
 #include "support/UnprivilegedUser.h"
@@ -90,10 +90,10 @@ TEST_F(SeveralWindows, CatchUpWithOthers) {
                    [&changes] { ++changes; });
   first->appendHistory(copyOf(u"brew info a"_s));
   settle();
-  second->catchUpHistory();
+  second->refreshHistory();
   EXPECT_TRUE(comesToShow(*second, {u"brew info a"_s}));
   EXPECT_EQ(changes, 1);
-  second->catchUpHistory();
+  second->refreshHistory();
   settle();
   QTest::qWait(1);
   EXPECT_EQ(changes, 1);
@@ -129,7 +129,7 @@ TEST_F(SeveralWindows, WaitNotForTheLockOfAProgramKilledWhileItMadeIt) {
 
 /// Out of descriptors, for a moment, say: what one window cannot see is not gone for the other.
 TEST(SharedHistory, WaitsWhileNobodyCanReadTheSettings) {
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([] {
+  EXPECT_TRUE(test::runUnprivileged([] {
     const test::TemporarySettings settings;
     const SettingsFile file(*settings.open());
     SharedHistory window(file);
@@ -140,7 +140,7 @@ TEST(SharedHistory, WaitsWhileNobodyCanReadTheSettings) {
     const bool isUnreadable =
         isChanged && onDisk.setPermissions({}) && !file.readBytes(SharedHistory::key);
     const bool knowsNothing = !window.prepend(copyOf(u"brew info a"_s)) && !window.synchronize();
-    const bool isBack = onDisk.setPermissions(ownerAlone);
+    const bool isBack = onDisk.setPermissions(ownerOnly);
     const auto all = window.prepend(copyOf(u"brew info b"_s));
     return isUnreadable && knowsNothing && isBack && all && all->size() == 3 &&
            decodeCommandHistory(file.readBytes(SharedHistory::key).value_or(QByteArray())) == all;
@@ -163,7 +163,7 @@ TEST_F(SeveralWindows, LoseNoRecordThatTheyWriteAtTheSameTime) {
   const int records = test::rounds(25, 1000);
   std::vector<pid_t> processes;
   for (int window = 0; window < windows; ++window) {
-    processes.push_back(test::inAnotherProcess([&] {
+    processes.push_back(test::runForked([&] {
       const auto store = start();
       for (int i = 0; i < records; ++i) {
         store->appendHistory(copyOf(QString::number(window) + u':' + QString::number(i)));
@@ -171,7 +171,7 @@ TEST_F(SeveralWindows, LoseNoRecordThatTheyWriteAtTheSameTime) {
     }));
   }
   for (const pid_t process : processes) {
-    EXPECT_TRUE(test::hasEndedWell(process));
+    EXPECT_TRUE(test::exitedCleanly(process));
   }
   const QStringList all = storedCommands();
   EXPECT_EQ(all.size(), windows * records);
@@ -192,11 +192,11 @@ TEST_F(SeveralWindows, WriteLaterWhatFoundNoRoom) {
     const auto limited = [&] {
       const auto store = start();
       clears ? store->clearHistory() : store->appendHistory(copyOf(u"brew info new"_s));
-      QCoro::waitFor(store->settled());
+      QCoro::waitFor(store->flush());
       const bool isAsBefore = storedCommands() == QStringList(u"brew info old"_s);
-      const bool hasRoom = test::giveTheDiskBack();
+      const bool hasRoom = test::restoreDiskSpace();
       store->appendHistory(copyOf(u"brew info newest"_s));
-      QCoro::waitFor(store->settled());
+      QCoro::waitFor(store->flush());
       const QStringList all = storedCommands();
       const QStringList expected =
           clears ? QStringList(u"brew info newest"_s)
@@ -204,7 +204,7 @@ TEST_F(SeveralWindows, WriteLaterWhatFoundNoRoom) {
       start()->setCommandHistory({copyOf(u"brew info old"_s)});
       return isAsBefore && hasRoom && all == expected;
     };
-    EXPECT_TRUE(test::holdsOnDiskFullAfter(0, limited)) << clears;
+    EXPECT_TRUE(test::runWithDiskLimit(0, limited)) << clears;
   }
 }
 

@@ -45,7 +45,7 @@ class StoreFixture : public testing::Test {
   void settle() const {
     for (const QPointer<LocalPersistenceStore>& store : stores_) {
       if (store) {
-        QCoro::waitFor(store->settled());
+        QCoro::waitFor(store->flush());
       }
     }
   }

@@ -56,19 +56,18 @@ TEST(AtomicFile, KeepsTheOldContentOnAFullDisk) {
   const QString path = folder.filePath(u"a.json"_s);
   ASSERT_TRUE(replaceFile(path, "old"));
   for (const qsizetype size : {101, 5'000, 16'384, 16'385, 100'000, 3'000'000}) {
-    EXPECT_TRUE(test::holdsOnDiskFullAfter(100, [&] {
+    EXPECT_TRUE(test::runWithDiskLimit(100, [&] {
       return !replaceFile(path, QByteArray(size, 'n'));
     })) << size;
     EXPECT_EQ(contentOf(path), "old") << size;
     EXPECT_EQ(entriesOf(folder), QStringList(u"a.json"_s)) << size;
   }
-  EXPECT_TRUE(
-      test::holdsOnDiskFullAfter(100, [&] { return replaceFile(path, QByteArray(100, 'n')); }));
+  EXPECT_TRUE(test::runWithDiskLimit(100, [&] { return replaceFile(path, QByteArray(100, 'n')); }));
   EXPECT_EQ(contentOf(path), QByteArray(100, 'n'));
 }
 
 TEST(AtomicFile, KeepsTheOldContentWhereTheFolderCannotBeWritten) {
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([] {
+  EXPECT_TRUE(test::runUnprivileged([] {
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.json"_s);
     const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
@@ -89,11 +88,11 @@ TEST(AtomicFile, RefusesAFolderAndAFileInNoFolder) {
 TEST(AtomicFile, KnowsWhetherThereIsRoomForAnother) {
   const QTemporaryDir folder;
   const QString path = folder.filePath(u"a.json"_s);
-  EXPECT_TRUE(hasRoomBeside(path, 100'000));
-  EXPECT_TRUE(test::holdsOnDiskFullAfter(100, [&] { return hasRoomBeside(path, 100); }));
-  EXPECT_TRUE(test::holdsOnDiskFullAfter(100, [&] { return !hasRoomBeside(path, 101); }));
-  EXPECT_FALSE(hasRoomBeside(path, std::numeric_limits<qint64>::max()));
-  EXPECT_FALSE(hasRoomBeside(folder.filePath(u"nowhere/a.json"_s), 100));
+  EXPECT_TRUE(hasFreeSpaceFor(path, 100'000));
+  EXPECT_TRUE(test::runWithDiskLimit(100, [&] { return hasFreeSpaceFor(path, 100); }));
+  EXPECT_TRUE(test::runWithDiskLimit(100, [&] { return !hasFreeSpaceFor(path, 101); }));
+  EXPECT_FALSE(hasFreeSpaceFor(path, std::numeric_limits<qint64>::max()));
+  EXPECT_FALSE(hasFreeSpaceFor(folder.filePath(u"nowhere/a.json"_s), 100));
   EXPECT_TRUE(entriesOf(folder).isEmpty());
 }
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/FileUrl.h"
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 
 namespace quillmere {
 namespace {
@@ -29,7 +29,7 @@ TEST(FileUrl, IsTheUrlThatQtMakesOfThePath) {
 
 TEST(FileUrl, IsMadeThoughTheProgramIsEnding) {
   EXPECT_FALSE(fileUrl(u"/opt"_s).isEmpty());  // what is made once is made now
-  EXPECT_TRUE(test::hasEndedWell(test::atTheEndOfAnotherProcess(
+  EXPECT_TRUE(test::exitedCleanly(test::runForkedAtExit(
       [] { return filePath(fileUrl(u"/opt/homebrew"_s)) == u"/opt/homebrew"_s; })));
 }
 

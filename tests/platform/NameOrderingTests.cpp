@@ -76,7 +76,7 @@ INSTANTIATE_TEST_SUITE_P(Locales, NameOrderingIn,
                          testing::Values("C", "en_US", "de_DE", "sv_SE", "tr_TR", "ja_JP"));
 
 TEST(NameOrdering, OfTheUserOrdersNumbersByValueAndIgnoresCase) {
-  const NameOrdering& ordering = NameOrdering::ofUser();
+  const NameOrdering& ordering = NameOrdering::forUserLocale();
   EXPECT_LT(ordering.compare(u"1.9", u"1.10"), 0);
   EXPECT_LT(ordering.compare(u"apple", u"Banana"), 0);
   EXPECT_EQ(ordering.compare(u"wget", u"WGET"), 0);
@@ -147,7 +147,7 @@ TEST(NameOrdering, AsksEachItemForItsNameAtMostTwice) {
     items.push_back({QStringLiteral("package-%1").arg(100 - i), 100 - i});
   }
   int asked = 0;
-  NameOrdering::ofUser().stableSort(items, [&asked](const Item& item) {
+  NameOrdering::forUserLocale().stableSort(items, [&asked](const Item& item) {
     ++asked;
     return item.name;
   });
@@ -161,21 +161,21 @@ TEST(NameOrdering, LeavesWhatIsInOrderWhereItIs) {
                              {QStringLiteral("a10"), 3},
                              {QStringLiteral("b"), 4}};
   const Item* const first = items.data();
-  NameOrdering::ofUser().stableSort(items, [](const Item& item) { return item.name; });
+  NameOrdering::forUserLocale().stableSort(items, [](const Item& item) { return item.name; });
   EXPECT_EQ(items.data(), first);
   EXPECT_TRUE(std::ranges::is_sorted(items, {}, &Item::number));
 }
 
 TEST(NameOrdering, SortsAListOfTexts) {
   QStringList names = {QStringLiteral("1.10"), QStringLiteral("1.9"), QStringLiteral("1.9_1")};
-  NameOrdering::ofUser().stableSort(names, [](const QString& name) { return name; });
+  NameOrdering::forUserLocale().stableSort(names, [](const QString& name) { return name; });
   EXPECT_EQ(names,
             (QStringList{QStringLiteral("1.9"), QStringLiteral("1.9_1"), QStringLiteral("1.10")}));
 }
 
 TEST(NameOrdering, SortsNothing) {
   std::vector<Item> items;
-  NameOrdering::ofUser().stableSort(items, [](const Item& item) { return item.name; });
+  NameOrdering::forUserLocale().stableSort(items, [](const Item& item) { return item.name; });
   EXPECT_TRUE(items.empty());
 }
 

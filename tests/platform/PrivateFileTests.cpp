@@ -27,7 +27,7 @@ TEST(PrivateFile, KeepsWhatItHoldsAndLosesItsReaders) {
   ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write("x") == 1);
   file.close();
   for (const bool makesOne : {true, false}) {
-    ASSERT_TRUE(file.setPermissions(ownerAlone | QFile::ReadGroup | QFile::ReadOther));
+    ASSERT_TRUE(file.setPermissions(ownerOnly | QFile::ReadGroup | QFile::ReadOther));
     makesOne ? ensurePrivateFile(path) : restrictToOwner(path);
     EXPECT_EQ(permissionBits(path), 0600);
     EXPECT_EQ(file.size(), 1);
@@ -50,7 +50,7 @@ TEST(PrivateFile, IsNoFolder) {
 TEST(PrivateFile, IsNoneWhereTheFolderRefuses) {
   const QTemporaryDir folder;
   ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&] {
+  EXPECT_TRUE(test::runUnprivileged([&] {
     ensurePrivateFile(folder.filePath(u"folder/file"_s));
     ensurePrivateFile(folder.filePath(u"file"_s));
     return !QFile::exists(folder.filePath(u"file"_s));

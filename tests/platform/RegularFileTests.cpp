@@ -20,7 +20,7 @@ using namespace std::chrono_literals;
 namespace quillmere {
 namespace {
 
-constexpr qint64 mostBytes = qint64{2} * 1024 * 1024;
+constexpr qint64 maximumBytes = qint64{2} * 1024 * 1024;
 
 class RegularFile : public testing::Test {
  protected:
@@ -39,23 +39,23 @@ class RegularFile : public testing::Test {
 
 TEST_F(RegularFile, IsReadAsAWhole) {
   const QByteArray content = QByteArray("\0\xFF document\n", 12).repeated(100'000);
-  EXPECT_EQ(readRegularFile(withContent(content), mostBytes).value(), content);
+  EXPECT_EQ(readRegularFile(withContent(content), maximumBytes).value(), content);
 }
 
 TEST_F(RegularFile, MayBeEmpty) {
-  EXPECT_EQ(readRegularFile(withContent({}), mostBytes).value(), QByteArray());
+  EXPECT_EQ(readRegularFile(withContent({}), maximumBytes).value(), QByteArray());
 }
 
 TEST_F(RegularFile, LeavesRoomBehindItsBytes) {
-  const auto bytes = readRegularFile(withContent("[]"), mostBytes);
-  EXPECT_TRUE(hasReadAheadPadding(bytes.value()));
+  const auto bytes = readRegularFile(withContent("[]"), maximumBytes);
+  EXPECT_TRUE(hasParserPadding(bytes.value()));
 }
 
 TEST_F(RegularFile, IsReadToItsEndWhereItsSizeIsUnknown) {
-  const auto bytes = readRegularFile(u"/proc/self/status"_s, mostBytes);
+  const auto bytes = readRegularFile(u"/proc/self/status"_s, maximumBytes);
   EXPECT_TRUE(bytes.value().contains("\nPid:"));
   EXPECT_TRUE(bytes.value().endsWith('\n'));
-  EXPECT_TRUE(hasReadAheadPadding(bytes.value()));
+  EXPECT_TRUE(hasParserPadding(bytes.value()));
 }
 
 TEST_F(RegularFile, IsAsLargeAsIsAskedForAndNoLarger) {
@@ -70,7 +70,7 @@ TEST_F(RegularFile, OfASizeThatNoMemoryHasIsRefusedUnread) {
   if (!sparse.resize(terabyte)) {
     GTEST_SKIP() << "no disk here takes files of such a size";
   }
-  EXPECT_EQ(readRegularFile(sparse.fileName(), mostBytes).error(), u"File too large"_s);
+  EXPECT_EQ(readRegularFile(sparse.fileName(), maximumBytes).error(), u"File too large"_s);
 }
 
 /// It says that it is empty and goes on for as long as the address space does.
@@ -80,7 +80,7 @@ TEST_F(RegularFile, WithoutAnEndIsGivenUp) {
   if (!file.open(QFile::ReadOnly) || file.read(8).size() != 8) {
     GTEST_SKIP() << "no file here has no end";
   }
-  EXPECT_EQ(readRegularFile(endless, mostBytes).error(), u"File too large"_s);
+  EXPECT_EQ(readRegularFile(endless, maximumBytes).error(), u"File too large"_s);
 }
 
 TEST_F(RegularFile, ThatGrowsMeanwhileIsRead) {
@@ -94,7 +94,7 @@ TEST_F(RegularFile, ThatGrowsMeanwhileIsRead) {
     }
   });
   for (int i = 0; i < 200; ++i) {
-    const auto bytes = readRegularFile(path, mostBytes);
+    const auto bytes = readRegularFile(path, maximumBytes);
     ASSERT_TRUE(bytes) << bytes.error().toStdString();
     ASSERT_TRUE(bytes->startsWith("{}"));
     ASSERT_EQ(bytes->trimmed(), "{}");
@@ -119,7 +119,7 @@ TEST_F(RegularFile, LeavesRoomBehindItsBytesWhereItGrowsMeanwhile) {
   while (isWriting) {
     const auto bytes = readRegularFile(path, large);
     ASSERT_TRUE(bytes) << bytes.error().toStdString();
-    ASSERT_TRUE(hasReadAheadPadding(*bytes)) << bytes->size();
+    ASSERT_TRUE(hasParserPadding(*bytes)) << bytes->size();
   }
 }
 
@@ -130,26 +130,26 @@ TEST_F(RegularFile, IsNoSocket) {
   std::ranges::copy(path, address.sun_path);
   const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM, 0));
   ASSERT_EQ(bind(socket.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-  EXPECT_FALSE(readRegularFile(QFile::decodeName(path), mostBytes));
+  EXPECT_FALSE(readRegularFile(QFile::decodeName(path), maximumBytes));
 }
 
 TEST_F(RegularFile, ThatIsMissingHasAnErrorInThePlatformsWords) {
-  EXPECT_EQ(readRegularFile(pathOf(u"nothing"_s), mostBytes).error(),
+  EXPECT_EQ(readRegularFile(pathOf(u"nothing"_s), maximumBytes).error(),
             u"No such file or directory"_s);
 }
 
 TEST_F(RegularFile, IsNoFolder) {
-  EXPECT_EQ(readRegularFile(pathOf(u"."_s), mostBytes).error(), u"Is a directory"_s);
+  EXPECT_EQ(readRegularFile(pathOf(u"."_s), maximumBytes).error(), u"Is a directory"_s);
 }
 
 TEST_F(RegularFile, IsNoDevice) {
-  EXPECT_EQ(readRegularFile(u"/dev/zero"_s, mostBytes).error(), u"Invalid argument"_s);
+  EXPECT_EQ(readRegularFile(u"/dev/zero"_s, maximumBytes).error(), u"Invalid argument"_s);
 }
 
 TEST_F(RegularFile, IsNoPipeToWaitFor) {
   const QString pipe = pathOf(u"pipe"_s);
   ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0644), 0);
-  EXPECT_EQ(readRegularFile(pipe, mostBytes).error(), u"Invalid argument"_s);
+  EXPECT_EQ(readRegularFile(pipe, maximumBytes).error(), u"Invalid argument"_s);
 }
 
 }  // namespace

@@ -60,12 +60,12 @@ TEST(SharedText, OutlivesItsBuilder) {
 
 TEST(SharedText, StoresARepeatedTextOnce) {
   SharedTextBuilder builder;
-  const SharedText first = builder.addOnce("homebrew/core");
-  const SharedText other = builder.addOnce("homebrew/cask");
-  const SharedText second = builder.addOnce("homebrew/core");
+  const SharedText first = builder.intern("homebrew/core");
+  const SharedText other = builder.intern("homebrew/cask");
+  const SharedText second = builder.intern("homebrew/core");
   EXPECT_EQ(first.view().data(), second.view().data());
   EXPECT_EQ(other, "homebrew/cask");
-  EXPECT_TRUE(builder.addOnce("").isEmpty());
+  EXPECT_TRUE(builder.intern("").isEmpty());
 }
 
 TEST(UrlText, TakesWhatQUrlTakesStrictly) {

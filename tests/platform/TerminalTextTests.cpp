@@ -20,7 +20,7 @@ void PrintTo(const Row& row, std::ostream* out) {
 class StandingText : public testing::TestWithParam<Row> {};
 
 TEST_P(StandingText, IsWhatATerminalWouldShow) {
-  EXPECT_EQ(standingText(GetParam().line).toStdString(), GetParam().standing);
+  EXPECT_EQ(terminalText(GetParam().line).toStdString(), GetParam().standing);
 }
 
 std::string nameOf(const testing::TestParamInfo<Row>& info) {
@@ -120,18 +120,18 @@ INSTANTIATE_TEST_SUITE_P(Characters, StandingText,
                          nameOf);
 
 TEST(StandingTextOfHostileOutput, StaysAsSmallAsTheOutput) {
-  EXPECT_LE(standingText("a\x1b[999999999Cb").size(), 1024);
-  EXPECT_LE(standingText("a\x1b[999999999999999999999Gb").size(), 1024);
+  EXPECT_LE(terminalText("a\x1b[999999999Cb").size(), 1024);
+  EXPECT_LE(terminalText("a\x1b[999999999999999999999Gb").size(), 1024);
   const QByteArray manyJumps = QByteArray("\x1b[999999999Cx").repeated(10'000);
-  EXPECT_LE(standingText(manyJumps).size(), 11'000);
+  EXPECT_LE(terminalText(manyJumps).size(), 11'000);
 }
 
 TEST(StandingTextOfHostileOutput, CostsNoMoreThanItsLength) {
   const QByteArray wide(200'000, 'x');
-  EXPECT_EQ(standingText(wide + QByteArray("\x1b[1Ky").repeated(100'000)).trimmed(), u"y");
-  EXPECT_EQ(standingText(wide + QByteArray("\x1b[2Ky").repeated(100'000)).trimmed(), u"y");
+  EXPECT_EQ(terminalText(wide + QByteArray("\x1b[1Ky").repeated(100'000)).trimmed(), u"y");
+  EXPECT_EQ(terminalText(wide + QByteArray("\x1b[2Ky").repeated(100'000)).trimmed(), u"y");
   const QByteArray marks = QByteArray("\b\u0301\x1b[C\u0302").repeated(100'000);
-  EXPECT_LE(standingText("ab" + marks).size(), 400'000);
+  EXPECT_LE(terminalText("ab" + marks).size(), 400'000);
 }
 
 }  // namespace

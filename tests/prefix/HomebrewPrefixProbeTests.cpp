@@ -7,14 +7,14 @@
 
 #include "platform/SecurityScopedAccess.h"
 #include "prefix/HomebrewPrefixProbe.h"
-#include "support/DemoPrefix.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
+using test::TestPrefix;
 using Status = HomebrewPrefixProbeResult::Status;
 
 const HomebrewPrefixProbeResult& row(const HomebrewPrefixProbeSummary& summary,
@@ -24,7 +24,7 @@ const HomebrewPrefixProbeResult& row(const HomebrewPrefixProbeSummary& summary,
 }
 
 TEST(HomebrewPrefixProbe, ShowsTheSevenLocationsInOrder) {
-  const DemoPrefix prefix;
+  const TestPrefix prefix;
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
   EXPECT_EQ(summary.prefixURL, prefix.url());
   ASSERT_EQ(summary.results.size(), homebrewPrefixLocations.size());
@@ -35,7 +35,7 @@ TEST(HomebrewPrefixProbe, ShowsTheSevenLocationsInOrder) {
 }
 
 TEST(HomebrewPrefixProbe, AcceptsAFolderWithReadableBrewAndNothingElse) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\n");
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
   EXPECT_TRUE(summary.looksLikeHomebrewPrefix());
@@ -45,11 +45,11 @@ TEST(HomebrewPrefixProbe, AcceptsAFolderWithReadableBrewAndNothingElse) {
 }
 
 TEST(HomebrewPrefixProbe, RejectsAFolderWithUnreadableBrew) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\n");
   ASSERT_EQ(chmod(prefix.path().toUtf8().constData(), 0755), 0);
   ASSERT_EQ(chmod(prefix.pathOf(u"bin/brew"_s).toUtf8().constData(), 0), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+  EXPECT_TRUE(test::runUnprivileged([&prefix] {
     const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
     return !summary.looksLikeHomebrewPrefix() &&
            statusText(row(summary, u"bin/brew")) == u"Not readable" &&
@@ -58,13 +58,13 @@ TEST(HomebrewPrefixProbe, RejectsAFolderWithUnreadableBrew) {
 }
 
 TEST(HomebrewPrefixProbe, RejectsAFolderThatHasEverythingButBrew) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withAllLocations();
   EXPECT_FALSE(probeHomebrewPrefix(prefix.url()).looksLikeHomebrewPrefix());
 }
 
 TEST(HomebrewPrefixProbe, CountsAnEmptyFolderAsNoItems) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar"_s);
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
   const HomebrewPrefixProbeResult& cellar = row(summary, u"Cellar");
@@ -73,7 +73,7 @@ TEST(HomebrewPrefixProbe, CountsAnEmptyFolderAsNoItems) {
 }
 
 TEST(HomebrewPrefixProbe, CountsVisibleItems) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Caskroom/firefox"_s).withFolder(u"Caskroom/.metadata"_s);
   prefix.withFolder(u"Cellar/wget"_s).withFolder(u"Cellar/zlib"_s).withFile(u"Cellar/notes"_s);
   const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
@@ -83,7 +83,7 @@ TEST(HomebrewPrefixProbe, CountsVisibleItems) {
 
 /// Only a listing would tell what stands in the place of a location, and nobody waits for it.
 TEST(HomebrewPrefixProbe, WaitsForNoPipeAndNoCircle) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"bin"_s).withFolder(u"var/homebrew"_s).withFolder(u"Library"_s);
   const auto pathOf = [&prefix](const QString& name) {
     return QFile::encodeName(prefix.pathOf(name));
@@ -103,7 +103,7 @@ TEST(HomebrewPrefixProbe, WaitsForNoPipeAndNoCircle) {
 }
 
 TEST(HomebrewPrefixProbe, GivesEachRowOfEachProbeItsOwnIdentity) {
-  const DemoPrefix prefix;
+  const TestPrefix prefix;
   QSet<QUuid> identifiers;
   for (int probe = 0; probe < 2; ++probe) {
     const HomebrewPrefixProbeSummary summary = probeHomebrewPrefix(prefix.url());
@@ -115,7 +115,7 @@ TEST(HomebrewPrefixProbe, GivesEachRowOfEachProbeItsOwnIdentity) {
 }
 
 TEST(HomebrewPrefixProbe, TakesTheTimeOfTheProbe) {
-  const DemoPrefix prefix;
+  const TestPrefix prefix;
   const QDateTime before = QDateTime::currentDateTimeUtc();
   const QDateTime scannedAt = probeHomebrewPrefix(prefix.url()).scannedAt;
   EXPECT_GE(scannedAt, before);
@@ -123,7 +123,7 @@ TEST(HomebrewPrefixProbe, TakesTheTimeOfTheProbe) {
 }
 
 TEST(HomebrewPrefixProbe, StartsAndStopsAccessOnce) {
-  const DemoPrefix prefix;
+  const TestPrefix prefix;
   const auto before = SecurityScopedAccess::counts();
   static_cast<void>(probeHomebrewPrefix(prefix.url()));
   EXPECT_EQ(SecurityScopedAccess::counts().started, before.started + 1);

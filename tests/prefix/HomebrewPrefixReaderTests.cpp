@@ -5,16 +5,16 @@
 
 #include "platform/SecurityScopedAccess.h"
 #include "prefix/HomebrewPrefixReader.h"
-#include "support/DemoPrefix.h"
 #include "support/InMemoryPrefixFileSystem.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
 using test::InMemoryPrefixFileSystem;
+using test::TestPrefix;
 using Kind = HomebrewPrefixLocation::Kind;
 using Status = HomebrewPrefixLocation::Status;
 
@@ -81,7 +81,7 @@ TEST(HomebrewPrefixReader, SortsChildNamesByCodePoint) {
 }
 
 TEST(HomebrewPrefixReader, LeavesOutHiddenEntriesOfTheDisk) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/wget"_s).withFile(u"Cellar/.DS_Store"_s).withFolder(u"Cellar/Zlib"_s);
   const HomebrewPrefixReadResult result = HomebrewPrefixReader(prefix.url()).read();
   EXPECT_EQ(result.location(Kind::cellar)->status, Status::readable);
@@ -89,7 +89,7 @@ TEST(HomebrewPrefixReader, LeavesOutHiddenEntriesOfTheDisk) {
 }
 
 TEST(HomebrewPrefixReader, ReadsAWholePrefixOfTheDisk) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withAllLocations().withBrew("#!/bin/sh\n");
   const HomebrewPrefixReadResult result = HomebrewPrefixReader(prefix.url()).read();
   for (const HomebrewPrefixLocation& location : result.locations) {
@@ -109,11 +109,11 @@ TEST(HomebrewPrefixReader, NeverListsWhatCannotBeRead) {
 }
 
 TEST(HomebrewPrefixReader, FindsAnUnreadableFolderOfTheDiskNotReadable) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/wget"_s);
   ASSERT_EQ(chmod(prefix.path().toUtf8().constData(), 0755), 0);
   ASSERT_EQ(chmod(prefix.pathOf(u"Cellar"_s).toUtf8().constData(), 0), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&prefix] {
+  EXPECT_TRUE(test::runUnprivileged([&prefix] {
     const HomebrewPrefixReadResult result = HomebrewPrefixReader(prefix.url()).read();
     return result.location(Kind::cellar)->status == Status::notReadable &&
            result.location(Kind::caskroom)->status == Status::missing;
@@ -123,7 +123,7 @@ TEST(HomebrewPrefixReader, FindsAnUnreadableFolderOfTheDiskNotReadable) {
 
 TEST(HomebrewPrefixReader, FindsEverythingMissingInAPrefixThatDoesNotExist) {
   const HomebrewPrefixReadResult result =
-      HomebrewPrefixReader(QUrl::fromLocalFile(DemoPrefix().path() + u"/gone"_s)).read();
+      HomebrewPrefixReader(QUrl::fromLocalFile(TestPrefix().path() + u"/gone"_s)).read();
   ASSERT_EQ(result.locations.size(), 7U);
   for (const HomebrewPrefixLocation& location : result.locations) {
     EXPECT_EQ(location.status, Status::missing);

@@ -6,15 +6,15 @@
 
 #include "platform/FileUrl.h"
 #include "prefix/HomebrewPrefixFileSystem.h"
-#include "support/AnotherProcess.h"
-#include "support/DemoPrefix.h"
+#include "support/ForkedProcess.h"
+#include "support/TestPrefix.h"
 #include "support/UnprivilegedUser.h"
 
 namespace quillmere {
 namespace {
 
 using namespace Qt::StringLiterals;
-using test::DemoPrefix;
+using test::TestPrefix;
 
 QStringList namesIn(const QString& folder) {
   QStringList names;
@@ -31,7 +31,7 @@ void setMode(const QString& path, mode_t mode) {
 }
 
 TEST(PlatformFileSystem, SeesFilesFoldersAndWhatLinksLeadTo) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"file"_s);
   ASSERT_TRUE(QFile::link(prefix.pathOf(u"file"_s), prefix.pathOf(u"link"_s)));
   ASSERT_TRUE(QFile::link(prefix.pathOf(u"nothing"_s), prefix.pathOf(u"dangling"_s)));
@@ -45,11 +45,11 @@ TEST(PlatformFileSystem, SeesFilesFoldersAndWhatLinksLeadTo) {
 }
 
 TEST(PlatformFileSystem, TellsWhatMayNotBeRead) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"secret"_s, "x");
   setMode(prefix.path(), 0755);
   setMode(prefix.pathOf(u"secret"_s), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&] {
+  EXPECT_TRUE(test::runUnprivileged([&] {
     const QString secret = prefix.pathOf(u"secret"_s);
     const auto disk = platformFileSystem();
     return disk->fileExists(secret) && !disk->isReadableFile(secret) &&
@@ -58,7 +58,7 @@ TEST(PlatformFileSystem, TellsWhatMayNotBeRead) {
 }
 
 TEST(PlatformFileSystem, ListsAllButHiddenEntries) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/wget"_s).withFile(u"Cellar/.DS_Store"_s).withFile(u"Cellar/a b%20c"_s);
   prefix.withFolder(u"Cellar/\u00e9t\u00e9"_s).withFolder(u"Cellar/.metadata"_s);
   ASSERT_TRUE(QFile::link(prefix.pathOf(u"nothing"_s), prefix.pathOf(u"Cellar/dangling"_s)));
@@ -67,11 +67,11 @@ TEST(PlatformFileSystem, ListsAllButHiddenEntries) {
 }
 
 TEST(PlatformFileSystem, ListsAnEmptyFolder) {
-  EXPECT_TRUE(namesIn(DemoPrefix().path()).isEmpty());
+  EXPECT_TRUE(namesIn(TestPrefix().path()).isEmpty());
 }
 
 TEST(PlatformFileSystem, RefusesToListWhatIsNoFolder) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFile(u"file"_s);
   const auto disk = platformFileSystem();
   const auto file = disk->contentsOfDirectory(fileUrl(prefix.pathOf(u"file"_s)));
@@ -81,18 +81,18 @@ TEST(PlatformFileSystem, RefusesToListWhatIsNoFolder) {
 }
 
 TEST(PlatformFileSystem, RefusesToListAnUnreadableFolder) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   prefix.withFolder(u"Cellar/wget"_s);
   setMode(prefix.path(), 0755);
   setMode(prefix.pathOf(u"Cellar"_s), 0);
-  EXPECT_TRUE(test::holdsForUnprivilegedUser([&] {
+  EXPECT_TRUE(test::runUnprivileged([&] {
     return !platformFileSystem()->contentsOfDirectory(fileUrl(prefix.pathOf(u"Cellar"_s)));
   }));
   setMode(prefix.pathOf(u"Cellar"_s), 0755);
 }
 
 TEST(PlatformFileSystem, ReadsAWholeFile) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   const QByteArray content = QByteArray("\0\xFF receipt\n", 11).repeated(50'000);
   prefix.withFile(u"file"_s, content).withFile(u"empty"_s);
   const auto disk = platformFileSystem();
@@ -101,7 +101,7 @@ TEST(PlatformFileSystem, ReadsAWholeFile) {
 }
 
 TEST(PlatformFileSystem, ReadsNoMissingFileAndNoFolder) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   const auto disk = platformFileSystem();
   const auto missing = disk->readData(fileUrl(prefix.pathOf(u"nothing"_s)));
   EXPECT_EQ(missing.error().message, u"No such file or directory"_s);
@@ -109,7 +109,7 @@ TEST(PlatformFileSystem, ReadsNoMissingFileAndNoFolder) {
 }
 
 TEST(PlatformFileSystem, RefusesAPipeInsteadOfWaitingForIt) {
-  DemoPrefix prefix;
+  TestPrefix prefix;
   const QString pipe = prefix.pathOf(u"INSTALL_RECEIPT.json"_s);
   ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0644), 0);
   EXPECT_FALSE(platformFileSystem()->readData(fileUrl(pipe)).has_value());
@@ -127,8 +127,8 @@ TEST(PlatformFileSystem, FindsNothingThatIsNotOfThisMachine) {
 
 TEST(PlatformFileSystem, IsThereThoughTheProgramIsEnding) {
   EXPECT_TRUE(platformFileSystem()->fileExists(u"/"_s));  // what is made once is made now
-  EXPECT_TRUE(test::hasEndedWell(
-      test::atTheEndOfAnotherProcess([] { return platformFileSystem()->fileExists(u"/"_s); })));
+  EXPECT_TRUE(test::exitedCleanly(
+      test::runForkedAtExit([] { return platformFileSystem()->fileExists(u"/"_s); })));
 }
 
 }  // namespace

@@ -10,7 +10,8 @@ extern const char* const testedModule;
 namespace {
 
 /// Loads, but does not make, each file of the module. This program is linked with nothing that the
-/// screen may not use, so an import of another screen fails here, as an include of it fails to link.
+/// screen may not use, so an import of another screen fails here, as an include of it fails to
+/// link.
 TEST(QmlFiles, NeedNothingThatTheScreenMayNotUse) {
   QQmlEngine engine;
   engine.addImportPath(QStringLiteral("qrc:/qt/qml"));

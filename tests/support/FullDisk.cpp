@@ -5,7 +5,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 
 namespace quillmere::test {
 namespace {
@@ -22,8 +22,8 @@ bool limitFilesTo(rlim_t bytes) {
 
 }  // namespace
 
-bool holdsOnDiskFullAfter(qint64 bytes, const std::function<bool()>& body) {
-  return hasEndedWell(inAnotherProcess([&] {
+bool runWithDiskLimit(qint64 bytes, const std::function<bool()>& body) {
+  return exitedCleanly(runForked([&] {
     // Without this the write ends the process instead of failing.
     std::signal(SIGXFSZ, SIG_IGN);
     if (!limitFilesTo(static_cast<rlim_t>(bytes)) || !body()) {
@@ -32,7 +32,7 @@ bool holdsOnDiskFullAfter(qint64 bytes, const std::function<bool()>& body) {
   }));
 }
 
-bool giveTheDiskBack() {
+bool restoreDiskSpace() {
   return limitFilesTo(RLIM_INFINITY);
 }
 

@@ -8,9 +8,9 @@ namespace quillmere::test {
 
 /// Runs `body` in a child process in which no file can grow beyond `bytes`: what is written past
 /// them fails as on a full disk. Returns whether `body` returned true.
-[[nodiscard]] bool holdsOnDiskFullAfter(qint64 bytes, const std::function<bool()>& body);
+[[nodiscard]] bool runWithDiskLimit(qint64 bytes, const std::function<bool()>& body);
 
 /// Makes room again, from inside of `body`. Returns whether that worked.
-[[nodiscard]] bool giveTheDiskBack();
+[[nodiscard]] bool restoreDiskSpace();
 
 }  // namespace quillmere::test

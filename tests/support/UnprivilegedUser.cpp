@@ -2,15 +2,15 @@
 
 #include <unistd.h>
 
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 
 namespace quillmere::test {
 
-bool holdsForUnprivilegedUser(const std::function<bool()>& body) {
+bool runUnprivileged(const std::function<bool()>& body) {
   if (geteuid() != 0) {
     return body();
   }
-  return hasEndedWell(inAnotherProcess([&] {
+  return exitedCleanly(runForked([&] {
     constexpr uid_t nobody = 65534;
     if (setgid(nobody) != 0 || setuid(nobody) != 0 || !body()) {
       _exit(1);

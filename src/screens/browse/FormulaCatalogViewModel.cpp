@@ -141,7 +141,7 @@ void FormulaCatalogViewModel::setInputs(const CatalogInputs& inputs) {
   announce();
 }
 
-void FormulaCatalogViewModel::setCatalog(PackageCatalogSnapshot catalog) {
+void FormulaCatalogViewModel::setCatalog(PackageCatalogPtr catalog) {
   if (catalog_ == catalog) {
     return;
   }

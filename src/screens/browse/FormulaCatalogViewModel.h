@@ -91,7 +91,7 @@ class FormulaCatalogViewModel : public QObject {
   void setInputs(const CatalogInputs& inputs);
 
   /// The catalog that is loaded; null when none is.
-  [[nodiscard]] const PackageCatalogSnapshot& catalog() const { return catalog_; }
+  [[nodiscard]] const PackageCatalogPtr& catalog() const { return catalog_; }
 
   /// The answer to the last question: while it is looked for, provisionally nothing; absent
   /// without a catalog.
@@ -135,7 +135,7 @@ class FormulaCatalogViewModel : public QObject {
   void announced(const QString& text);
 
  private:
-  void setCatalog(PackageCatalogSnapshot catalog);
+  void setCatalog(PackageCatalogPtr catalog);
   QCoro::Task<> filter();
   void setResults(std::optional<FilteredPackageResults> results, bool isFiltering);
   void showResults();
@@ -145,7 +145,7 @@ class FormulaCatalogViewModel : public QObject {
   Clock clock_;
   CatalogInputs inputs_;
   PackageSearch search_;
-  PackageCatalogSnapshot catalog_;
+  PackageCatalogPtr catalog_;
   std::optional<FilteredPackageResults> filteredResults_;
   /// What is in view: the answer before stays until the next is there or the wait is felt.
   std::optional<FilteredPackageResults> shownResults_;

@@ -9,15 +9,15 @@ using namespace Qt::StringLiterals;
 namespace quillmere {
 
 QString accessibleLabel(const HomebrewPackageSummary& package) {
-  QString label = shownText(package.name) + ", "_L1 + displayLabel(package.kind) + ", "_L1;
-  label += package.version ? "version "_L1 + shownText(*package.version) : u"unknown version"_s;
+  QString label = sanitizedText(package.name) + ", "_L1 + displayLabel(package.kind) + ", "_L1;
+  label += package.version ? "version "_L1 + sanitizedText(*package.version) : u"unknown version"_s;
   if (package.description) {
-    label += ", "_L1 + shownText(*package.description);
+    label += ", "_L1 + sanitizedText(*package.description);
   }
   return label;
 }
 
-void PackageListModel::show(PackageCatalogSnapshot catalog, std::vector<std::size_t> places) {
+void PackageListModel::show(PackageCatalogPtr catalog, std::vector<std::size_t> places) {
   if (catalog_ == catalog && places_ == places) {
     return;
   }
@@ -43,7 +43,7 @@ QVariant PackageListModel::data(const QModelIndex& index, int role) const {
   const HomebrewPackageSummary& package = this->package(index.row());
   switch (role) {
     case NameRole:
-      return shownText(package.name);
+      return sanitizedText(package.name);
     case KindRole:
       return QString(displayLabel(package.kind));
     case VersionRole:

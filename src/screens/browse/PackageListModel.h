@@ -25,7 +25,7 @@ class PackageListModel : public quillmere::ReplacedRowsModel {
   using ReplacedRowsModel::ReplacedRowsModel;
 
   /// Shows the packages at these places of `catalog`, which may be null only where there are none.
-  void show(PackageCatalogSnapshot catalog, std::vector<std::size_t> places);
+  void show(PackageCatalogPtr catalog, std::vector<std::size_t> places);
 
   /// The package in this row, which there must be.
   [[nodiscard]] const HomebrewPackageSummary& package(int row) const;
@@ -35,7 +35,7 @@ class PackageListModel : public quillmere::ReplacedRowsModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
  private:
-  PackageCatalogSnapshot catalog_;
+  PackageCatalogPtr catalog_;
   std::vector<std::size_t> places_;
 };
 

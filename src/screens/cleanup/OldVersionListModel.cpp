@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,15 +18,15 @@ QString olderVersions(const OldVersionPackage& package) {
   for (const SharedText& version : package.oldVersions) {
     versions += version.toString();
   }
-  return shownText(versions.join(", "_L1));
+  return sanitizedText(versions.join(", "_L1));
 }
 
 QString currentVersion(const OldVersionPackage& package, const QString& unknown) {
-  return package.currentVersion ? shownText(*package.currentVersion) : unknown;
+  return package.currentVersion ? sanitizedText(*package.currentVersion) : unknown;
 }
 
 QString accessibleLabel(const OldVersionPackage& package) {
-  return shownText(package.name) + ", "_L1 + displayLabel(package.kind) + ", current "_L1 +
+  return sanitizedText(package.name) + ", "_L1 + displayLabel(package.kind) + ", current "_L1 +
          currentVersion(package, u"unknown"_s) + ", older versions "_L1 + olderVersions(package);
 }
 
@@ -49,7 +49,7 @@ QVariant OldVersionListModel::data(const QModelIndex& index, int role) const {
   const OldVersionPackage& package = packages_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case NameRole:
-      return shownText(package.name);
+      return sanitizedText(package.name);
     case KindTextRole:
       return displayLabel(package.kind);
     case VersionsTextRole:

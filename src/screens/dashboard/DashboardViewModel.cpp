@@ -36,11 +36,11 @@ struct FreshTime {
 };
 
 FreshTime ofCatalog(const QDateTime& date) {
-  return {date, catalogStalePoint(date), DashboardViewModel::catalogDays};
+  return {date, catalogStaleDate(date), DashboardViewModel::catalogDays};
 }
 
 FreshTime ofInventory(const QDateTime& date) {
-  return {date, inventoryStalePoint(date), DashboardViewModel::inventorySpans};
+  return {date, inventoryStaleDate(date), DashboardViewModel::inventorySpans};
 }
 
 QString tint(const FreshnessIndicator& freshness) {

@@ -11,7 +11,7 @@
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/DateTexts.h"
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 #include "platform/TextMatching.h"
 
 using namespace Qt::StringLiterals;
@@ -41,7 +41,7 @@ QString details(const CommandHistoryRecord& record) {
   QStringList parts{"Operation "_L1 + record.operationType};
   parts << record.packageTarget.value_or(QString()) << record.sourceScreen.value_or(QString());
   parts.removeAll(QString());
-  return shownText(parts.join(QStringLiteral("  \u00b7  ")));
+  return sanitizedText(parts.join(QStringLiteral("  \u00b7  ")));
 }
 
 QString outcomeText(const CommandHistoryRecord& record) {
@@ -54,7 +54,7 @@ QString outcomeText(const CommandHistoryRecord& record) {
 
 /// What a run said, in one line.
 QString output(const CommandHistoryRecord& record) {
-  return shownText(record.executionOutputSummary.value_or(QString()).simplified());
+  return sanitizedText(record.executionOutputSummary.value_or(QString()).simplified());
 }
 
 std::string foldedSearchText(const CommandHistoryRecord& record, const QLocale& locale) {
@@ -86,17 +86,17 @@ QString searchText(const CommandHistoryRecord& record) {
 }
 
 QString accessibleLabel(const CommandHistoryRecord& record) {
-  return "Command "_L1 + shownText(record.command) + ", operation "_L1 +
-         shownText(record.operationType) + ", target "_L1 +
-         shownText(record.packageTarget.value_or("no target"_L1)) + ", source "_L1 +
-         shownText(record.sourceScreen.value_or("unknown source"_L1)) +
+  return "Command "_L1 + sanitizedText(record.command) + ", operation "_L1 +
+         sanitizedText(record.operationType) + ", target "_L1 +
+         sanitizedText(record.packageTarget.value_or("no target"_L1)) + ", source "_L1 +
+         sanitizedText(record.sourceScreen.value_or("unknown source"_L1)) +
          (record.executed ? ", executed "_L1 : ", copied "_L1) + timeText(record);
 }
 
 CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& store,
                                                  const QLocale& locale, QObject* parent)
     : ReplacedRowsModel(parent), store_(store), locale_(locale) {
-  if (store_.hasReadHistory()) {
+  if (store_.isHistoryLoaded()) {
     remember(store_.commandHistory());
   }
   connect(&store_, &LocalPersistenceStore::commandHistoryChanged, this,
@@ -121,7 +121,7 @@ QVariant CommandHistoryListModel::data(const QModelIndex& index, int role) const
   const CommandHistoryRecord& record = *found;
   switch (role) {
     case CommandRole:
-      return shownText(record.command);
+      return sanitizedText(record.command);
     case DetailsRole:
       return details(record);
     case OutputRole:

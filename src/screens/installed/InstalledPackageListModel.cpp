@@ -10,17 +10,17 @@ namespace quillmere {
 namespace {
 
 QString part(QLatin1StringView lead, const std::optional<SharedText>& value) {
-  return value ? lead + shownText(*value) : QString();
+  return value ? lead + sanitizedText(*value) : QString();
 }
 
 QString textOr(QLatin1StringView substitute, const std::optional<SharedText>& text) {
-  return text ? shownText(*text) : QString(substitute);
+  return text ? sanitizedText(*text) : QString(substitute);
 }
 
 }  // namespace
 
 QString accessibleLabel(const InstalledPackageSummary& package) {
-  return shownText(package.name) + part(", installed "_L1, package.installedVersion) +
+  return sanitizedText(package.name) + part(", installed "_L1, package.installedVersion) +
          part(", latest known "_L1, package.latestKnownVersion) + part(", source "_L1, package.tap);
 }
 
@@ -51,7 +51,7 @@ QVariant InstalledPackageListModel::data(const QModelIndex& index, int role) con
   const InstalledPackageSummary& package = this->package(index.row());
   switch (role) {
     case NameRole:
-      return shownText(package.name);
+      return sanitizedText(package.name);
     case KindRole:
       return QString(displayLabel(package.kind));
     case InstalledVersionRole:
@@ -59,7 +59,7 @@ QVariant InstalledPackageListModel::data(const QModelIndex& index, int role) con
     case LatestKnownVersionRole:
       return textOr("Not listed"_L1, package.latestKnownVersion);
     case DescriptionRole:
-      return shownText(package.description.value_or(package.detail));
+      return sanitizedText(package.description.value_or(package.detail));
     case AccessibleLabelRole:
       return accessibleLabel(package);
     default:

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "guidance/FreshnessIndicator.h"
-#include "platform/ShownText.h"
-#include "platform/WebPage.h"
+#include "platform/SanitizedText.h"
+#include "platform/WebUrl.h"
 #include "screens/shared/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
@@ -13,14 +13,15 @@ namespace quillmere {
 namespace {
 
 QString listed(const std::optional<SharedText>& value) {
-  return value && !value->isEmpty() ? shownText(*value) : PackageDetailViewModel::notListedText();
+  return value && !value->isEmpty() ? sanitizedText(*value)
+                                    : PackageDetailViewModel::notListedText();
 }
 
 QStringList strings(const std::vector<SharedText>& texts) {
   QStringList result;
   result.reserve(static_cast<qsizetype>(texts.size()));
   for (const SharedText& text : texts) {
-    result += shownText(text);
+    result += sanitizedText(text);
   }
   return result;
 }
@@ -38,7 +39,7 @@ PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewRequest pre
 }
 
 QString PackageDetailViewModel::name() const {
-  return shownText(inputs_.package.name);
+  return sanitizedText(inputs_.package.name);
 }
 
 QString PackageDetailViewModel::kindText() const {
@@ -46,13 +47,13 @@ QString PackageDetailViewModel::kindText() const {
 }
 
 QString PackageDetailViewModel::versionText() const {
-  return shownText(inputs_.package.version.value_or(SharedText()));
+  return sanitizedText(inputs_.package.version.value_or(SharedText()));
 }
 
 QString PackageDetailViewModel::descriptionText() const {
   const auto& description = inputs_.package.description;
   return description && !description->isEmpty()
-             ? shownText(*description)
+             ? sanitizedText(*description)
              : u"No description is available for this package."_s;
 }
 
@@ -70,7 +71,7 @@ QString PackageDetailViewModel::headVersionText() const {
 
 QString PackageDetailViewModel::homepageText() const {
   const auto& homepage = inputs_.package.homepage;
-  return homepage ? shownText(homepage->text()) : notListedText();
+  return homepage ? sanitizedText(homepage->text()) : notListedText();
 }
 
 QString PackageDetailViewModel::licenseText() const {
@@ -82,7 +83,7 @@ QString PackageDetailViewModel::tapText() const {
 }
 
 bool PackageDetailViewModel::canOpenHomepage() const {
-  return inputs_.package.homepage && isWebPage(inputs_.package.homepage->url());
+  return inputs_.package.homepage && isWebUrl(inputs_.package.homepage->url());
 }
 
 QString PackageDetailViewModel::installedVersionText() const {
@@ -91,15 +92,15 @@ QString PackageDetailViewModel::installedVersionText() const {
   }
   const auto& versions = inputs_.installedPackage->installedVersions;
   if (!versions.empty()) {
-    return shownText(strings(versions).join(", "_L1));
+    return sanitizedText(strings(versions).join(", "_L1));
   }
   const auto& version = inputs_.installedPackage->installedVersion;
-  return version ? shownText(*version) : u"Unknown"_s;
+  return version ? sanitizedText(*version) : u"Unknown"_s;
 }
 
 QString PackageDetailViewModel::localSourceText() const {
   if (inputs_.installedPackage) {
-    return shownText(inputs_.installedPackage->detail);
+    return sanitizedText(inputs_.installedPackage->detail);
   }
   return inputs_.hasInventory ? u"Not found in local scan"_s : u"No local package record"_s;
 }
@@ -161,7 +162,7 @@ QString PackageDetailViewModel::commandText() const {
 
 void PackageDetailViewModel::openHomepage() {
   const auto& homepage = inputs_.package.homepage;
-  if (!homepage || !isWebPage(homepage->url())) {
+  if (!homepage || !isWebUrl(homepage->url())) {
     return;
   }
   const bool opened = openUrl_(homepage->url());

@@ -82,7 +82,7 @@ CommandPreviewSheetModel::CommandPreviewSheetModel(CommandPreviewContext context
       command_(std::move(command)),
       sourceScreen_(std::move(sourceScreen)),
       onCopy_(std::move(onCopy)),
-      decision_(decide(command_, context_.appCapabilities)) {
+      decision_(executionPolicyDecision(command_, context_.appCapabilities)) {
 }
 
 CommandPreviewSheetModel::~CommandPreviewSheetModel() = default;

@@ -57,7 +57,7 @@ struct DirectExecutionSessionViewModel::Reading {
 /// What one look at the output found.
 struct DirectExecutionSessionViewModel::Read {
   std::vector<OutputLines> lines;
-  std::optional<OutputLines> openLine;
+  std::optional<OutputLines> unfinishedLine;
   DirectCommandOutputPresentation presentation;
   bool hasOutput = false;
   /// Whether nothing of what there was when the look began is left for the next.
@@ -68,7 +68,7 @@ struct DirectExecutionSessionViewModel::Read {
 auto DirectExecutionSessionViewModel::Reading::carryOut() const -> std::shared_ptr<Read> {
   auto read = std::make_shared<Read>();
   read->lines = transcript->add(chunks);
-  read->openLine = transcript->openLine();
+  read->unfinishedLine = transcript->unfinishedLine();
   const OutputDigest digest =
       hasResult && isWhole ? transcript->resultDigest() : transcript->liveDigest();
   read->presentation = makePresentation(digest, status);
@@ -237,8 +237,8 @@ auto DirectExecutionSessionViewModel::startReading() -> QFuture<std::shared_ptr<
 }
 
 void DirectExecutionSessionViewModel::show(Read read) {
-  if (!read.lines.empty() || read.openLine) {
-    rawOutput_.append(std::move(read.lines), std::move(read.openLine));
+  if (!read.lines.empty() || read.unfinishedLine) {
+    rawOutput_.append(std::move(read.lines), std::move(read.unfinishedLine));
     Q_EMIT rawOutputGrew();
   }
   summaryRows_.setRows(read.presentation.rows);

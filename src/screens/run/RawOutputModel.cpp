@@ -40,7 +40,7 @@ QVariant RawOutputModel::data(const QModelIndex& index, int role) const {
   switch (role) {
     case Qt::DisplayRole:
     case TextRole:
-      return standingText(lines->line(place));
+      return terminalText(lines->line(place));
     case StreamRole:
       return QString(rawValue(lines->stream));
     case MarkerRole:
@@ -54,14 +54,15 @@ QHash<int, QByteArray> RawOutputModel::roleNames() const {
   return {{TextRole, "text"}, {StreamRole, "stream"}, {MarkerRole, "marker"}};
 }
 
-void RawOutputModel::append(std::vector<OutputLines> lines, std::optional<OutputLines> openLine) {
+void RawOutputModel::append(std::vector<OutputLines> lines,
+                            std::optional<OutputLines> unfinishedLine) {
   const int rowsBefore = rowCount();
   const bool wasOpen = openLine_.has_value();
   int closedRows = closedRows_;
   for (const OutputLines& each : lines) {
     closedRows += static_cast<int>(each.count());
   }
-  const int rowsAfter = closedRows + (openLine ? 1 : 0);
+  const int rowsAfter = closedRows + (unfinishedLine ? 1 : 0);
   const int rowOfOpenLine = closedRows_;
   const auto store = [&] {
     for (OutputLines& each : lines) {
@@ -69,7 +70,7 @@ void RawOutputModel::append(std::vector<OutputLines> lines, std::optional<Output
       blocks_.push_back({closedRows_, std::move(each)});
       closedRows_ += count;
     }
-    openLine_ = std::move(openLine);
+    openLine_ = std::move(unfinishedLine);
   };
   // An open line never vanishes: it grows, or it is the first of the lines that were completed.
   if (rowsAfter > rowsBefore) {
@@ -89,7 +90,7 @@ QString RawOutputModel::text(int first, int last) const {
   QStringList texts;
   for (int row = std::max(first, 0); row <= std::min(last, rowCount() - 1); ++row) {
     const auto [lines, place] = find(row);
-    texts += standingText(lines->line(place));
+    texts += terminalText(lines->line(place));
   }
   return texts.join(u'\n');
 }

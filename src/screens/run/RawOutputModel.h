@@ -27,7 +27,7 @@ class RawOutputModel : public QAbstractListModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   /// Adds complete lines, and in place of the line that was open so far the one that is open now.
-  void append(std::vector<OutputLines> lines, std::optional<OutputLines> openLine);
+  void append(std::vector<OutputLines> lines, std::optional<OutputLines> unfinishedLine);
 
   /// The texts of some rows, each on a line of its own.
   [[nodiscard]] QString text(int first, int last) const;

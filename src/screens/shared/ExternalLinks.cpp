@@ -5,7 +5,7 @@
 
 #include <utility>
 
-#include "platform/WebPage.h"
+#include "platform/WebUrl.h"
 
 namespace quillmere {
 namespace {
@@ -39,7 +39,7 @@ QUrl ExternalLinks::homebrew() const {
 }
 
 bool ExternalLinks::open(const QUrl& page) const {
-  return isWebPage(page) && opener_(page);
+  return isWebUrl(page) && opener_(page);
 }
 
 }  // namespace quillmere

@@ -4,13 +4,13 @@
 
 #include <optional>
 
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 
 namespace quillmere {
 
 /// A text that may be missing, as a row shows it.
 [[nodiscard]] inline QString textOrNothing(const std::optional<SharedText>& text) {
-  return text ? shownText(*text) : QString();
+  return text ? sanitizedText(*text) : QString();
 }
 
 }  // namespace quillmere

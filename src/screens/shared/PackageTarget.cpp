@@ -5,7 +5,7 @@ namespace quillmere {
 std::expected<BrewCommandTarget, BrewCommandBuilderError> packageTarget(
     HomebrewPackageSummary::Kind kind, const SharedText& id) {
   const QString name = QString::fromUtf8(nameInPackageId(kind, id));
-  if (!couldBePackage(name)) {
+  if (!isPlausiblePackageName(name)) {
     return std::unexpected(BrewCommandBuilderError{name});
   }
   return BrewCommandTarget{.kind = kind == HomebrewPackageSummary::Kind::formula

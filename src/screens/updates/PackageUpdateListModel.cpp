@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +32,7 @@ QString tint(Status status) {
 }
 
 QString versionText(const std::optional<SharedText>& version) {
-  return version ? shownText(*version) : u"Unknown"_s;
+  return version ? sanitizedText(*version) : u"Unknown"_s;
 }
 
 }  // namespace
@@ -77,7 +77,7 @@ QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const 
   const PackageUpdateSummary& row = rows_[static_cast<std::size_t>(index.row())];
   switch (role) {
     case NameRole:
-      return shownText(row.package.name);
+      return sanitizedText(row.package.name);
     case KindTextRole:
       return displayLabel(row.package.kind);
     case StatusTextRole:
@@ -89,9 +89,9 @@ QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const 
     case LatestKnownTextRole:
       return versionText(row.versionState.latestKnownVersion);
     case AccessibleLabelRole:
-      return spokenLabel(row);
+      return accessibleLabel(row);
     case UpgradeLabelRole:
-      return QString("Preview upgrade command for "_L1 + shownText(row.package.name));
+      return QString("Preview upgrade command for "_L1 + sanitizedText(row.package.name));
     case HeadingRole:
       return heading(index.row());
     default:

@@ -4,7 +4,7 @@
 
 #include "commands/BrewCommandBuilder.h"
 #include "guidance/FreshnessIndicator.h"
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 #include "screens/shared/PackageTarget.h"
 
 using namespace Qt::StringLiterals;
@@ -146,7 +146,7 @@ void UpdatesViewModel::previewUpgrade(int row) {
   const auto target = packageTarget(package->kind, package->id);
   const auto command = target ? BrewCommandBuilder().upgrade(*target)
                               : BrewCommandBuilder::Result(std::unexpected(target.error()));
-  upgradeProblem_ = command ? QString() : shownText(command.error().description());
+  upgradeProblem_ = command ? QString() : sanitizedText(command.error().description());
   Q_EMIT changed();
   if (command) {
     previewRequest_(*command, sourceScreen);

@@ -7,8 +7,8 @@
 
 #include "platform/DateTexts.h"
 #include "screens/browse/FormulaCatalogViewModel.h"
+#include "support/BackgroundThreadBlocker.h"
 #include "support/GeneratedCatalog.h"
-#include "support/HeldThreads.h"
 #include "support/Printers.h"
 
 // What the Browse screen says in each of its states.
@@ -23,13 +23,13 @@ using ViewModel = FormulaCatalogViewModel;
 
 const QDateTime now = QDateTime::fromString(u"2026-11-20T12:00:00Z"_s, Qt::ISODate);
 
-PackageCatalogSnapshot catalogOf(int formulae, int casks) {
+PackageCatalogPtr catalogOf(int formulae, int casks) {
   return decodeCatalog({.formulae = generatedFormulaDocument(formulae),
                         .casks = generatedCaskDocument(casks)})
       .value();
 }
 
-PackageCatalogSnapshot smallCatalog() {
+PackageCatalogPtr smallCatalog() {
   return decodeCatalog({.formulae = R"([{"name": "curl", "desc": "Café finder", "versions": {}},
                               {"name": "wget", "versions": {}}])",
                         .casks = R"([{"token": "firefox", "name": ["Firefox"]}])"})
@@ -43,7 +43,7 @@ class FormulaCatalogStateTest : public testing::Test {
                      [this](const QString& text) { announced_.push_back(text); });
   }
 
-  void load(PackageCatalogSnapshot catalog) {
+  void load(PackageCatalogPtr catalog) {
     inputs_.state.value = PackageCatalogState::Loaded{std::move(catalog)};
     model_.setInputs(inputs_);
   }
@@ -120,7 +120,7 @@ TEST_F(FormulaCatalogStateTest, ShowsNoRowsOfTheCatalogBeforeAFailure) {
 
 TEST_F(FormulaCatalogStateTest, SaysThatItSearches) {
   load(smallCatalog());
-  const test::HeldThreads held;
+  const test::BackgroundThreadBlocker held;
   model_.search()->setSearchText(u"wget"_s);
   ASSERT_TRUE(QTest::qWaitFor([this] { return model_.state() == ViewModel::Filtering; }));
   EXPECT_EQ(model_.packages()->rowCount(), 0);
@@ -135,7 +135,7 @@ TEST_F(FormulaCatalogStateTest, KeepsTheListUntilTheWaitIsFelt) {
                    [&] { states.push_back(model_.state()); });
   const QString before = model_.longSummary();
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     model_.search()->setSearchText(u"wget"_s);
     EXPECT_TRUE(model_.isFiltering());
     EXPECT_EQ(model_.state(), ViewModel::Listed);
@@ -151,7 +151,7 @@ TEST_F(FormulaCatalogStateTest, KeepsTheListUntilTheWaitIsFelt) {
 TEST_F(FormulaCatalogStateTest, SearchesANewCatalogWithoutTheRowsOfTheOldOne) {
   load(smallCatalog());
   search(u"wget"_s);
-  const test::HeldThreads held;
+  const test::BackgroundThreadBlocker held;
   load(smallCatalog());
   EXPECT_EQ(model_.state(), ViewModel::Filtering);
   EXPECT_EQ(model_.packages()->rowCount(), 0);

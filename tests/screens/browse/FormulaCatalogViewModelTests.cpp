@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "screens/browse/FormulaCatalogViewModel.h"
-#include "support/HeldThreads.h"
+#include "support/BackgroundThreadBlocker.h"
 #include "support/Printers.h"
 
 using namespace Qt::StringLiterals;
@@ -16,7 +16,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-PackageCatalogSnapshot catalogOf(const QByteArray& formulae, const QByteArray& casks = "[]") {
+PackageCatalogPtr catalogOf(const QByteArray& formulae, const QByteArray& casks = "[]") {
   return decodeCatalog({.formulae = formulae, .casks = casks}).value();
 }
 
@@ -24,7 +24,7 @@ const QByteArray someFormulae = R"([{"name": "curl", "versions": {}},
                                     {"name": "wget", "versions": {}}])";
 const QByteArray someCasks = R"([{"token": "wget-app"}])";
 
-CatalogInputs inputsOf(PackageCatalogSnapshot catalog) {
+CatalogInputs inputsOf(PackageCatalogPtr catalog) {
   CatalogInputs inputs;
   if (catalog) {
     inputs.state.value = PackageCatalogState::Loaded{std::move(catalog)};
@@ -42,9 +42,7 @@ class FormulaCatalogViewModelTest : public testing::Test {
     return model_.filteredResults()->visiblePackages;
   }
 
-  void setCatalog(PackageCatalogSnapshot catalog) {
-    model_.setInputs(inputsOf(std::move(catalog)));
-  }
+  void setCatalog(PackageCatalogPtr catalog) { model_.setInputs(inputsOf(std::move(catalog))); }
 
   FormulaCatalogViewModel model_;
 };
@@ -65,7 +63,7 @@ TEST_F(FormulaCatalogViewModelTest, ShowsAnUnfilteredCatalogAtOnce) {
 TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
   setCatalog(catalogOf(someFormulae, someCasks));
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     model_.search()->setSearchText(u" wget "_s);
     EXPECT_TRUE(model_.isFiltering());
     EXPECT_EQ(model_.filteredResults(),
@@ -80,7 +78,7 @@ TEST_F(FormulaCatalogViewModelTest, ShowsNothingWhileItSearches) {
 TEST_F(FormulaCatalogViewModelTest, NarrowsToOneType) {
   setCatalog(catalogOf(someFormulae, someCasks));
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     model_.search()->setPackageFilter(PackageCatalogFilter::casks);
     EXPECT_TRUE(model_.isFiltering());
   }
@@ -97,7 +95,7 @@ TEST_F(FormulaCatalogViewModelTest, ShowsTheAnswerToTheLastQuestionOnly) {
     EXPECT_EQ(model_.filteredResults()->request.searchQuery, model_.search()->searchText());
   });
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     for (const QString& text : {u"c"_s, u"cu"_s, u"w"_s, u"wge"_s}) {
       model_.search()->setSearchText(text);
     }
@@ -132,7 +130,7 @@ TEST_F(FormulaCatalogViewModelTest, SearchesAgainInANewCatalog) {
 TEST_F(FormulaCatalogViewModelTest, DropsTheAnswerOfACatalogThatIsGone) {
   setCatalog(catalogOf(someFormulae));
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     model_.search()->setSearchText(u"wget"_s);
     setCatalog(nullptr);
   }
@@ -145,7 +143,7 @@ TEST_F(FormulaCatalogViewModelTest, MayGoInTheMiddleOfASearch) {
   auto model = std::make_unique<FormulaCatalogViewModel>();
   model->setInputs(inputsOf(catalogOf(someFormulae)));
   {
-    const test::HeldThreads held;
+    const test::BackgroundThreadBlocker held;
     model->search()->setSearchText(u"wget"_s);
     model.reset();
   }

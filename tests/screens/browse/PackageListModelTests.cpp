@@ -13,7 +13,7 @@ namespace {
 
 using Role = PackageListModel::Role;
 
-PackageCatalogSnapshot someCatalog() {
+PackageCatalogPtr someCatalog() {
   return decodeCatalog({.formulae = R"([{"name": "curl", "desc": "Get a file", "versions":
                                {"stable": "8.17.0"}},
                               {"name": "bare", "versions": {}}])",
@@ -67,7 +67,7 @@ TEST_F(PackageListModelTest, GivesThePackageOfARow) {
 }
 
 TEST_F(PackageListModelTest, StaysAsItIsWhenTheSameIsShownAgain) {
-  const PackageCatalogSnapshot catalog = someCatalog();
+  const PackageCatalogPtr catalog = someCatalog();
   model_.show(catalog, {0, 2});
   const QSignalSpy replaced(&model_, &PackageListModel::replaced);
   model_.show(catalog, {0, 2});
@@ -77,7 +77,7 @@ TEST_F(PackageListModelTest, StaysAsItIsWhenTheSameIsShownAgain) {
 }
 
 TEST_F(PackageListModelTest, ChangesTheRowsInViewInsteadOfMakingThemAnew) {
-  const PackageCatalogSnapshot catalog = someCatalog();
+  const PackageCatalogPtr catalog = someCatalog();
   model_.show(catalog, {0, 1, 2});
   const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
   const QSignalSpy changed(&model_, &QAbstractItemModel::dataChanged);

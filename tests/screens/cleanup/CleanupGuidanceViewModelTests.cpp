@@ -10,8 +10,8 @@
 
 #include "screens/cleanup/CleanupGuidanceViewModel.h"
 #include "screens/shared/DemoInventory.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
+#include "support/TestPrefix.h"
 
 using namespace Qt::StringLiterals;
 
@@ -260,7 +260,7 @@ TEST_F(Cleanup, MayGoWhileTheDiskDoesNotAnswer) {
 }
 
 TEST_F(Cleanup, MeasuresARealFolder) {
-  test::DemoPrefix prefix;
+  test::TestPrefix prefix;
   prefix.withAllLocations().withFile(u"var/homebrew/cache/downloads/a.tar.gz"_s,
                                      QByteArray(250'000, 'x'));
   CleanupGuidanceViewModel screen(&ignorePreview);

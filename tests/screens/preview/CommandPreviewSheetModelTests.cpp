@@ -9,11 +9,11 @@
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "screens/preview/CommandPreviewSheetModel.h"
-#include "support/DemoPrefix.h"
+#include "support/BlockingFileSystem.h"
 #include "support/FakeBrew.h"
-#include "support/HeldFileSystem.h"
 #include "support/Printers.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 namespace quillmere::test {
 namespace {
@@ -54,7 +54,7 @@ class CommandPreview : public testing::Test {
   HomebrewPrefixFileSystemPtr fileSystem = platformFileSystem();
   BrewCommandBuilder builder;
   TemporarySettings settings;
-  DemoPrefix prefix;
+  TestPrefix prefix;
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
   int copies = 0;
   std::unique_ptr<CommandPreviewSheetModel> sheet;
@@ -153,7 +153,7 @@ TEST_F(CommandPreview, CannotRunInAFolderThatIsGone) {
 }
 
 TEST_F(CommandPreview, CannotRunInAFolderWithoutBrew) {
-  const DemoPrefix empty;
+  const TestPrefix empty;
   store.selectPrefix(empty.url());
   auto& model = preview(builder.servicesList());
   model.run();
@@ -234,7 +234,7 @@ TEST_F(CommandPreview, OffersNoRunInABuildThatMayNotExecute) {
 }
 
 TEST_F(CommandPreview, ShowsThatItStartsWhileTheDiskIsSlow) {
-  const auto disk = std::make_shared<HeldFileSystem>();
+  const auto disk = std::make_shared<BlockingFileSystem>();
   fileSystem = disk;
   auto& model = previewInPrefix(builder.servicesList());
   model.run();
@@ -246,7 +246,7 @@ TEST_F(CommandPreview, ShowsThatItStartsWhileTheDiskIsSlow) {
 }
 
 TEST_F(CommandPreview, DropsAStartThatIsCancelled) {
-  const auto disk = std::make_shared<HeldFileSystem>();
+  const auto disk = std::make_shared<BlockingFileSystem>();
   fileSystem = disk;
   auto& model = previewInPrefix(builder.servicesList());
   model.run();

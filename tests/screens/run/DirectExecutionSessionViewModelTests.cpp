@@ -10,8 +10,8 @@
 #include "execution/DirectCommandRunner.h"
 #include "platform/FileUrl.h"
 #include "screens/run/SessionView.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
+#include "support/TestPrefix.h"
 
 namespace quillmere::test {
 namespace {
@@ -196,7 +196,7 @@ TEST_F(SessionView, ShowsALineThatGrows) {
   const auto print = [&](const QByteArray& text) {
     const DirectExecutionOutputChunk chunk{.text = text};
     auto lines = transcript.add({&chunk, 1});
-    log.append(std::move(lines), transcript.openLine());
+    log.append(std::move(lines), transcript.unfinishedLine());
   };
   print("wor");
   EXPECT_EQ(log.text(0, 9), QStringLiteral("wor"));

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "screens/run/SessionView.h"
-#include "support/HeldThreads.h"
+#include "support/BackgroundThreadBlocker.h"
 #include "support/Rounds.h"
 
 namespace quillmere::test {
@@ -97,7 +97,7 @@ TEST_F(HostileOutput, IsShownPieceByPieceHoweverMuchWaits) {
   QSignalSpy settled(model.get(), &DirectExecutionSessionViewModel::outputSettled);
   const QSignalSpy grew(model.get(), &DirectExecutionSessionViewModel::rawOutputGrew);
   {
-    const HeldThreads held;
+    const BackgroundThreadBlocker held;
     controller->start();
     ASSERT_TRUE(QTest::qWaitFor([this] { return controller->result().has_value(); }, patience));
     EXPECT_EQ(grew.count(), 0);
@@ -117,7 +117,7 @@ TEST_F(HostileOutput, ComesDuringALookAndIsFollowedByNothing) {
     return std::ranges::find(chunks, line, &DirectExecutionOutputChunk::text) != chunks.end();
   };
   {
-    const HeldThreads held;
+    const BackgroundThreadBlocker held;
     controller->start();
     ASSERT_TRUE(QTest::qWaitFor([&] { return hasPrinted("one\n"); }, patience));
     QTest::qWait(300);  // a look at it has begun

@@ -9,7 +9,7 @@
 #include "execution/DirectCommandRunner.h"
 #include "platform/FileUrl.h"
 #include "screens/run/DirectExecutionSessionViewModel.h"
-#include "support/DemoPrefix.h"
+#include "support/TestPrefix.h"
 
 namespace quillmere::test {
 
@@ -58,7 +58,7 @@ class SessionView : public testing::Test {
   }
 
   const BrewCommand upgrade = BrewCommandBuilder().upgrade(std::nullopt).value();
-  DemoPrefix prefix;
+  TestPrefix prefix;
   std::unique_ptr<DirectExecutionSessionController> controller;
   std::unique_ptr<DirectExecutionSessionViewModel> model;
 };

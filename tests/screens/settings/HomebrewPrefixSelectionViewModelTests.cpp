@@ -9,9 +9,9 @@
 
 #include "persistence/LocalPersistenceStore.h"
 #include "screens/settings/HomebrewPrefixSelectionViewModel.h"
-#include "support/DemoPrefix.h"
 #include "support/Printers.h"
 #include "support/TemporarySettings.h"
+#include "support/TestPrefix.h"
 
 namespace quillmere {
 namespace {
@@ -42,7 +42,7 @@ class HomebrewPrefixSelection : public testing::Test {
   }
 
   test::TemporarySettings settings;
-  test::DemoPrefix prefix;
+  test::TestPrefix prefix;
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
   HomebrewPrefixSelectionViewModel selection{store};
   QAbstractItemModelTester tester{selection.locations(),
@@ -83,7 +83,7 @@ TEST_F(HomebrewPrefixSelection, CountsNoItemsInAnEmptyCellar) {
 TEST_F(HomebrewPrefixSelection, KeepsThePreviousSelectionWhenAFolderIsRefused) {
   prefix.withBrew("");
   chooseAndWait(prefix.url());
-  const test::DemoPrefix other;
+  const test::TestPrefix other;
   chooseAndWait(other.url());
   EXPECT_EQ(store.selectedHomebrewPrefixPath(), prefix.path());
   EXPECT_EQ(selection.errorMessage(), notAPrefix);

@@ -12,12 +12,12 @@ namespace quillmere {
 
 /// The entries of a folder of this machine, one after another in the order of the disk, without
 /// those whose name begins with a full stop. For one thread; blocks on the disk.
-class VisibleEntries {
+class DirectoryReader {
  public:
-  enum class Links { followed, refused };
+  enum class LinkPolicy { follow, refuse };
 
   /// Opens the folder at `path`; a path that ends in a link is refused where that is asked for.
-  explicit VisibleEntries(const QString& path, Links links = Links::followed);
+  explicit DirectoryReader(const QString& path, LinkPolicy links = LinkPolicy::follow);
 
   /// The next entry, valid until the one after it; null at the end and after an error.
   [[nodiscard]] const dirent* next();

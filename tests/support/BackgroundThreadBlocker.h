@@ -11,9 +11,9 @@ namespace quillmere::test {
 
 /// Keeps all background threads busy for as long as it lives, so that a test sees what holds while
 /// an answer is waited for: without it the answer may be there at once.
-class HeldThreads {
+class BackgroundThreadBlocker {
  public:
-  HeldThreads() : count_(backgroundThreads()->maxThreadCount()) {
+  BackgroundThreadBlocker() : count_(backgroundThreads()->maxThreadCount()) {
     for (int thread = 0; thread < count_; ++thread) {
       // A start that the thread sanitizer can follow.
       backgroundThreads()->start(QRunnable::create([this] {
@@ -23,14 +23,14 @@ class HeldThreads {
     }
   }
 
-  ~HeldThreads() {
+  ~BackgroundThreadBlocker() {
     released_.release(count_);
     for (int thread = 0; thread < count_; ++thread) {
       ended_.acquire();
     }
   }
 
-  Q_DISABLE_COPY_MOVE(HeldThreads)
+  Q_DISABLE_COPY_MOVE(BackgroundThreadBlocker)
 
  private:
   int count_;

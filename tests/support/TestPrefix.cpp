@@ -1,4 +1,4 @@
-#include "support/DemoPrefix.h"
+#include "support/TestPrefix.h"
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
@@ -8,7 +8,7 @@
 
 namespace quillmere::test {
 
-DemoPrefix::DemoPrefix() : folder_(std::in_place), path_(folder_->path()) {
+TestPrefix::TestPrefix() : folder_(std::in_place), path_(folder_->path()) {
   if (!folder_->isValid()) {
     ADD_FAILURE() << "No temporary folder: " << folder_->errorString().toStdString();
   }
@@ -16,26 +16,26 @@ DemoPrefix::DemoPrefix() : folder_(std::in_place), path_(folder_->path()) {
   QFile::setPermissions(path(), QFile::permissions(path()) | QFile::ReadOther | QFile::ExeOther);
 }
 
-DemoPrefix::DemoPrefix(const QString& path) : path_(path) {
+TestPrefix::TestPrefix(const QString& path) : path_(path) {
 }
 
-QString DemoPrefix::pathOf(const QString& relativePath) const {
+QString TestPrefix::pathOf(const QString& relativePath) const {
   return path() + u'/' + relativePath;
 }
 
-DemoPrefix& DemoPrefix::withFolder(const QString& relativePath) {
+TestPrefix& TestPrefix::withFolder(const QString& relativePath) {
   EXPECT_TRUE(QDir().mkpath(pathOf(relativePath)));
   return *this;
 }
 
-DemoPrefix& DemoPrefix::withFile(const QString& relativePath, const QByteArray& content) {
+TestPrefix& TestPrefix::withFile(const QString& relativePath, const QByteArray& content) {
   withFolder(QFileInfo(relativePath).path());
   QFile file(pathOf(relativePath));
   EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(content) == content.size());
   return *this;
 }
 
-DemoPrefix& DemoPrefix::withBrew(const QByteArray& script) {
+TestPrefix& TestPrefix::withBrew(const QByteArray& script) {
   const QString brew = QStringLiteral("bin/brew");
   withFile(brew, script);
   EXPECT_TRUE(QFile::setPermissions(
@@ -44,7 +44,7 @@ DemoPrefix& DemoPrefix::withBrew(const QByteArray& script) {
   return *this;
 }
 
-DemoPrefix& DemoPrefix::withAllLocations() {
+TestPrefix& TestPrefix::withAllLocations() {
   withFile(QStringLiteral("Cellar/wget/1.25.0/INSTALL_RECEIPT.json"),
            R"({"installed_on_request":true})");
   withFile(QStringLiteral("Cellar/openssl@3/3.5.0/INSTALL_RECEIPT.json"),

@@ -1,4 +1,4 @@
-#include "platform/ShownText.h"
+#include "platform/SanitizedText.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,8 +26,8 @@ QChar shownCharacter(QChar character) {
 
 }  // namespace
 
-QString shownText(QString text) {
-  text = shortened(std::move(text), longestText);
+QString sanitizedText(QString text) {
+  text = elidedText(std::move(text), longestText);
   const auto differs = [](QChar character) { return shownCharacter(character) != character; };
   // Looked at first: hardly any text has to be detached from its copies.
   if (std::ranges::any_of(std::as_const(text), differs)) {
@@ -36,11 +36,11 @@ QString shownText(QString text) {
   return text;
 }
 
-QString shownText(const SharedText& text) {
-  return shownText(text.toString());
+QString sanitizedText(const SharedText& text) {
+  return sanitizedText(text.toString());
 }
 
-QString shortened(QString text, qsizetype limit) {
+QString elidedText(QString text, qsizetype limit) {
   if (text.size() > limit) {
     text.truncate(text[limit - 1].isHighSurrogate() ? limit - 1 : limit);
     text += QChar(u'\u2026');

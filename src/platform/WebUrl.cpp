@@ -1,10 +1,10 @@
-#include "platform/WebPage.h"
+#include "platform/WebUrl.h"
 
 #include <QtCore/QString>
 
 namespace quillmere {
 
-bool isWebPage(const QUrl& address) {
+bool isWebUrl(const QUrl& address) {
   const QString scheme = address.scheme();
   const bool isOfTheWeb =
       scheme == QLatin1StringView("https") || scheme == QLatin1StringView("http");

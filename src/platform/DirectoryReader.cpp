@@ -1,4 +1,4 @@
-#include "platform/VisibleEntries.h"
+#include "platform/DirectoryReader.h"
 
 #include <QtCore/QFile>
 
@@ -8,8 +8,8 @@
 
 namespace quillmere {
 
-VisibleEntries::VisibleEntries(const QString& path, Links links) {
-  const int refusal = links == Links::refused ? O_NOFOLLOW : 0;
+DirectoryReader::DirectoryReader(const QString& path, LinkPolicy links) {
+  const int refusal = links == LinkPolicy::refuse ? O_NOFOLLOW : 0;
   const int descriptor = open(QFile::encodeName(path).constData(),
                               O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | refusal);
   folder_.reset(descriptor < 0 ? nullptr : fdopendir(descriptor));
@@ -21,7 +21,7 @@ VisibleEntries::VisibleEntries(const QString& path, Links links) {
   }
 }
 
-const dirent* VisibleEntries::next() {
+const dirent* DirectoryReader::next() {
   while (folder_ && !error_) {
     errno = 0;
     const dirent* const entry = readdir(folder_.get());
@@ -36,7 +36,7 @@ const dirent* VisibleEntries::next() {
   return nullptr;
 }
 
-std::optional<struct stat> VisibleEntries::status(const dirent& entry) const {
+std::optional<struct stat> DirectoryReader::status(const dirent& entry) const {
   struct stat status = {};
   const int folder = dirfd(folder_.get());
   const bool isKnown =

@@ -1,4 +1,4 @@
-#include "support/AnotherProcess.h"
+#include "support/ForkedProcess.h"
 
 #include <array>
 #include <csignal>
@@ -50,7 +50,7 @@ LastToGo lastToGo;
 
 }  // namespace
 
-pid_t inAnotherProcess(const std::function<void()>& body) {
+pid_t runForked(const std::function<void()>& body) {
   const pid_t child = fork();
   if (child == 0) {
     body();
@@ -59,15 +59,15 @@ pid_t inAnotherProcess(const std::function<void()>& body) {
   return child;
 }
 
-pid_t atTheEndOfAnotherProcess(std::function<bool()> body) {
-  return inAnotherProcess([&body] {
+pid_t runForkedAtExit(std::function<bool()> body) {
+  return runForked([&body] {
     lastToGo.body = std::move(body);
     spoilWhatIsFreed();
     std::exit(1);
   });
 }
 
-bool hasEndedWell(pid_t process) {
+bool exitedCleanly(pid_t process) {
   const int status = statusOf(process);
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
@@ -77,7 +77,7 @@ bool wasKilled(pid_t process) {
   return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
 
-void killMyselfAfter(std::chrono::microseconds time) {
+void killSelfAfter(std::chrono::microseconds time) {
   constexpr auto nanoseconds = std::chrono::nanoseconds(std::chrono::seconds(1)).count();
   sigevent event = {};
   event.sigev_notify = SIGEV_SIGNAL;

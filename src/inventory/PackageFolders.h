@@ -39,7 +39,7 @@ void visitPackageFolders(const HomebrewPrefixFileSystem& fileSystem,
                          const std::function<void(PackageFolder&&)>& visit);
 
 /// Ends the program: whoever hands over a catalog has made its names unique.
-[[noreturn]] void stopForDuplicateKey(std::string_view key);
+[[noreturn]] void abortForDuplicateKey(std::string_view key);
 
 /// Finds catalog records by their name or token. Reads the catalog that it was made for.
 template <typename Record>
@@ -51,7 +51,7 @@ class CatalogLookup {
     for (const Record& record : catalog) {
       const std::string_view name = (record.*key).view();
       if (!records_.emplace(name, &record).second) {
-        stopForDuplicateKey(name);
+        abortForDuplicateKey(name);
       }
     }
   }

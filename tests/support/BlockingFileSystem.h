@@ -8,7 +8,7 @@
 namespace quillmere::test {
 
 /// A slow disk: nothing is answered before it is let go.
-class HeldFileSystem : public HomebrewPrefixFileSystem {
+class BlockingFileSystem : public HomebrewPrefixFileSystem {
  public:
   bool fileExists(const QString& path) const override {
     released.acquire();

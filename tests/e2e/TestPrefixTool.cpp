@@ -1,8 +1,8 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 
-#include "support/DemoPrefix.h"
 #include "support/FakeBrew.h"
+#include "support/TestPrefix.h"
 
 // Makes a demo prefix in the folder that is named, for stories that are not told in C++.
 int main(int argc, char** argv) {
@@ -11,7 +11,7 @@ int main(int argc, char** argv) {
   if (arguments.size() != 2 || !QDir().mkpath(arguments[1])) {
     return 2;
   }
-  quillmere::test::DemoPrefix(arguments[1])
+  quillmere::test::TestPrefix(arguments[1])
       .withAllLocations()
       .withBrew(quillmere::test::fakeBrewScript());
 }

@@ -9,12 +9,12 @@
 namespace quillmere::test {
 
 /// A Homebrew prefix for a test to look at and to run.
-class DemoPrefix {
+class TestPrefix {
  public:
   /// An empty folder of its own, gone with this object.
-  DemoPrefix();
+  TestPrefix();
   /// A folder that is there already, and stays.
-  explicit DemoPrefix(const QString& path);
+  explicit TestPrefix(const QString& path);
 
   [[nodiscard]] QString path() const { return path_; }
 
@@ -23,14 +23,14 @@ class DemoPrefix {
   [[nodiscard]] QString pathOf(const QString& relativePath) const;
 
   /// Makes a folder, its parents included.
-  DemoPrefix& withFolder(const QString& relativePath);
+  TestPrefix& withFolder(const QString& relativePath);
   /// Makes a file, its folder included.
-  DemoPrefix& withFile(const QString& relativePath, const QByteArray& content = {});
+  TestPrefix& withFile(const QString& relativePath, const QByteArray& content = {});
   /// Makes an executable `bin/brew` out of a script; a first line that names the interpreter
   /// belongs to it.
-  DemoPrefix& withBrew(const QByteArray& script);
+  TestPrefix& withBrew(const QByteArray& script);
   /// Makes all seven well-known locations, each with a few believable entries.
-  DemoPrefix& withAllLocations();
+  TestPrefix& withAllLocations();
 
  private:
   std::optional<QTemporaryDir> folder_;

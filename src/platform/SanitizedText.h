@@ -12,11 +12,11 @@ namespace quillmere {
 /// become U+FFFD; letters that are written from right to left stay as they are. What is longer than
 /// anybody reads ends in "…", because laying it out would keep the window from answering. Pure; any
 /// thread.
-[[nodiscard]] QString shownText(QString text);
-[[nodiscard]] QString shownText(const SharedText& text);
+[[nodiscard]] QString sanitizedText(QString text);
+[[nodiscard]] QString sanitizedText(const SharedText& text);
 
 /// `text` whole when it has at most `limit` UTF-16 units, else as many of them as make whole
 /// characters, followed by "…". Pure; any thread.
-[[nodiscard]] QString shortened(QString text, qsizetype limit);
+[[nodiscard]] QString elidedText(QString text, qsizetype limit);
 
 }  // namespace quillmere

@@ -8,9 +8,9 @@ namespace quillmere::test {
 
 /// Listens on this machine and counts who comes: nobody knows its address but from a text that is
 /// to be shown and not followed. Lives on the thread that made it, whose event loop it needs.
-class BaitServer {
+class HoneypotServer {
  public:
-  BaitServer() {
+  HoneypotServer() {
     server_.listen(QHostAddress::LocalHost);
     QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] {
       ++visits_;
@@ -18,8 +18,8 @@ class BaitServer {
     });
   }
 
-  Q_DISABLE_COPY_MOVE(BaitServer)
-  ~BaitServer() = default;
+  Q_DISABLE_COPY_MOVE(HoneypotServer)
+  ~HoneypotServer() = default;
 
   [[nodiscard]] QUrl url() const {
     return QUrl(QStringLiteral("http://127.0.0.1:%1/x").arg(server_.serverPort()));

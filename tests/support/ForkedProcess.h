@@ -7,18 +7,18 @@
 namespace quillmere::test {
 
 /// Runs `body` in a copy of this process, which then ends without a word.
-[[nodiscard]] pid_t inAnotherProcess(const std::function<void()>& body);
+[[nodiscard]] pid_t runForked(const std::function<void()>& body);
 
 /// Lets a copy of this process end as a program does, and runs `body` when all that a function has
 /// made `static` is destroyed: what a thread that nobody joins may still do. Ends well where `body`
 /// returns true.
-[[nodiscard]] pid_t atTheEndOfAnotherProcess(std::function<bool()> body);
+[[nodiscard]] pid_t runForkedAtExit(std::function<bool()> body);
 
 /// Wait for its end.
-[[nodiscard]] bool hasEndedWell(pid_t process);
+[[nodiscard]] bool exitedCleanly(pid_t process);
 [[nodiscard]] bool wasKilled(pid_t process);
 
 /// Ends the calling process as `kill -9` does, whatever it is doing by then.
-void killMyselfAfter(std::chrono::microseconds time);
+void killSelfAfter(std::chrono::microseconds time);
 
 }  // namespace quillmere::test

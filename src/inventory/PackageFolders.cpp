@@ -1,4 +1,4 @@
-#include "inventory/InventoryFolders.h"
+#include "inventory/PackageFolders.h"
 
 #include <QtCore/QtGlobal>
 
@@ -20,7 +20,7 @@ QStringList versionsIn(const HomebrewPrefixFileSystem& fileSystem, const QUrl& f
   QStringList versions = childNames(fileSystem, folder);
   // Most packages have one version, which is in order.
   if (versions.size() > 1) {
-    NameOrdering::ofUser().stableSort(versions, [](const QString& name) { return name; });
+    NameOrdering::forUserLocale().stableSort(versions, [](const QString& name) { return name; });
   }
   return versions;
 }
@@ -53,7 +53,7 @@ void visitPackageFolders(const HomebrewPrefixFileSystem& fileSystem,
   }
 }
 
-void stopForDuplicateKey(std::string_view key) {
+void abortForDuplicateKey(std::string_view key) {
   qFatal("Duplicate values for key: '%.*s'", static_cast<int>(key.size()), key.data());
 }
 

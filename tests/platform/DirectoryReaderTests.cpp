@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/VisibleEntries.h"
+#include "platform/DirectoryReader.h"
 
 namespace quillmere {
 namespace {
@@ -29,7 +29,7 @@ class VisibleEntriesOf : public testing::Test {
   QTemporaryDir folder_;
 };
 
-QStringList namesOf(VisibleEntries& entries) {
+QStringList namesOf(DirectoryReader& entries) {
   QStringList names;
   while (const dirent* const entry = entries.next()) {
     names += QFile::decodeName(entry->d_name);
@@ -39,30 +39,30 @@ QStringList namesOf(VisibleEntries& entries) {
 }
 
 TEST_F(VisibleEntriesOf, AFolderLeaveOutTheHiddenOnes) {
-  VisibleEntries entries(folder_.path());
+  DirectoryReader entries(folder_.path());
   EXPECT_EQ(namesOf(entries), (QStringList{u"file"_s, u"folder"_s}));
   EXPECT_FALSE(entries.error());
   EXPECT_EQ(entries.next(), nullptr);
 }
 
 TEST_F(VisibleEntriesOf, AnEmptyFolderAreNone) {
-  VisibleEntries entries(pathOf(u"folder"_s));
+  DirectoryReader entries(pathOf(u"folder"_s));
   EXPECT_EQ(entries.next(), nullptr);
   EXPECT_FALSE(entries.error());
 }
 
 TEST_F(VisibleEntriesOf, AFileOrOfNothingAreAnError) {
-  VisibleEntries ofFile(pathOf(u"file"_s));
+  DirectoryReader ofFile(pathOf(u"file"_s));
   EXPECT_EQ(ofFile.next(), nullptr);
   EXPECT_EQ(ofFile.error(), std::errc::not_a_directory);
-  VisibleEntries ofNothing(pathOf(u"nothing"_s));
+  DirectoryReader ofNothing(pathOf(u"nothing"_s));
   EXPECT_EQ(ofNothing.next(), nullptr);
   EXPECT_EQ(ofNothing.error(), std::errc::no_such_file_or_directory);
 }
 
 TEST_F(VisibleEntriesOf, AFolderAreWhatTheyAreAndNotWhatTheyLeadTo) {
   ASSERT_TRUE(QFile::link(u"."_s, pathOf(u"link"_s)));
-  VisibleEntries entries(folder_.path());
+  DirectoryReader entries(folder_.path());
   int seen = 0;
   while (const dirent* const entry = entries.next()) {
     const auto status = entries.status(*entry);
@@ -77,7 +77,7 @@ TEST_F(VisibleEntriesOf, AFolderAreWhatTheyAreAndNotWhatTheyLeadTo) {
 }
 
 TEST_F(VisibleEntriesOf, AFolderThatVanishedAreUnknown) {
-  VisibleEntries entries(folder_.path());
+  DirectoryReader entries(folder_.path());
   const dirent* const entry = entries.next();
   ASSERT_NE(entry, nullptr);
   ASSERT_TRUE(folder_.remove());
@@ -86,9 +86,9 @@ TEST_F(VisibleEntriesOf, AFolderThatVanishedAreUnknown) {
 
 TEST_F(VisibleEntriesOf, ALinkAreThoseOfItsFolderUnlessLinksAreRefused) {
   ASSERT_TRUE(QFile::link(folder_.path(), pathOf(u"folder/link"_s)));
-  VisibleEntries followed(pathOf(u"folder/link"_s));
+  DirectoryReader followed(pathOf(u"folder/link"_s));
   EXPECT_EQ(namesOf(followed), (QStringList{u"file"_s, u"folder"_s}));
-  VisibleEntries refused(pathOf(u"folder/link"_s), VisibleEntries::Links::refused);
+  DirectoryReader refused(pathOf(u"folder/link"_s), DirectoryReader::LinkPolicy::refuse);
   EXPECT_EQ(refused.next(), nullptr);
   EXPECT_TRUE(refused.error());
 }
