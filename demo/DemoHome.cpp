@@ -16,14 +16,14 @@ namespace quillmere::demo {
 namespace {
 
 /// Through the program's own store, so that it finds what it would have left itself.
-void writeSettings(const DemoHome& home, Visitor visitor) {
+void writeSettings(const DemoHome& home, DemoUser visitor) {
   LocalPersistenceStore store(
       std::make_unique<QSettings>(home.settingsFile(), QSettings::NativeFormat),
       fileUrl(home.catalogFolder()));
   const QDateTime now = QDateTime::currentDateTimeUtc();
-  store.setHasCompletedOnboarding(visitor == Visitor::regular);
+  store.setHasCompletedOnboarding(visitor == DemoUser::regular);
   store.setCatalogLastRefreshDate(now.addDays(-2));
-  if (visitor == Visitor::regular) {
+  if (visitor == DemoUser::regular) {
     store.selectPrefix(fileUrl(home.prefix()));
     store.setLocalInventoryLastScanDate(now.addSecs(-1500));
     store.setCommandHistory(historyUntil(now));
@@ -32,7 +32,7 @@ void writeSettings(const DemoHome& home, Visitor visitor) {
 
 }  // namespace
 
-std::expected<void, QString> DemoHome::write(Visitor visitor) const {
+std::expected<void, QString> DemoHome::write(DemoUser visitor) const {
   if (QDir(folder).exists() && !QDir(folder).isEmpty(QDir::AllEntries | QDir::Hidden |
                                                      QDir::System | QDir::NoDotAndDotDot)) {
     return std::unexpected(folder + QStringLiteral(": the folder is not empty"));

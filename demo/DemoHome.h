@@ -7,7 +7,7 @@
 namespace quillmere::demo {
 
 /// Whom a demo home belongs to.
-enum class Visitor {
+enum class DemoUser {
   /// Has never started the program: no prefix is selected and there is no history.
   newcomer,
   /// Has used it for a while: the prefix is selected and there is a history of all kinds.
@@ -37,7 +37,7 @@ struct DemoHome {
   /// that works, the program's settings, and the catalog's documents as they were downloaded two
   /// days ago. The folder must be empty or not there yet. Fails with a text for people to read.
   /// Blocks on the disk.
-  [[nodiscard]] std::expected<void, QString> write(Visitor visitor) const;
+  [[nodiscard]] std::expected<void, QString> write(DemoUser visitor) const;
 };
 
 }  // namespace quillmere::demo

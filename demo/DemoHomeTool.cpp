@@ -17,7 +17,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   const DemoHome home{QDir(arguments.constFirst()).absolutePath()};
-  if (const auto written = home.write(isUsed ? Visitor::regular : Visitor::newcomer); !written) {
+  if (const auto written = home.write(isUsed ? DemoUser::regular : DemoUser::newcomer); !written) {
     QTextStream(stderr) << "demo_home: " << written.error() << '\n';
     return EXIT_FAILURE;
   }

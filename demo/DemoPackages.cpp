@@ -173,7 +173,7 @@ LocalInventoryInputs demoInventory(const QString& scene, const QUrl& prefix) {
   inputs.state = stateOf(scene);
   if (scene == "scanning"_L1) {
     inputs.scannedPackages = 130;
-    inputs.knownPackages = 412;
+    inputs.totalPackages = 412;
   }
   if (scene != "idle"_L1 && scene != "access"_L1) {
     inputs.selectedPrefixPath = prefix.toLocalFile();

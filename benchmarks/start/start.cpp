@@ -29,7 +29,7 @@ const QString quillmereProgram = QStringLiteral(QUILLMERE_PROGRAM);
 /// there is a history.
 class Home {
  public:
-  Home() { (void)home_.write(demo::Visitor::regular); }
+  Home() { (void)home_.write(demo::DemoUser::regular); }
 
   [[nodiscard]] const QString& path() const { return home_.folder; }
 

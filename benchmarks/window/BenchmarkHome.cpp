@@ -42,7 +42,7 @@ QString BenchmarkHome::caskFile() const {
   return settings_.cacheDirectoryURL().toLocalFile() + QStringLiteral("/cask.json");
 }
 
-AppSurroundings BenchmarkHome::surroundings() const {
+AppEnvironment BenchmarkHome::surroundings() const {
   return {.settings = [this] { return settings_.open(); },
           .cacheDirectoryURL = settings_.cacheDirectoryURL()};
 }

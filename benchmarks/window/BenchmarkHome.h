@@ -20,7 +20,7 @@ class BenchmarkHome {
   [[nodiscard]] QString formulaFile() const;
   [[nodiscard]] QString caskFile() const;
 
-  [[nodiscard]] AppSurroundings surroundings() const;
+  [[nodiscard]] AppEnvironment surroundings() const;
 
  private:
   test::TemporarySettings settings_;

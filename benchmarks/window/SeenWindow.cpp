@@ -35,7 +35,7 @@ QQuickItem* findBelow(QQuickItem& item, QByteArrayView type) {
 
 }  // namespace
 
-SeenWindow::SeenWindow(AppSurroundings surroundings) : app_(std::move(surroundings)) {
+SeenWindow::SeenWindow(AppEnvironment surroundings) : app_(std::move(surroundings)) {
   if (!app_.open()) {
     qFatal("the window does not open");
   }

@@ -15,7 +15,7 @@ namespace quillmere {
 class SeenWindow {
  public:
   /// Opens the window and waits until it rests.
-  explicit SeenWindow(AppSurroundings surroundings);
+  explicit SeenWindow(AppEnvironment surroundings);
   Q_DISABLE_COPY_MOVE(SeenWindow)
 
   [[nodiscard]] ContentViewModel& content() { return app_.content(); }

@@ -243,7 +243,7 @@ void fetchToList(benchmark::State& state) {
   double longest = 0;
   for (auto _ : state) {
     const BenchmarkHome home;
-    AppSurroundings surroundings = home.surroundings();
+    AppEnvironment surroundings = home.surroundings();
     surroundings.formulaeURL = served.formulae();
     surroundings.casksURL = served.casks();
     SeenWindow window(std::move(surroundings));

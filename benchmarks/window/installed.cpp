@@ -22,7 +22,7 @@ void scanToList(benchmark::State& state) {
     const InstalledPackagesViewModel& installed = *window.content().installed();
     LongestGap gap;
     state.SetIterationTime(window.secondsUntilSeen(
-        state, "the list", [&] { Q_EMIT window.content().installed()->scanWanted(); },
+        state, "the list", [&] { Q_EMIT window.content().installed()->scanRequested(); },
         [&] { return installed.state() == InstalledPackagesViewModel::Listed; }));
     longest = std::max(longest, gap.milliseconds());
   }

@@ -2,8 +2,8 @@
 #include <memory>
 
 #include "commands/BrewCommandBuilder.h"
-#include "demo/DemoCatalog.h"
 #include "demo/DemoPackages.h"
+#include "demo/SampleCatalog.h"
 #include "demo/tour/Chapters.h"
 #include "demo/tour/Stage.h"
 
@@ -34,95 +34,95 @@ QByteArray talkativeBrew() {
          "exit 1\n";
 }
 
-void tellSections(Stage& stage, QLatin1StringView size) {
+void captureSections(Stage& stage, QLatin1StringView size) {
   for (const AppSection section : allAppSections) {
     stage.show(section);
-    stage.picture(size + u'-' + rawValue(section).toString());
+    stage.takePicture(size + u'-' + rawValue(section).toString());
   }
 }
 
-void tellCatalog(Stage& stage, QLatin1StringView size) {
+void captureCatalog(Stage& stage, QLatin1StringView size) {
   stage.show(AppSection::browse);
   stage.content().browse()->setInputs(
-      loadedCatalog({.formulae = demoFormulaDocument(), .casks = demoCaskDocument()}));
+      loadedCatalog({.formulae = sampleFormulaDocument(), .casks = sampleCaskDocument()}));
   stage.waitFor(u"browse-awkward"_s, [&] { return !stage.content().browse()->isFiltering(); });
-  stage.picture(size + "-browse-awkward"_L1);
+  stage.takePicture(size + "-browse-awkward"_L1);
 }
 
-void tellInventory(Stage& stage, QLatin1StringView size) {
+void captureInventory(Stage& stage, QLatin1StringView size) {
   for (const QLatin1StringView scene : inventoryScenes) {
     const LocalInventoryInputs inputs = demoInventory(scene, stage.prefix());
     stage.content().installed()->setInputs(inputs);
     stage.content().updates()->setInputs(inputs);
     stage.content().cleanup()->setInputs(inputs);
     stage.show(AppSection::installed);
-    stage.picture(size + "-installed-"_L1 + scene);
+    stage.takePicture(size + "-installed-"_L1 + scene);
     stage.show(AppSection::updates);
-    stage.picture(size + "-updates-"_L1 + scene);
+    stage.takePicture(size + "-updates-"_L1 + scene);
     stage.show(AppSection::cleanup);
-    stage.picture(size + "-cleanup-"_L1 + scene);
+    stage.takePicture(size + "-cleanup-"_L1 + scene);
   }
 }
 
-void tellPackages(Stage& stage, QLatin1StringView size) {
+void capturePackages(Stage& stage, QLatin1StringView size) {
   stage.show(AppSection::installed);
   for (const QLatin1StringView scene : packageScenes) {
     stage.content().details()->push(std::make_unique<PackageDetailViewModel>(
         demoPackage(scene), [](const BrewCommand& /*command*/, const QString& /*screen*/) {}));
-    stage.picture(size + "-package-"_L1 + scene);
+    stage.takePicture(size + "-package-"_L1 + scene);
     stage.scrollToEnd();
-    stage.picture(size + "-package-"_L1 + scene + "-end"_L1);
+    stage.takePicture(size + "-package-"_L1 + scene + "-end"_L1);
     stage.content().details()->back();
   }
 }
 
-void tellLongRun(Stage& stage, QLatin1StringView size) {
+void captureLongRun(Stage& stage, QLatin1StringView size) {
   stage.setBrew(talkativeBrew());
   stage.show(AppSection::browse);
   const BrewCommandTarget target{BrewCommandTargetKind::formula, QString(120, u'w')};
   stage.openPreview(BrewCommandBuilder().install(target).value(), u"Browse"_s);
-  stage.picture(size + "-preview-long"_L1);
+  stage.takePicture(size + "-preview-long"_L1);
   stage.content().commands()->preview()->run();
-  stage.picture(size + "-confirmation-long"_L1);
+  stage.takePicture(size + "-confirmation-long"_L1);
   stage.content().commands()->preview()->confirmRun();
   stage.waitForEndOfRun(u"run-long"_s);
-  stage.picture(size + "-run-long"_L1);
+  stage.takePicture(size + "-run-long"_L1);
   stage.content().commands()->session()->setShowsRawOutput(true);
-  stage.picture(size + "-run-long-output"_L1);
+  stage.takePicture(size + "-run-long-output"_L1);
   stage.content().commands()->preview()->close();
   stage.show(AppSection::history);
-  stage.picture(size + "-history-long"_L1);
+  stage.takePicture(size + "-history-long"_L1);
 }
 
 }  // namespace
 
-void tellAwkward(Album& album) {
+void captureAwkward(Album& album) {
   for (const auto& [name, size] : sizes) {
-    Stage stage(album, Visitor::regular, size);
+    Stage stage(album, DemoUser::regular, size);
     stage.loadCatalog(name.toString());
     stage.scan(name.toString());
-    tellSections(stage, name);
-    tellCatalog(stage, name);
-    tellInventory(stage, name);
-    tellPackages(stage, name);
-    tellLongRun(stage, name);
+    captureSections(stage, name);
+    captureCatalog(stage, name);
+    captureInventory(stage, name);
+    capturePackages(stage, name);
+    captureLongRun(stage, name);
   }
-  Stage stage(album, Visitor::newcomer, sizes.front().size);
-  stage.picture(sizes.front().name + "-first-start"_L1);
+  Stage stage(album, DemoUser::newcomer, sizes.front().size);
+  stage.takePicture(sizes.front().name + "-first-start"_L1);
 }
 
-void tellScaled(Album& album) {
-  Stage stage(album, Visitor::regular, sizes.front().size);
+void captureScaled(Album& album) {
+  Stage stage(album, DemoUser::regular, sizes.front().size);
   stage.loadCatalog(u"scaled"_s);
   stage.scan(u"scaled"_s);
-  tellSections(stage, "scaled"_L1);
-  tellCatalog(stage, "scaled"_L1);
+  captureSections(stage, "scaled"_L1);
+  captureCatalog(stage, "scaled"_L1);
   stage.show(AppSection::services);
   stage.openPreview(BrewCommandBuilder().servicesList(), u"Services"_s);
-  stage.picture(u"scaled-preview"_s);
+  stage.takePicture(u"scaled-preview"_s);
   stage.run(u"scaled-run"_s);
   stage.waitForEndOfRun(u"scaled-run"_s);
-  stage.picture(u"scaled-run"_s);
+  stage.takePicture(u"scaled-run"_s);
 }
 
 }  // namespace quillmere::demo

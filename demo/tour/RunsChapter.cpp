@@ -16,11 +16,11 @@ BrewCommandTarget formula(const QString& name) {
   return {BrewCommandTargetKind::formula, name};
 }
 
-void tellPreviews(Stage& stage) {
+void capturePreviews(Stage& stage) {
   const auto tell = [&stage](const BrewCommand& command, const QString& screen,
                              const QString& picture) {
     stage.openPreview(command, screen);
-    stage.picture(picture);
+    stage.takePicture(picture);
     stage.content().commands()->preview()->close();
   };
   stage.show(AppSection::services);
@@ -29,18 +29,18 @@ void tellPreviews(Stage& stage) {
   tell(builder.uninstall(formula(u"yq"_s)).value(), u"Installed"_s, u"preview-uninstall"_s);
   stage.show(AppSection::browse);
   stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
-  stage.picture(u"preview-install"_s);
+  stage.takePicture(u"preview-install"_s);
   stage.content().commands()->preview()->copy();
-  stage.picture(u"preview-copied"_s);
+  stage.takePicture(u"preview-copied"_s);
   stage.content().commands()->preview()->run();
-  stage.picture(u"confirmation"_s);
+  stage.takePicture(u"confirmation"_s);
   stage.content().commands()->preview()->cancelConfirmation();
   stage.content().commands()->preview()->close();
   stage.show(AppSection::updates);
   stage.openPreview(builder.update(), u"Updates"_s);
-  stage.picture(u"preview-update"_s);
+  stage.takePicture(u"preview-update"_s);
   stage.content().commands()->preview()->run();
-  stage.picture(u"confirmation-stronger"_s);
+  stage.takePicture(u"confirmation-stronger"_s);
   stage.content().commands()->preview()->cancelConfirmation();
   stage.content().commands()->preview()->close();
 }
@@ -54,23 +54,23 @@ bool showStartupDiagnostics(QQuickItem* from) {
 }
 
 /// The moment before `brew` is found, which is over before one sees it.
-void tellStart(Stage& stage) {
+void captureStart(Stage& stage) {
   stage.holdDisk();
   stage.openPreview(builder.servicesList(), u"Services"_s);
   stage.content().commands()->preview()->run();
-  stage.picture(u"run-starting"_s);
+  stage.takePicture(u"run-starting"_s);
   showStartupDiagnostics(stage.window()->contentItem());
-  stage.picture(u"run-starting-diagnostics"_s);
+  stage.takePicture(u"run-starting-diagnostics"_s);
   stage.content().commands()->preview()->close();
   stage.releaseDisk();
 }
 
 /// The end of a run that is going on, its summary and its output.
-void tellEnd(Stage& stage, const QString& picture) {
+void captureEnd(Stage& stage, const QString& picture) {
   stage.waitForEndOfRun(picture);
-  stage.picture(picture);
+  stage.takePicture(picture);
   stage.content().commands()->session()->setShowsRawOutput(true);
-  stage.picture(picture + u"-output"_s);
+  stage.takePicture(picture + u"-output"_s);
   stage.content().commands()->preview()->close();
 }
 
@@ -83,34 +83,34 @@ void waitForOutput(Stage& stage, const QString& text, const QString& nextPicture
   });
 }
 
-void tellUpgrade(Stage& stage) {
+void captureUpgrade(Stage& stage) {
   stage.show(AppSection::updates);
   stage.openPreview(builder.upgrade(formula(u"jq"_s)).value(), u"Updates"_s);
   stage.run(u"run"_s);
   waitForOutput(stage, u"Pouring"_s, u"run"_s);
-  stage.picture(u"run"_s);
+  stage.takePicture(u"run"_s);
   stage.content().commands()->session()->setShowsRawOutput(true);
-  stage.picture(u"run-output"_s);
+  stage.takePicture(u"run-output"_s);
   stage.content().commands()->session()->setShowsRawOutput(false);
-  tellEnd(stage, u"run-finished"_s);
+  captureEnd(stage, u"run-finished"_s);
   stage.scan(u"updates-after-upgrade"_s);
-  stage.picture(u"updates-after-upgrade"_s);
+  stage.takePicture(u"updates-after-upgrade"_s);
 }
 
-void tellQuestions(Stage& stage) {
+void captureQuestions(Stage& stage) {
   stage.show(AppSection::services);
   stage.openPreview(builder.servicesList(), u"Services"_s);
   stage.run(u"services-finished"_s);
-  tellEnd(stage, u"services-finished"_s);
+  captureEnd(stage, u"services-finished"_s);
   stage.openPreview(builder.dependencies(u"curl"_s).value(), u"Browse"_s);
   stage.run(u"dependencies-finished"_s);
-  tellEnd(stage, u"dependencies-finished"_s);
+  captureEnd(stage, u"dependencies-finished"_s);
   stage.openPreview(builder.info(formula(u"jq"_s)).value(), u"Browse"_s);
   stage.run(u"information-finished"_s);
-  tellEnd(stage, u"information-finished"_s);
+  captureEnd(stage, u"information-finished"_s);
   stage.openPreview(builder.upgrade(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
   stage.run(u"run-failed"_s);
-  tellEnd(stage, u"run-failed"_s);
+  captureEnd(stage, u"run-failed"_s);
 }
 
 /// A brew that does not end when it is asked to, but when a file "release" appears in its prefix.
@@ -119,83 +119,83 @@ QByteArray stubbornBrew() {
          "while [ -e bin/brew ] && [ ! -e var/release ]; do sleep 0.05; done\n";
 }
 
-void tellCancellation(Stage& stage) {
+void captureCancellation(Stage& stage) {
   stage.show(AppSection::browse);
   stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
   stage.run(u"run-cancelled"_s);
   waitForOutput(stage, u"Bottle"_s, u"run-cancelled"_s);
   stage.window()->close();
-  stage.picture(u"quit-while-running"_s);
-  stage.content().quitGuard()->stay();
+  stage.takePicture(u"quit-while-running"_s);
+  stage.content().quitGuard()->cancelQuit();
   stage.content().commands()->session()->cancel();
-  tellEnd(stage, u"run-cancelled"_s);
+  captureEnd(stage, u"run-cancelled"_s);
   stage.setBrew(stubbornBrew());
   stage.openPreview(builder.install(formula(u"ffmpeg"_s)).value(), u"Browse"_s);
   stage.run(u"run-cancelling"_s);
   waitForOutput(stage, u"Fetching"_s, u"run-cancelling"_s);
   stage.window()->close();
-  stage.content().quitGuard()->quit();
-  stage.picture(u"run-cancelling"_s);
+  stage.content().quitGuard()->confirmQuit();
+  stage.takePicture(u"run-cancelling"_s);
   stage.window()->close();
-  stage.picture(u"quit-without-waiting"_s);
-  stage.content().quitGuard()->stay();
+  stage.takePicture(u"quit-without-waiting"_s);
+  stage.content().quitGuard()->cancelQuit();
   stage.addFile(u"var/release"_s);
   stage.waitForEndOfRun(u"run-refused"_s);
   stage.content().commands()->preview()->close();
 }
 
-void tellCleanup(Stage& stage) {
+void captureCleanup(Stage& stage) {
   stage.show(AppSection::cleanup);
   stage.content().cleanup()->previewCleanup();
   stage.run(u"cleanup-finished"_s);
-  tellEnd(stage, u"cleanup-finished"_s);
+  captureEnd(stage, u"cleanup-finished"_s);
   stage.scan(u"cleanup-after-cleanup"_s);
   stage.show(AppSection::cleanup);
   stage.waitFor(u"cleanup-after-cleanup"_s,
                 [&] { return !stage.content().cleanup()->isMeasuringCache(); });
-  stage.picture(u"cleanup-after-cleanup"_s);
+  stage.takePicture(u"cleanup-after-cleanup"_s);
 }
 
-void tellHistory(Stage& stage) {
+void captureHistory(Stage& stage) {
   CommandHistoryViewModel& history = *stage.content().history();
   stage.show(AppSection::history);
-  stage.picture(u"history"_s);
+  stage.takePicture(u"history"_s);
   history.setSearchText(u"upgrade"_s);
-  stage.picture(u"history-search"_s);
+  stage.takePicture(u"history-search"_s);
   history.setSearchText(u"nothing like it"_s);
-  stage.picture(u"history-no-match"_s);
+  stage.takePicture(u"history-no-match"_s);
   history.clearSearch();
   history.askClear();
-  stage.picture(u"history-clear"_s);
+  stage.takePicture(u"history-clear"_s);
   history.cancelClear();
 }
 
-void tellRefusal(Stage& stage) {
+void captureRefusal(Stage& stage) {
   stage.store().resetPrefix();
   stage.show(AppSection::services);
   stage.openPreview(builder.servicesList(), u"Services"_s);
   stage.content().commands()->preview()->run();
   stage.waitFor(u"run-refused"_s,
                 [&] { return stage.content().commands()->preview()->errorPending(); });
-  stage.picture(u"run-refused"_s);
+  stage.takePicture(u"run-refused"_s);
   stage.content().commands()->preview()->dismissError();
   stage.content().commands()->preview()->close();
 }
 
 }  // namespace
 
-void tellRuns(Album& album) {
-  Stage stage(album, Visitor::regular, usualSize);
+void captureRuns(Album& album) {
+  Stage stage(album, DemoUser::regular, usualSize);
   stage.loadCatalog(u"preview"_s);
   stage.scan(u"preview"_s);
-  tellPreviews(stage);
-  tellStart(stage);
-  tellUpgrade(stage);
-  tellQuestions(stage);
-  tellCleanup(stage);
-  tellHistory(stage);
-  tellCancellation(stage);
-  tellRefusal(stage);
+  capturePreviews(stage);
+  captureStart(stage);
+  captureUpgrade(stage);
+  captureQuestions(stage);
+  captureCleanup(stage);
+  captureHistory(stage);
+  captureCancellation(stage);
+  captureRefusal(stage);
 }
 
 }  // namespace quillmere::demo

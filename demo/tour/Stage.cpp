@@ -63,7 +63,7 @@ QQuickItem* longestPage(QQuickItem* from) {
 
 }  // namespace
 
-Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
+Stage::Stage(Album& album, DemoUser visitor, QSize size) : album_(album) {
   home_.folder = folder_.path();
   if (const auto written = home_.write(visitor); !written) {
     throw TourError(written.error());
@@ -72,14 +72,14 @@ Stage::Stage(Album& album, Visitor visitor, QSize size) : album_(album) {
   qputenv("HOME", QFile::encodeName(home_.folder));
   disk_->released.release();
   app_ = std::make_unique<QuillmereApp>(
-      AppSurroundings{.settings =
-                          [file = home_.settingsFile()] {
-                            return std::make_unique<QSettings>(file, QSettings::NativeFormat);
-                          },
-                      .cacheDirectoryURL = fileUrl(home_.catalogFolder()),
-                      .formulaeURL = nowhere(),
-                      .casksURL = nowhere(),
-                      .resolver = BrewExecutableResolver(disk_)});
+      AppEnvironment{.settings =
+                         [file = home_.settingsFile()] {
+                           return std::make_unique<QSettings>(file, QSettings::NativeFormat);
+                         },
+                     .cacheDirectoryURL = fileUrl(home_.catalogFolder()),
+                     .formulaeURL = nowhere(),
+                     .casksURL = nowhere(),
+                     .resolver = BrewExecutableResolver(disk_)});
   if (!app_->open()) {
     throw TourError(u"The window does not open"_s);
   }
@@ -108,11 +108,11 @@ void Stage::putCatalogAside(bool aside) const {
   }
 }
 
-void Stage::picture(const QString& name) {
+void Stage::takePicture(const QString& name) {
   album_.take(*window(), name);
 }
 
-void Stage::picture(QQuickWindow& window, const QString& name) {
+void Stage::takePicture(QQuickWindow& window, const QString& name) {
   album_.take(window, name);
 }
 
@@ -164,7 +164,7 @@ void Stage::loadCatalog(const QString& nextPicture) {
 }
 
 void Stage::scan(const QString& nextPicture) {
-  content().installed()->scanWanted();
+  content().installed()->scanRequested();
   waitFor(nextPicture, [this] {
     return content().inventory().state().packages() != nullptr &&
            !content().inventory().scanProgress();

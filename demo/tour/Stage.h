@@ -15,7 +15,7 @@ namespace quillmere::demo {
 /// The real window over a demo home of its own, without a network, and the hands that use it.
 class Stage {
  public:
-  Stage(Album& album, Visitor visitor, QSize size);
+  Stage(Album& album, DemoUser visitor, QSize size);
   ~Stage();
   Q_DISABLE_COPY_MOVE(Stage)
 
@@ -35,8 +35,8 @@ class Stage {
   /// An empty file in the home's prefix.
   void addFile(const QString& relativePath) const;
 
-  void picture(const QString& name);
-  void picture(QQuickWindow& window, const QString& name);
+  void takePicture(const QString& name);
+  void takePicture(QQuickWindow& window, const QString& name);
 
   /// Takes the catalog's cached documents away, or puts them back.
   void putCatalogAside(bool aside) const;

@@ -22,10 +22,11 @@ struct Chapter {
   int place = 0;
 };
 
-constexpr std::array chapters = {
-    Chapter{"screens"_L1, &demo::tellScreens, 1}, Chapter{"runs"_L1, &demo::tellRuns, 101},
-    Chapter{"awkward"_L1, &demo::tellAwkward, 201}, Chapter{"scaled"_L1, &demo::tellScaled, 401},
-    Chapter{"beginning"_L1, &demo::tellBeginning, 901}};
+constexpr std::array chapters = {Chapter{"screens"_L1, &demo::captureScreens, 1},
+                                 Chapter{"runs"_L1, &demo::captureRuns, 101},
+                                 Chapter{"awkward"_L1, &demo::captureAwkward, 201},
+                                 Chapter{"scaled"_L1, &demo::captureScaled, 401},
+                                 Chapter{"beginning"_L1, &demo::captureBeginning, 901}};
 
 const Chapter* chapterOf(const QString& name) {
   const auto* const found = std::ranges::find(chapters, name, &Chapter::name);

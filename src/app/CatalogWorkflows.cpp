@@ -59,7 +59,7 @@ CatalogWorkflows::Progress sumOf(const std::vector<CatalogWorkflows::Progress>& 
 }
 
 /// How far a document has come that has not begun: it will be as large as last time's.
-CatalogWorkflows::Progress notBegun(const QUrl& cacheFile) {
+CatalogWorkflows::Progress initialProgress(const QUrl& cacheFile) {
   const qint64 size = QFileInfo(filePath(cacheFile)).size();
   return {.receivedBytes = 0, .expectedBytes = size > 0 ? std::optional(size) : std::nullopt};
 }
@@ -84,7 +84,7 @@ QCoro::Task<> CatalogWorkflows::fetch(CatalogScope scope) {
     co_return;
   }
   if (fetch.stop.stop_requested()) {
-    restoreStateBefore(fetch);
+    restoreSettledState(fetch);
     co_return;
   }
   if (fetched) {
@@ -102,7 +102,7 @@ QCoro::Task<> CatalogWorkflows::fetch(CatalogScope scope) {
     co_return;
   }
   if (fetch.stop.stop_requested()) {
-    restoreStateBefore(fetch);
+    restoreSettledState(fetch);
   } else if (cached) {
     finish(fetch, {State::Loaded{*std::move(cached)}});
   } else {
@@ -194,10 +194,10 @@ void CatalogWorkflows::cancelFetches() {
 auto CatalogWorkflows::begin(CatalogScope scope) -> Fetch {
   Fetch fetch{.id = ++lastFetch_, .scope = scope, .stop = {}, .documents = {}};
   if (hasFormulae(scope)) {
-    fetch.documents.push_back(notBegun(store_.formulaCacheURL()));
+    fetch.documents.push_back(initialProgress(store_.formulaCacheURL()));
   }
   if (hasCasks(scope)) {
-    fetch.documents.push_back(notBegun(store_.caskCacheURL()));
+    fetch.documents.push_back(initialProgress(store_.caskCacheURL()));
   }
   fetches_.push_back(fetch);
   setState({State::Loading{loadingMessage(scope)}});
@@ -211,7 +211,7 @@ void CatalogWorkflows::finish(const Fetch& fetch, PackageCatalogState state) {
   setState(settledState_);
 }
 
-void CatalogWorkflows::restoreStateBefore(const Fetch& fetch) {
+void CatalogWorkflows::restoreSettledState(const Fetch& fetch) {
   remove(fetch);
   if (std::holds_alternative<State::Loading>(state_.value)) {
     setState(fetches_.empty() ? settledState_
@@ -234,13 +234,13 @@ MetadataFetchOptions CatalogWorkflows::optionsFor(const Fetch& fetch, std::size_
           .onProgress = [self = QPointer(this), id = fetch.id,
                          document](const MetadataProgress& progress) {
             if (self) {
-              self->noteProgress(id, document, progress);
+              self->updateProgress(id, document, progress);
             }
           }};
 }
 
-void CatalogWorkflows::noteProgress(int id, std::size_t document,
-                                    const MetadataProgress& progress) {
+void CatalogWorkflows::updateProgress(int id, std::size_t document,
+                                      const MetadataProgress& progress) {
   const auto fetch = std::ranges::find(fetches_, id, &Fetch::id);
   if (fetch == fetches_.end()) {
     return;

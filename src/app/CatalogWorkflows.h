@@ -84,10 +84,10 @@ class CatalogWorkflows : public QObject {
 
   Fetch begin(CatalogScope scope);
   void finish(const Fetch& fetch, PackageCatalogState state);
-  void restoreStateBefore(const Fetch& fetch);
+  void restoreSettledState(const Fetch& fetch);
   void remove(const Fetch& fetch);
   void setState(PackageCatalogState state);
-  void noteProgress(int id, std::size_t document, const MetadataProgress& progress);
+  void updateProgress(int id, std::size_t document, const MetadataProgress& progress);
   void showProgress();
   [[nodiscard]] MetadataFetchOptions optionsFor(const Fetch& fetch, std::size_t document);
 

@@ -9,26 +9,26 @@ Item {
 
     required property CommandWorkflow commands
 
-    property Component maker: null
+    property Component sheetComponent: null
     property T.Dialog sheet: null
 
-    function follow(): void {
+    function updateSheet(): void {
         if (sheet) {
             sheet.close();
             sheet.destroy();
         }
         // The first frame of a start does without the sheet.
-        if (!maker)
-            maker = Qt.createComponent("CommandSheet.qml");
+        if (!sheetComponent)
+            sheetComponent = Qt.createComponent("CommandSheet.qml");
         sheet = commands.preview
-                ? maker.createObject(parent, {
+                ? sheetComponent.createObject(parent, {
                     commands: commands, viewModel: commands.preview, shown: true
                 }) : null;
     }
 
     Connections {
         function onPreviewChanged(): void {
-            root.follow();
+            root.updateSheet();
         }
 
         target: root.commands

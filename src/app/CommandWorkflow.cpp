@@ -26,7 +26,7 @@ void CommandWorkflow::openPreview(const BrewCommand& command, const QString& sou
   connect(preview_.get(), &CommandPreviewSheetModel::sessionCreated, this,
           &CommandWorkflow::showSession);
   connect(preview_.get(), &CommandPreviewSheetModel::closed, this, &CommandWorkflow::closePreview);
-  if (command.riskLevel != BrewCommandRiskLevel::informational) {
+  if (mayChangePackages(command)) {
     connect(preview_.get(), &CommandPreviewSheetModel::runEnded, this,
             &CommandWorkflow::packagesMayHaveChanged);
   }

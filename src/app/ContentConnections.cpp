@@ -1,9 +1,9 @@
-#include <algorithm>
 #include <utility>
 
 #include "app/ContentViewModel.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/FileUrl.h"
+#include "platform/Plural.h"
 
 // What flows between the screens, the workflows and the store.
 
@@ -15,11 +15,11 @@ void ContentViewModel::connectCatalog() {
   connect(&catalog_, &CatalogWorkflows::fetchProgressChanged, this, tell);
   connect(&store_, &LocalPersistenceStore::catalogCacheChanged, this, tell);
   connect(&store_, &LocalPersistenceStore::catalogLastRefreshDateChanged, this, tell);
-  connect(&browse_, &FormulaCatalogViewModel::fetchWanted, this,
+  connect(&browse_, &FormulaCatalogViewModel::fetchRequested, this,
           [this](CatalogScope scope) { catalog_.fetch(scope); });
-  connect(&browse_, &FormulaCatalogViewModel::loadCachedWanted, this,
+  connect(&browse_, &FormulaCatalogViewModel::loadCachedRequested, this,
           [this](CatalogScope scope) { catalog_.loadCached(scope); });
-  connect(&browse_, &FormulaCatalogViewModel::cancelFetchWanted, &catalog_,
+  connect(&browse_, &FormulaCatalogViewModel::cancelFetchRequested, &catalog_,
           &CatalogWorkflows::cancelFetches);
   connect(&browse_, &FormulaCatalogViewModel::packageChosen, this,
           &ContentViewModel::openCatalogPackage);
@@ -39,11 +39,11 @@ void ContentViewModel::connectInventory() {
 
 /// The three screens that show the inventory ask for the same things.
 void ContentViewModel::connectInventoryScreen(LocalInventoryViewModel& screen) {
-  connect(&screen, &LocalInventoryViewModel::scanWanted, this, [this] { inventory_.scan(); });
-  connect(&screen, &LocalInventoryViewModel::cancelScanWanted, &inventory_,
+  connect(&screen, &LocalInventoryViewModel::scanRequested, this, [this] { inventory_.scan(); });
+  connect(&screen, &LocalInventoryViewModel::cancelScanRequested, &inventory_,
           &InventoryWorkflows::cancelScans);
-  connect(&screen, &LocalInventoryViewModel::selectPrefixWanted, &prefixSelection_,
-          &PrefixSelectionWorkflow::begin);
+  connect(&screen, &LocalInventoryViewModel::selectPrefixRequested, &prefixSelection_,
+          &PrefixSelectionWorkflow::requestChooser);
 }
 
 void ContentViewModel::connectCommands() {
@@ -53,13 +53,13 @@ void ContentViewModel::connectCommands() {
     }
   });
   connect(&commands_, &CommandWorkflow::packagesMayHaveChanged, &inventory_,
-          &InventoryWorkflows::noteRun);
+          &InventoryWorkflows::handleRunEnded);
 }
 
 void ContentViewModel::connectScreens() {
   const auto browse = [this] { select(AppSection::browse); };
-  connect(&installed_, &InstalledPackagesViewModel::browseCatalogWanted, this, browse);
-  connect(&updates_, &UpdatesViewModel::browseCatalogWanted, this, browse);
+  connect(&installed_, &InstalledPackagesViewModel::browseCatalogRequested, this, browse);
+  connect(&updates_, &UpdatesViewModel::browseCatalogRequested, this, browse);
   connect(&installed_, &InstalledPackagesViewModel::packageChosen, this,
           &ContentViewModel::openInstalledPackage);
   // What becomes stale says so on every screen, not on the one alone that watches the time.
@@ -67,8 +67,11 @@ void ContentViewModel::connectScreens() {
     updateBrowse();
     updateInventoryScreens();
   });
-  connect(&dashboard_, &DashboardViewModel::viewInstalledWanted, this,
+  connect(&dashboard_, &DashboardViewModel::viewInstalledRequested, this,
           [this] { select(AppSection::installed); });
+  // Whoever has selected a prefix has no use for the first steps any more.
+  connect(&prefixSelection_, &PrefixSelectionWorkflow::prefixSelected, this,
+          &ContentViewModel::finishOnboarding);
   connect(&store_, &LocalPersistenceStore::hasCompletedOnboardingChanged, this,
           &ContentViewModel::showsOnboardingChanged);
 }
@@ -88,9 +91,9 @@ void ContentViewModel::updateInventoryScreens() {
   const auto& path = store_.selectedHomebrewPrefixPath();
   const LocalInventoryInputs inputs{
       .state = inventory_.state(),
-      .isOvertaken = inventory_.isOvertaken(),
+      .needsRescan = inventory_.needsRescan(),
       .scannedPackages = progress.scannedPackages,
-      .knownPackages = progress.knownPackages,
+      .totalPackages = progress.totalPackages,
       .selectedPrefixPath = path,
       .selectedPrefixURL = path ? std::optional(fileUrl(*path)) : std::nullopt,
       .lastScanDate = store_.localInventoryLastScanDate(),
@@ -109,79 +112,40 @@ void ContentViewModel::updateSidebarCounts() {
   const auto* const packages = inventory_.state().packages();
   const auto installed = packages != nullptr ? static_cast<int>(packages->size()) : 0;
   sections_.setCount(AppSection::installed, installed,
-                     counted(installed, QStringLiteral("package")));
+                     pluralized(installed, QStringLiteral("package")));
   sections_.setCount(AppSection::updates, updates_.updateCount(), updates_.updatesText());
 }
 
+PackageDetailContext ContentViewModel::detailContext() const {
+  return {.catalog = catalog_.state().catalog(),
+          .inventory = inventory_.state(),
+          .catalogLastRefreshDate = store_.catalogLastRefreshDate(),
+          .localInventoryLastScanDate = store_.localInventoryLastScanDate(),
+          .sourceScreen = selectedTitle()};
+}
+
 void ContentViewModel::openCatalogPackage(const HomebrewPackageSummary& package) {
-  const auto* const installed = inventory_.state().packages();
-  std::optional<InstalledPackageSummary> installedPackage;
-  if (installed != nullptr) {
-    const auto found = std::ranges::find(*installed, package.id, &InstalledPackageSummary::id);
-    if (found != installed->end()) {
-      installedPackage = *found;
-    }
-  }
-  const PackageCatalogPtr catalog = catalog_.state().catalog();
-  openDetail(
-      {.package = package,
-       .installedPackage = installedPackage,
-       .reverseDependencyNames = catalog ? catalog->reverseDependencyNames(package) : std::nullopt,
-       .reverseDependencyUnavailableText =
-           QStringLiteral("Reverse dependency information is not available from the current data."),
-       .catalogLastRefreshDate = store_.catalogLastRefreshDate(),
-       .localInventoryLastScanDate = std::nullopt,
-       .hasInventory = installed != nullptr,
-       .hasCatalog = catalog != nullptr,
-       .sourceScreen = selectedTitle()});
+  openDetail(catalogPackageInputs(package, detailContext()));
 }
 
 void ContentViewModel::openInstalledPackage(const InstalledPackageSummary& package) {
-  const bool isFormula = package.kind == HomebrewPackageSummary::Kind::formula;
-  openDetail(
-      {.package = {.id = package.id,
-                   .kind = package.kind,
-                   .name = package.name,
-                   .description = package.description,
-                   .version = package.latestKnownVersion,
-                   .alternateVersion = package.alternateVersion,
-                   .homepage = package.homepage,
-                   .license = package.license,
-                   .tap = package.tap,
-                   .detailItems = package.detailItems},
-       .installedPackage = package,
-       .reverseDependencyNames = std::nullopt,
-       .reverseDependencyUnavailableText =
-           isFormula
-               ? QStringLiteral("Reverse dependency data is unavailable from the installed-only "
-                                "scan. Load the formula catalog to derive what depends on this "
-                                "package.")
-               : QStringLiteral("Reverse dependency lookup is only available for formula catalog "
-                                "metadata. Cask dependency impact is not estimated."),
-       .catalogLastRefreshDate = store_.catalogLastRefreshDate(),
-       .localInventoryLastScanDate = store_.localInventoryLastScanDate(),
-       .hasInventory = true,
-       .hasCatalog = catalog_.state().catalog() != nullptr,
-       .sourceScreen = selectedTitle()});
+  openDetail(installedPackageInputs(package, detailContext()));
 }
 
 void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& name) {
-  if (const PackageCatalogPtr catalog = catalog_.state().catalog()) {
-    SharedTextBuilder texts;
-    const SharedText id =
-        packageId(HomebrewPackageSummary::Kind::formula, name.toStdString(), texts);
-    const auto found = std::ranges::find(catalog->packages(), id, &HomebrewPackageSummary::id);
-    if (found != catalog->packages().end()) {
-      openCatalogPackage(*found);
-      return;
-    }
+  const PackageCatalogPtr catalog = catalog_.state().catalog();
+  const HomebrewPackageSummary* const formula =
+      catalog ? catalog->formula(name.toStdString()) : nullptr;
+  if (formula != nullptr) {
+    openCatalogPackage(*formula);
+  } else {
+    from.reportUnknownFormula(name);
   }
-  from.reportUnknownFormula(name);
 }
 
 void ContentViewModel::openDetail(PackageDetailViewModel::Inputs inputs) {
-  auto detail = std::make_unique<PackageDetailViewModel>(std::move(inputs), previewRequest());
-  connect(detail.get(), &PackageDetailViewModel::formulaWanted, this,
+  auto detail = std::make_unique<PackageDetailViewModel>(std::move(inputs), previewCallback());
+  connect(detail.get(), &PackageDetailViewModel::formulaRequested, this,
           [this, from = detail.get()](const QString& name) { openFormula(*from, name); });
   details_.push(std::move(detail));
 }

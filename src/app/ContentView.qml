@@ -50,18 +50,10 @@ FocusScope {
         workflow: root.viewModel.prefixSelection
     }
 
-    LateLoader {
+    LazyLoader {
         anchors.fill: parent
-        wanted: root.viewModel.showsOnboarding
+        needed: root.viewModel.showsOnboarding
 
         Component.onCompleted: setSource("OnboardingHost.qml", {viewModel: root.viewModel})
-    }
-
-    Connections {
-        function onPrefixSelected(): void {
-            root.viewModel.finishOnboarding();
-        }
-
-        target: root.viewModel.prefixSelection
     }
 }

@@ -18,9 +18,9 @@ ContentViewModel::ContentViewModel(
       prefixSelection_(store),
       commands_({appCapabilities, store, std::move(resolver), std::move(executionStarter)}),
       dashboard_(store, appCapabilities),
-      updates_(previewRequest()),
-      cleanup_(previewRequest()),
-      services_(previewRequest()),
+      updates_(previewCallback()),
+      cleanup_(previewCallback()),
+      services_(previewCallback()),
       history_(store),
       settings_(store),
       settingsWindow_(store) {
@@ -70,7 +70,7 @@ void ContentViewModel::finishOnboarding() {
   store_.setHasCompletedOnboarding(true);
 }
 
-PreviewRequest ContentViewModel::previewRequest() {
+PreviewCallback ContentViewModel::previewCallback() {
   return [this](const BrewCommand& command, const QString& sourceScreen) {
     commands_.openPreview(command, sourceScreen);
   };

@@ -24,6 +24,7 @@
 #include "screens/dashboard/DashboardViewModel.h"
 #include "screens/history/CommandHistoryViewModel.h"
 #include "screens/installed/InstalledPackagesViewModel.h"
+#include "screens/package/PackageDetailInputs.h"
 #include "screens/services/ServicesGuidanceViewModel.h"
 #include "screens/settings/SettingsViewModel.h"
 #include "screens/updates/UpdatesViewModel.h"
@@ -138,11 +139,12 @@ class ContentViewModel : public QObject {
   void updateBrowse();
   void updateInventoryScreens();
   void updateSidebarCounts();
+  [[nodiscard]] PackageDetailContext detailContext() const;
   void openCatalogPackage(const HomebrewPackageSummary& package);
   void openInstalledPackage(const InstalledPackageSummary& package);
   void openFormula(PackageDetailViewModel& from, const QString& name);
   void openDetail(PackageDetailViewModel::Inputs inputs);
-  [[nodiscard]] PreviewRequest previewRequest();
+  [[nodiscard]] PreviewCallback previewCallback();
 
   LocalPersistenceStore& store_;
   AppCapabilities appCapabilities_;

@@ -11,7 +11,7 @@ PackageDetailViewModel* DetailNavigation::current() const {
 }
 
 void DetailNavigation::push(std::unique_ptr<PackageDetailViewModel> detail) {
-  connect(detail.get(), &PackageDetailViewModel::backWanted, this, &DetailNavigation::back);
+  connect(detail.get(), &PackageDetailViewModel::backRequested, this, &DetailNavigation::back);
   details_.push_back(std::move(detail));
   Q_EMIT currentChanged();
 }

@@ -60,7 +60,7 @@ QCoro::Task<> InventoryWorkflows::scan() {
           [this, generation, &watcher](int scanned) {
             if (generation == generation_ && scanProgress_) {
               setProgress(
-                  Progress{.scannedPackages = scanned, .knownPackages = watcher.progressMaximum()});
+                  Progress{.scannedPackages = scanned, .totalPackages = watcher.progressMaximum()});
             }
           });
   watcher.setFuture(scanning);
@@ -75,7 +75,7 @@ QCoro::Task<> InventoryWorkflows::scan() {
   settle(inventory.state);
 }
 
-void InventoryWorkflows::noteRun() {
+void InventoryWorkflows::handleRunEnded() {
   ++runs_;
   Q_EMIT stateChanged();
 }

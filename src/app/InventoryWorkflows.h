@@ -23,7 +23,7 @@ class InventoryWorkflows : public QObject {
   struct Progress {
     int scannedPackages = 0;
     /// Grows when the scan goes on from the formulae to the casks.
-    int knownPackages = 0;
+    int totalPackages = 0;
     bool operator==(const Progress&) const = default;
   };
 
@@ -34,13 +34,13 @@ class InventoryWorkflows : public QObject {
   [[nodiscard]] const InstalledPackagesState& state() const { return state_; }
 
   /// Whether a run that may have changed the prefix ended since the state was found.
-  [[nodiscard]] bool isOvertaken() const {
+  [[nodiscard]] bool needsRescan() const {
     return std::holds_alternative<InstalledPackagesState::Loaded>(state_.value) &&
            scannedRuns_ != runs_;
   }
 
   /// Such a run has ended.
-  void noteRun();
+  void handleRunEnded();
 
   /// Absent when no scan is under way.
   [[nodiscard]] const std::optional<Progress>& scanProgress() const { return scanProgress_; }
@@ -52,7 +52,7 @@ class InventoryWorkflows : public QObject {
   void cancelScans();
 
  Q_SIGNALS:
-  /// `state` or `isOvertaken` changed.
+  /// `state` or `needsRescan` changed.
   void stateChanged();
   void scanProgressChanged();
 

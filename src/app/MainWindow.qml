@@ -8,22 +8,22 @@ ThemedWindow {
     id: root
 
     required property ContentViewModel content
-    required property WindowMemory memory
+    required property WindowGeometry geometry
 
-    width: memory.size.width
-    height: memory.size.height
-    minimumWidth: memory.smallestSize.width
-    minimumHeight: memory.smallestSize.height
+    width: geometry.size.width
+    height: geometry.size.height
+    minimumWidth: geometry.minimumSize.width
+    minimumHeight: geometry.minimumSize.height
     title: "Quillmere"
-    visibility: memory.maximized ? Window.Maximized : Window.Windowed
+    visibility: geometry.maximized ? Window.Maximized : Window.Windowed
     visible: true
 
-    onFrameSwapped: lateScreens.begun = true
+    onFrameSwapped: screenPreloader.running = true
     onClosing: event => {
-        event.accepted = content.quitGuard.mayQuit();
+        event.accepted = content.quitGuard.requestQuit();
         if (event.accepted) {
             if (visibility !== Window.Minimized)
-                memory.remember(Qt.size(width, height), visibility !== Window.Windowed);
+                geometry.save(Qt.size(width, height), visibility !== Window.Windowed);
             Qt.quit();
         }
     }
@@ -80,9 +80,9 @@ ThemedWindow {
         onActivated: root.close()
     }
 
-    LateLoader {
+    LazyLoader {
         anchors.fill: parent
-        wanted: root.content.quitGuard.isAsking
+        needed: root.content.quitGuard.confirmationPending
 
         Component.onCompleted: setSource("QuitAlert.qml", {quitGuard: root.content.quitGuard})
     }
@@ -101,7 +101,7 @@ ThemedWindow {
         viewModel: root.content.settingsWindow
     }
 
-    LateScreens {
-        id: lateScreens
+    ScreenPreloader {
+        id: screenPreloader
     }
 }

@@ -11,5 +11,5 @@ OnboardingSheet {
     shown: viewModel.showsOnboarding
 
     onFinished: viewModel.finishOnboarding()
-    onSelectPrefixWanted: viewModel.prefixSelection.begin()
+    onSelectPrefixRequested: viewModel.prefixSelection.requestChooser()
 }

@@ -19,7 +19,7 @@ Item {
     }
 
     Connections {
-        function onChooserWanted(): void {
+        function onChooserRequested(): void {
             chooser.open();
         }
 

@@ -13,6 +13,6 @@ Alert {
     shown: workflow.isRefused
     title: workflow.refusalTitle
 
-    onCancelled: workflow.acknowledge()
-    onConfirmed: workflow.begin()
+    onCancelled: workflow.acknowledgeRefusal()
+    onConfirmed: workflow.requestChooser()
 }

@@ -14,16 +14,16 @@ Item {
         anchors.fill: parent
     }
 
-    LateLoader {
+    LazyLoader {
         anchors.fill: parent
-        wanted: root.workflow.isRefused
+        needed: root.workflow.isRefused
 
         Component.onCompleted: setSource("PrefixRefusalAlert.qml", {workflow: root.workflow})
     }
 
     // Loading it opens it; from then on it listens itself.
     Connections {
-        function onChooserWanted(): void {
+        function onChooserRequested(): void {
             if (chooser.status === Loader.Null)
                 chooser.setSource("PrefixFolderChooser.qml", {workflow: root.workflow});
         }

@@ -29,9 +29,9 @@ QString PrefixSelectionWorkflow::refusalText() const {
   return notAHomebrewPrefixText();
 }
 
-void PrefixSelectionWorkflow::begin() {
+void PrefixSelectionWorkflow::requestChooser() {
   setRefused(false);
-  Q_EMIT chooserWanted();
+  Q_EMIT chooserRequested();
 }
 
 QCoro::Task<> PrefixSelectionWorkflow::selectPrefix(QUrl folder, QUrl shown) {
@@ -50,7 +50,7 @@ QCoro::Task<> PrefixSelectionWorkflow::selectPrefix(QUrl folder, QUrl shown) {
   }
 }
 
-void PrefixSelectionWorkflow::acknowledge() {
+void PrefixSelectionWorkflow::acknowledgeRefusal() {
   setRefused(false);
 }
 

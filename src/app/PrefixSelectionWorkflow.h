@@ -43,7 +43,7 @@ class PrefixSelectionWorkflow : public QObject {
   [[nodiscard]] QString refusalText() const;
 
   /// Asks the window for its chooser.
-  Q_INVOKABLE void begin();
+  Q_INVOKABLE void requestChooser();
 
   /// Selects a folder that the user chose, or the one that the chooser showed, if it is a prefix;
   /// the selection stays if neither is.
@@ -54,10 +54,10 @@ class PrefixSelectionWorkflow : public QObject {
   QCoro::Task<> selectPrefix(QUrl folder, QUrl shown = QUrl());
 
   /// The user has been told.
-  Q_INVOKABLE void acknowledge();
+  Q_INVOKABLE void acknowledgeRefusal();
 
  Q_SIGNALS:
-  void chooserWanted();
+  void chooserRequested();
   /// The folder that was chosen is a prefix and is selected now.
   void prefixSelected();
   void isRefusedChanged();

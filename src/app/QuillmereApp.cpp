@@ -26,7 +26,7 @@ void QuillmereApp::prepare() {
   QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);
 }
 
-QuillmereApp::QuillmereApp(AppSurroundings surroundings)
+QuillmereApp::QuillmereApp(AppEnvironment surroundings)
     : settingsReader_([settings = surroundings.settings] { (void)settings()->allKeys(); }),
       localPersistenceStore_(surroundings.settings(), std::move(surroundings.cacheDirectoryURL)),
       windowMemory_(surroundings.settings()),
@@ -47,8 +47,8 @@ QuillmereApp::QuillmereApp(AppSurroundings surroundings)
 QuillmereApp::~QuillmereApp() = default;
 
 bool QuillmereApp::open() {
-  window_ = files_.open({{QStringLiteral("content"), QVariant::fromValue(&content_)},
-                         {QStringLiteral("memory"), QVariant::fromValue(&windowMemory_)}});
+  window_ = windowLoader_.open({{QStringLiteral("content"), QVariant::fromValue(&content_)},
+                                {QStringLiteral("geometry"), QVariant::fromValue(&windowMemory_)}});
   return window_ != nullptr;
 }
 

@@ -8,8 +8,8 @@
 #include <thread>
 
 #include "app/ContentViewModel.h"
-#include "app/MainWindowFiles.h"
-#include "app/WindowMemory.h"
+#include "app/MainWindowLoader.h"
+#include "app/WindowGeometry.h"
 #include "persistence/LocalPersistenceStore.h"
 
 class QQuickWindow;
@@ -17,7 +17,7 @@ class QQuickWindow;
 namespace quillmere {
 
 /// What the program works with; by default what it finds on the machine.
-struct AppSurroundings {
+struct AppEnvironment {
   /// Opens the settings: on the UI thread once for each that remembers something, and once on
   /// another thread, which reads them ahead.
   std::function<std::unique_ptr<QSettings>()> settings = [] {
@@ -36,7 +36,7 @@ class QuillmereApp {
   /// Names the program and fixes its look; before the application object is made.
   static void prepare();
 
-  explicit QuillmereApp(AppSurroundings surroundings = AppSurroundings());
+  explicit QuillmereApp(AppEnvironment surroundings = AppEnvironment());
   ~QuillmereApp();
 
   Q_DISABLE_COPY_MOVE(QuillmereApp)
@@ -55,9 +55,9 @@ class QuillmereApp {
   /// Reads the settings ahead, in which there may be a long history, while the window's files load.
   /// Whoever opens them next shares what was read, or waits until it is.
   std::jthread settingsReader_;
-  MainWindowFiles files_;
+  MainWindowLoader windowLoader_;
   LocalPersistenceStore localPersistenceStore_;
-  WindowMemory windowMemory_;
+  WindowGeometry windowMemory_;
   QNetworkAccessManager session_;
   ContentViewModel content_;
   std::unique_ptr<QQuickWindow> window_;

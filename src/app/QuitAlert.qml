@@ -8,12 +8,12 @@ Alert {
 
     required property QuitGuard quitGuard
 
-    cancelTitle: quitGuard.stayTitle
-    confirmTitle: quitGuard.quitTitle
+    cancelTitle: quitGuard.cancelTitle
+    confirmTitle: quitGuard.confirmTitle
     message: quitGuard.message
-    shown: quitGuard.isAsking
+    shown: quitGuard.confirmationPending
     title: quitGuard.title
 
-    onCancelled: quitGuard.stay()
-    onConfirmed: quitGuard.quit()
+    onCancelled: quitGuard.cancelQuit()
+    onConfirmed: quitGuard.confirmQuit()
 }

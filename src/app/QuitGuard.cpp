@@ -20,7 +20,7 @@ void QuitGuard::watch(CommandPreviewSheetModel* run) {
   connect(run, &CommandPreviewSheetModel::runEnded, this, &QuitGuard::followEnd);
 }
 
-bool QuitGuard::mayQuit() {
+bool QuitGuard::requestQuit() {
   if (state_ == State::Leaving || !isRunning()) {
     return true;
   }
@@ -32,7 +32,7 @@ bool QuitGuard::mayQuit() {
   return false;
 }
 
-void QuitGuard::stay() {
+void QuitGuard::cancelQuit() {
   if (state_ == State::AskingToCancel) {
     setState(State::Idle);
   } else if (state_ == State::AskingToLeave) {
@@ -40,7 +40,7 @@ void QuitGuard::stay() {
   }
 }
 
-void QuitGuard::quit() {
+void QuitGuard::confirmQuit() {
   if (state_ == State::AskingToCancel) {
     setState(State::Waiting);
     for (const auto& run : std::as_const(runs_)) {
@@ -54,7 +54,7 @@ void QuitGuard::quit() {
   }
 }
 
-bool QuitGuard::isAsking() const {
+bool QuitGuard::confirmationPending() const {
   return state_ == State::AskingToCancel || state_ == State::AskingToLeave;
 }
 
@@ -76,12 +76,12 @@ QString QuitGuard::message() const {
                    .arg(commandText());
 }
 
-QString QuitGuard::quitTitle() const {
+QString QuitGuard::confirmTitle() const {
   return state_ == State::AskingToLeave ? QStringLiteral("Quit Now")
                                         : QStringLiteral("Cancel Command and Quit");
 }
 
-QString QuitGuard::stayTitle() const {
+QString QuitGuard::cancelTitle() const {
   return state_ == State::AskingToLeave ? QStringLiteral("Keep Waiting")
                                         : QStringLiteral("Keep Running");
 }

@@ -17,11 +17,11 @@ class QuitGuard : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")
-  Q_PROPERTY(bool isAsking READ isAsking NOTIFY stateChanged)
+  Q_PROPERTY(bool confirmationPending READ confirmationPending NOTIFY stateChanged)
   Q_PROPERTY(QString title READ title NOTIFY stateChanged)
   Q_PROPERTY(QString message READ message NOTIFY stateChanged)
-  Q_PROPERTY(QString quitTitle READ quitTitle NOTIFY stateChanged)
-  Q_PROPERTY(QString stayTitle READ stayTitle NOTIFY stateChanged)
+  Q_PROPERTY(QString confirmTitle READ confirmTitle NOTIFY stateChanged)
+  Q_PROPERTY(QString cancelTitle READ cancelTitle NOTIFY stateChanged)
   Q_PROPERTY(QString waitingText READ waitingText NOTIFY stateChanged)
 
  public:
@@ -31,17 +31,17 @@ class QuitGuard : public QObject {
   void watch(CommandPreviewSheetModel* run);
 
   /// Whether the window may close now; where it may not, a question is put to the user.
-  [[nodiscard]] Q_INVOKABLE bool mayQuit();
+  [[nodiscard]] Q_INVOKABLE bool requestQuit();
   /// The user rather stays: the command runs on, or is waited for.
-  Q_INVOKABLE void stay();
+  Q_INVOKABLE void cancelQuit();
   /// The user quits: the command is cancelled and its end waited for, or no longer waited for.
-  Q_INVOKABLE void quit();
+  Q_INVOKABLE void confirmQuit();
 
-  [[nodiscard]] bool isAsking() const;
+  [[nodiscard]] bool confirmationPending() const;
   [[nodiscard]] QString title() const;
   [[nodiscard]] QString message() const;
-  [[nodiscard]] QString quitTitle() const;
-  [[nodiscard]] QString stayTitle() const;
+  [[nodiscard]] QString confirmTitle() const;
+  [[nodiscard]] QString cancelTitle() const;
   /// What is waited for before the program ends; empty while it is to stay.
   [[nodiscard]] QString waitingText() const;
 

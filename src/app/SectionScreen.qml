@@ -15,39 +15,39 @@ FocusScope {
     readonly property PackageDetailViewModel detail: viewModel.details.current
     readonly property string section: viewModel.selectedSection
 
-    onDetailChanged: detailPlace.show(detail)
+    onDetailChanged: detailLoader.show(detail)
 
-    component Place: Loader {
-        function fill(view: string, viewModel: QtObject): void {
+    component ViewLoader: Loader {
+        function load(view: string, viewModel: QtObject): void {
             setSource("../" + view + ".qml", viewModel ? {viewModel: viewModel} : {});
         }
 
         anchors.fill: parent
     }
 
-    component Section: Place {
-        id: place
+    component Section: ViewLoader {
+        id: loader
 
         required property string name
         required property string view
 
         property QtObject viewModel: null
 
-        readonly property bool chosen: root.section === name
+        readonly property bool selected: root.section === name
 
-        function follow(): void {
-            if (chosen)
-                fill(view, viewModel);
+        function loadIfSelected(): void {
+            if (selected)
+                load(view, viewModel);
             else
-                place.source = "";
+                loader.source = "";
         }
 
-        Component.onCompleted: follow()
+        Component.onCompleted: loadIfSelected()
 
-        onChosenChanged: follow()
+        onSelectedChanged: loadIfSelected()
         // The screen before may still be there and have the keyboard.
         onLoaded: {
-            place.focus = true;
+            loader.focus = true;
             item.focus = true;
         }
     }
@@ -111,14 +111,14 @@ FocusScope {
         }
     }
 
-    Place {
-        id: detailPlace
+    ViewLoader {
+        id: detailLoader
 
         function show(detail: PackageDetailViewModel): void {
             if (detail)
-                fill("Package/PackageDetailView", detail);
+                load("Package/PackageDetailView", detail);
             else
-                detailPlace.source = "";
+                detailLoader.source = "";
         }
 
         focus: root.detail !== null

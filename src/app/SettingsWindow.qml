@@ -7,11 +7,11 @@ Loader {
 
     required property SettingsViewModel viewModel
 
-    signal raised
+    signal raiseRequested
 
     function open(): void {
         if (status === Loader.Null)
             setSource("SettingsWindowContent.qml", {host: root});
-        raised();
+        raiseRequested();
     }
 }

@@ -36,7 +36,7 @@ Item {
         }
 
         Connections {
-            function onRaised(): void {
+            function onRaiseRequested(): void {
                 window.show();
                 window.raise();
                 window.requestActivate();

@@ -55,7 +55,7 @@ FocusScope {
 
             delegate: SidebarRow {
                 width: ListView.view.width
-                keyboardHere: list.activeFocus
+                listFocused: list.activeFocus
                 selected: ListView.isCurrentItem
 
                 onClicked: root.viewModel.selectIndex(index)

@@ -14,10 +14,10 @@ T.ItemDelegate {
     required property int count
     required property string countText
     required property bool selected
-    required property bool keyboardHere
+    required property bool listFocused
 
-    readonly property color ink: !selected ? Theme.text
-                               : keyboardHere ? Theme.accentText : Theme.selectionText
+    readonly property color textColor: !selected ? Theme.text
+                               : listFocused ? Theme.accentText : Theme.selectionText
 
     implicitHeight: Theme.controlHeight + Theme.tiny / 2
     focusPolicy: Qt.NoFocus
@@ -33,7 +33,7 @@ T.ItemDelegate {
     Accessible.onPressAction: root.clicked()
 
     background: Rectangle {
-        color: root.selected ? root.keyboardHere ? Theme.accent : Theme.selection : root.down ? Theme.pressed
+        color: root.selected ? root.listFocused ? Theme.accent : Theme.selection : root.down ? Theme.pressed
              : root.hovered ? Theme.hover : "transparent"
         radius: Theme.smallRadius
     }
@@ -44,12 +44,12 @@ T.ItemDelegate {
         Symbol {
             name: root.symbolName
             Layout.leftMargin: Theme.small
-            color: root.selected ? root.ink : Theme.secondaryText
+            color: root.selected ? root.textColor : Theme.secondaryText
         }
 
         PlainText {
             Layout.fillWidth: true
-            color: root.ink
+            color: root.textColor
             elide: Text.ElideRight
             font.weight: root.selected ? Font.DemiBold : Font.Normal
             text: root.title
@@ -60,7 +60,7 @@ T.ItemDelegate {
 
         CaptionText {
             Layout.rightMargin: Theme.small
-            color: root.selected ? root.ink : Theme.secondaryText
+            color: root.selected ? root.textColor : Theme.secondaryText
             text: root.count
             visible: root.count > 0
 

@@ -39,6 +39,13 @@ PackageCatalog PackageCatalog::joined(PackageCatalog formulae, PackageCatalog ca
   return formulae;
 }
 
+const HomebrewPackageSummary* PackageCatalog::formula(std::string_view name) const {
+  SharedTextBuilder texts;
+  const SharedText id = packageId(HomebrewPackageSummary::Kind::formula, name, texts);
+  const auto found = std::ranges::find(packages_, id, &HomebrewPackageSummary::id);
+  return found != packages_.end() ? &*found : nullptr;
+}
+
 std::optional<std::vector<SharedText>> PackageCatalog::reverseDependencyNames(
     const HomebrewPackageSummary& package) const {
   if (package.kind != HomebrewPackageSummary::Kind::formula) {

@@ -5,6 +5,7 @@
 #include <expected>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "catalog/CatalogDecodingError.h"
@@ -34,6 +35,9 @@ class PackageCatalog {
   [[nodiscard]] static PackageCatalog joined(PackageCatalog formulae, PackageCatalog casks);
 
   [[nodiscard]] const std::vector<HomebrewPackageSummary>& packages() const { return packages_; }
+
+  /// The formula of this name; null where the catalog has none.
+  [[nodiscard]] const HomebrewPackageSummary* formula(std::string_view name) const;
 
   [[nodiscard]] const PackageSearchIndex& searchIndex() const { return searchIndex_; }
 

@@ -98,4 +98,9 @@ struct BrewCommand {
   bool operator==(const BrewCommand&) const = default;
 };
 
+/// Whether running the command may change what is installed.
+[[nodiscard]] inline bool mayChangePackages(const BrewCommand& command) {
+  return command.riskLevel != BrewCommandRiskLevel::informational;
+}
+
 }  // namespace quillmere

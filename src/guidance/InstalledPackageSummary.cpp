@@ -73,6 +73,19 @@ InstalledPackageSummary summaryOf(const InstalledCask& cask, SharedTextBuilder& 
 
 }  // namespace
 
+HomebrewPackageSummary catalogSummary(const InstalledPackageSummary& package) {
+  return {.id = package.id,
+          .kind = package.kind,
+          .name = package.name,
+          .description = package.description,
+          .version = package.latestKnownVersion,
+          .alternateVersion = package.alternateVersion,
+          .homepage = package.homepage,
+          .license = package.license,
+          .tap = package.tap,
+          .detailItems = package.detailItems};
+}
+
 std::vector<InstalledPackageSummary> installedPackageSummaries(
     const std::vector<InstalledFormula>& formulae, const std::vector<InstalledCask>& casks) {
   SharedTextBuilder texts;

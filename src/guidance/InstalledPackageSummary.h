@@ -42,6 +42,9 @@ struct InstalledPackageSummary {
   }
 };
 
+/// What the catalog knows of an installed package, as a row of the catalog. Pure; any thread.
+[[nodiscard]] HomebrewPackageSummary catalogSummary(const InstalledPackageSummary& package);
+
 /// The whole inventory, ordered by name; of a formula and a cask with equal names the formula comes
 /// first. Pure; any thread.
 [[nodiscard]] std::vector<InstalledPackageSummary> installedPackageSummaries(

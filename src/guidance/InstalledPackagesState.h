@@ -2,6 +2,7 @@
 
 #include <QtCore/QString>
 
+#include <algorithm>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -51,6 +52,16 @@ struct InstalledPackagesState {
   [[nodiscard]] const std::vector<InstalledPackageSummary>* packages() const {
     const auto* const loaded = std::get_if<Loaded>(&value);
     return loaded != nullptr ? loaded->packages.get() : nullptr;
+  }
+
+  /// The installed package of this identity; null where none is known.
+  [[nodiscard]] const InstalledPackageSummary* package(const SharedText& id) const {
+    const auto* const all = packages();
+    if (all == nullptr) {
+      return nullptr;
+    }
+    const auto found = std::ranges::find(*all, id, &InstalledPackageSummary::id);
+    return found != all->end() ? &*found : nullptr;
   }
 };
 

@@ -114,36 +114,36 @@ TEST_F(InventoryWorkflowsTest, RecordWhenTheScanHadFinished) {
 }
 
 TEST_F(InventoryWorkflowsTest, AreOvertakenByARunUntilTheNextScan) {
-  workflows_->noteRun();
-  EXPECT_FALSE(workflows_->isOvertaken()) << "nothing is known yet";
+  workflows_->handleRunEnded();
+  EXPECT_FALSE(workflows_->needsRescan()) << "nothing is known yet";
   scan();
-  EXPECT_FALSE(workflows_->isOvertaken());
+  EXPECT_FALSE(workflows_->needsRescan());
   const QSignalSpy changed(&*workflows_, &InventoryWorkflows::stateChanged);
-  workflows_->noteRun();
-  EXPECT_TRUE(workflows_->isOvertaken());
+  workflows_->handleRunEnded();
+  EXPECT_TRUE(workflows_->needsRescan());
   EXPECT_EQ(changed.size(), 1);
   scan();
-  EXPECT_FALSE(workflows_->isOvertaken());
+  EXPECT_FALSE(workflows_->needsRescan());
 }
 
 TEST_F(InventoryWorkflowsTest, AreOvertakenByARunThatEndsDuringTheScan) {
   hold();
   auto scanning = workflows_->scan();
-  workflows_->noteRun();
+  workflows_->handleRunEnded();
   disk_->released.release();
   QCoro::waitFor(std::move(scanning));
-  EXPECT_TRUE(workflows_->isOvertaken());
+  EXPECT_TRUE(workflows_->needsRescan());
 }
 
 TEST_F(InventoryWorkflowsTest, AreStillOvertakenAfterAScanThatWasCancelled) {
   scan();
-  workflows_->noteRun();
+  workflows_->handleRunEnded();
   hold();
   auto scanning = workflows_->scan();
   workflows_->cancelScans();
   disk_->released.release();
   QCoro::waitFor(std::move(scanning));
-  EXPECT_TRUE(workflows_->isOvertaken());
+  EXPECT_TRUE(workflows_->needsRescan());
 }
 
 TEST_F(InventoryWorkflowsTest, NeedASelectedPrefix) {
@@ -202,9 +202,9 @@ TEST_F(InventoryWorkflowsTest, CountThePackages) {
   EXPECT_EQ(heard.front(), Progress{});
   for (std::size_t i = 1; i < heard.size(); ++i) {
     EXPECT_GE(heard[i].scannedPackages, heard[i - 1].scannedPackages);
-    EXPECT_GE(heard[i].knownPackages, heard[i].scannedPackages);
+    EXPECT_GE(heard[i].totalPackages, heard[i].scannedPackages);
   }
-  EXPECT_GE(heard.back().knownPackages, 2'003);
+  EXPECT_GE(heard.back().totalPackages, 2'003);
 }
 
 TEST_F(InventoryWorkflowsTest, ForgetWhatWasFoundInAnotherPrefix) {

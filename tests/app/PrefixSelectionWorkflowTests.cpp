@@ -26,8 +26,8 @@ class PrefixSelectionWorkflowTest : public testing::Test {
 };
 
 TEST_F(PrefixSelectionWorkflowTest, AsksTheWindowForAChooserThatOpensAtTheUsualPrefix) {
-  const QSignalSpy wanted(&workflow_, &PrefixSelectionWorkflow::chooserWanted);
-  workflow_.begin();
+  const QSignalSpy wanted(&workflow_, &PrefixSelectionWorkflow::chooserRequested);
+  workflow_.requestChooser();
   EXPECT_EQ(wanted.size(), 1);
   EXPECT_EQ(workflow_.startFolder(), homebrewPrefixStartFolder(*platformFileSystem()));
 }
@@ -74,10 +74,10 @@ TEST_F(PrefixSelectionWorkflowTest, TakesThePrefixThatTheUserWentInto) {
 
 TEST_F(PrefixSelectionWorkflowTest, SaysSoOnce) {
   choose(emptyFolder_.url());
-  workflow_.acknowledge();
+  workflow_.acknowledgeRefusal();
   EXPECT_FALSE(workflow_.isRefused());
   choose(emptyFolder_.url());
-  workflow_.begin();
+  workflow_.requestChooser();
   EXPECT_FALSE(workflow_.isRefused());
 }
 

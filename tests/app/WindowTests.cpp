@@ -18,10 +18,10 @@
 
 #include "app/ContentViewModel.h"
 #include "app/QuillmereApp.h"
-#include "app/WindowMemory.h"
+#include "app/WindowGeometry.h"
 #include "commands/BrewCommandBuilder.h"
-#include "demo/DemoCatalog.h"
 #include "demo/DemoPackages.h"
+#include "demo/SampleCatalog.h"
 #include "execution/DirectCommandRunner.h"
 #include "persistence/LocalPersistenceStore.h"
 #include "support/BackgroundThreadBlocker.h"
@@ -57,7 +57,7 @@ struct World {
   test::TestPrefix emptyFolder;
   std::shared_ptr<test::BlockingFileSystem> disk = std::make_shared<test::BlockingFileSystem>();
   LocalPersistenceStore store{settings.open(), settings.cacheDirectoryURL()};
-  WindowMemory memory{settings.open()};
+  WindowGeometry geometry{settings.open()};
   /// Answers that nothing is there, until it is told otherwise.
   test::CatalogServer server;
   test::HoneypotServer bait;
@@ -75,7 +75,7 @@ struct World {
 class Stage : public QObject {
   Q_OBJECT
   Q_PROPERTY(quillmere::ContentViewModel* content READ content NOTIFY worldChanged)
-  Q_PROPERTY(quillmere::WindowMemory* memory READ memory NOTIFY worldChanged)
+  Q_PROPERTY(quillmere::WindowGeometry* geometry READ geometry NOTIFY worldChanged)
   Q_PROPERTY(QUrl prefix READ prefix NOTIFY worldChanged)
   Q_PROPERTY(QUrl emptyFolder READ emptyFolder NOTIFY worldChanged)
   Q_PROPERTY(QUrl openedUrl READ openedUrl)
@@ -86,7 +86,7 @@ class Stage : public QObject {
  public:
   [[nodiscard]] ContentViewModel* content() { return world_ ? &world_->content : nullptr; }
 
-  [[nodiscard]] WindowMemory* memory() { return world_ ? &world_->memory : nullptr; }
+  [[nodiscard]] WindowGeometry* geometry() { return world_ ? &world_->geometry : nullptr; }
 
   [[nodiscard]] QUrl prefix() const { return world_ ? world_->prefix.url() : QUrl(); }
 
@@ -115,8 +115,8 @@ class Stage : public QObject {
 
   /// From now on, the server has a small catalog.
   Q_INVOKABLE void serveCatalog() {
-    world_->server.answer(formulaPath, {.body = demo::demoFormulaDocument()});
-    world_->server.answer(caskPath, {.body = demo::demoCaskDocument()});
+    world_->server.answer(formulaPath, {.body = demo::sampleFormulaDocument()});
+    world_->server.answer(caskPath, {.body = demo::sampleCaskDocument()});
   }
 
   /// From now on, the server begins with an answer and does not go on.
@@ -156,11 +156,12 @@ class Stage : public QObject {
 
   /// Fills the cache, in a moment.
   Q_INVOKABLE void cacheFormulae() {
-    world_->store.saveFormulaCatalog(demo::demoFormulaDocument(), QDateTime::currentDateTimeUtc());
+    world_->store.saveFormulaCatalog(demo::sampleFormulaDocument(),
+                                     QDateTime::currentDateTimeUtc());
   }
 
   Q_INVOKABLE void cacheCasks() {
-    world_->store.saveCaskCatalog(demo::demoCaskDocument(), QDateTime::currentDateTimeUtc());
+    world_->store.saveCaskCatalog(demo::sampleCaskDocument(), QDateTime::currentDateTimeUtc());
   }
 
   /// Shows a catalog of so many formulae and no cask, as if it had been loaded.
@@ -186,7 +187,7 @@ class Stage : public QObject {
     LocalInventoryInputs inputs = world_->content.installed()->inputs();
     inputs.state.value = InstalledPackagesState::Loading{};
     inputs.scannedPackages = scanned;
-    inputs.knownPackages = known;
+    inputs.totalPackages = known;
     world_->content.installed()->setInputs(inputs);
   }
 
@@ -285,7 +286,7 @@ class Stage : public QObject {
           openedUrl_ = url;
           return browserAnswers_;
         });
-    connect(detail.get(), &PackageDetailViewModel::formulaWanted, this,
+    connect(detail.get(), &PackageDetailViewModel::formulaRequested, this,
             [this](const QString& name) { wantedFormula_ = name; });
     content.details()->push(std::move(detail));
   }
@@ -327,10 +328,10 @@ class Stage : public QObject {
     return found == windows.end() ? nullptr : *found;
   }
 
-  Q_INVOKABLE QSize rememberedSize() { return WindowMemory(world_->settings.open()).size(); }
+  Q_INVOKABLE QSize rememberedSize() { return WindowGeometry(world_->settings.open()).size(); }
 
   Q_INVOKABLE bool remembersMaximized() {
-    return WindowMemory(world_->settings.open()).maximized();
+    return WindowGeometry(world_->settings.open()).maximized();
   }
 
   Q_INVOKABLE void previewLongInstall() {

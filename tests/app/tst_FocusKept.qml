@@ -2,7 +2,7 @@ import QtQuick
 import "../support/window"
 
 // The keyboard is somewhere that can be seen, whatever comes and goes on a screen.
-PackageCase {
+PackageListTestCase {
     id: root
 
     name: "FocusKept"

@@ -4,7 +4,7 @@ import "../support/window"
 
 // What a catalog or a prefix holds is shown, whatever it is: on one line, the way it is written, and
 // without asking anybody for anything.
-PackageCase {
+PackageListTestCase {
     id: root
 
     name: "Hostile"

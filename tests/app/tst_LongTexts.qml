@@ -4,7 +4,7 @@ import Quillmere.Components
 import "../support/window"
 
 // Nothing that is too long for its place leaves it.
-WindowCase {
+WindowTestCase {
     id: root
 
     name: "LongTexts"

@@ -2,16 +2,16 @@ import QtQuick
 import Quillmere.App
 import "../support/window"
 
-WindowCase {
+WindowTestCase {
     id: root
 
     name: "Shell"
 
     Component {
-        id: lateScreens
+        id: screenPreloader
 
-        LateScreens {
-            begun: true
+        ScreenPreloader {
+            running: true
         }
     }
 
@@ -27,7 +27,7 @@ WindowCase {
     }
 
     function test_everyLateScreenIsMadeReady() {
-        const screens = createTemporaryObject(lateScreens, root);
+        const screens = createTemporaryObject(screenPreloader, root);
         verify(screens.count > 10);
         for (let i = 0; i < screens.count; ++i)
             tryVerify(() => screens.itemAt(i).file.status === Component.Ready, 5000, screens.files[i]);
@@ -45,7 +45,7 @@ WindowCase {
     function test_sidebarCountsWhatAScanFound() {
         compare(named("Installed").Accessible.description, "");
         stage.selectPrefix();
-        stage.content.installed.scanWanted();
+        stage.content.installed.scanRequested();
         tryVerify(() => named("Installed").Accessible.description === "3 packages");
         compare(named("Updates").Accessible.description, "");
         stage.resetPrefix();

@@ -3,7 +3,7 @@ import QtTest
 import "../support/window"
 
 // What assistive technology finds on each screen.
-WindowCase {
+WindowTestCase {
     id: root
 
     name: "Spoken"

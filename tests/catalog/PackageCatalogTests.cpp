@@ -28,6 +28,14 @@ TEST(PackageCatalog, KnowsThatNothingDependsOnAFormula) {
   EXPECT_THAT(catalog.reverseDependencyNames(formula("elsewhere")), Optional(IsEmpty()));
 }
 
+TEST(PackageCatalog, FindsAFormulaByItsName) {
+  const PackageCatalog catalog({formula("wget"), formula("app"), cask("app"), cask("firefox")});
+  ASSERT_NE(catalog.formula("app"), nullptr);
+  EXPECT_EQ(*catalog.formula("app"), formula("app"));
+  EXPECT_EQ(catalog.formula("firefox"), nullptr);
+  EXPECT_EQ(catalog.formula("App"), nullptr);
+}
+
 TEST(PackageCatalog, KnowsNoDependantsOfACask) {
   HomebrewPackageSummary app = cask("app");
   app.detailItems.emplace_back("zlib");

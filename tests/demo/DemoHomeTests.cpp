@@ -18,7 +18,7 @@ namespace {
 
 using namespace Qt::StringLiterals;
 using demo::DemoHome;
-using demo::Visitor;
+using demo::DemoUser;
 using testing::IsSupersetOf;
 using testing::SizeIs;
 
@@ -114,7 +114,7 @@ TEST_F(DemoHomeTest, OfANewcomerHasACatalogAndNothingElseRemembered) {
 
 TEST_F(DemoHomeTest, OfAnOldHandHasAPrefixAndAHistoryOfAllKinds) {
   const DemoHome other{home().folder + u" 2"_s};
-  ASSERT_TRUE(other.write(Visitor::regular));
+  ASSERT_TRUE(other.write(DemoUser::regular));
   const auto store = storeOf(other);
   EXPECT_TRUE(store->hasCompletedOnboarding());
   EXPECT_EQ(store->selectedHomebrewPrefixPath(), other.prefix());
@@ -130,14 +130,14 @@ TEST_F(DemoHomeTest, OfAnOldHandHasAPrefixAndAHistoryOfAllKinds) {
 }
 
 TEST_F(DemoHomeTest, RefusesAFolderThatHoldsSomething) {
-  const auto written = home().write(Visitor::newcomer);
+  const auto written = home().write(DemoUser::newcomer);
   ASSERT_FALSE(written);
   EXPECT_EQ(written.error(), home().folder + u": the folder is not empty"_s);
 }
 
 TEST_F(DemoHomeTest, SaysWhereItCannotWrite) {
   const DemoHome other{inPrefix(u"var/pace"_s)};
-  const auto written = other.write(Visitor::newcomer);
+  const auto written = other.write(DemoUser::newcomer);
   ASSERT_FALSE(written);
   EXPECT_TRUE(written.error().startsWith(other.prefix())) << written.error().toStdString();
 }

@@ -30,7 +30,7 @@ class DemoWorld : public testing::Test {
  protected:
   void SetUp() override {
     ASSERT_TRUE(folder_.isValid());
-    const auto written = home().write(demo::Visitor::newcomer);
+    const auto written = home().write(demo::DemoUser::newcomer);
     ASSERT_TRUE(written) << written.error().toStdString();
     setPace(0);
   }

@@ -12,7 +12,7 @@ RowLayout {
     spacing: Theme.small
 
     // The keyboard begins here.
-    function begin(): void {
+    function takeFocus(): void {
         first.focus = true;
     }
 
@@ -24,33 +24,33 @@ RowLayout {
         onClicked: root.viewModel.fetchAll()
     }
 
-    PlainButton {
+    ActionButton {
         text: "Fetch Formulae"
 
         onClicked: root.viewModel.fetchFormulae()
     }
 
-    PlainButton {
+    ActionButton {
         text: "Fetch Casks"
 
         onClicked: root.viewModel.fetchCasks()
     }
 
-    PlainButton {
+    ActionButton {
         enabled: root.viewModel.hasCachedCatalog
         text: "Load Cached All"
 
         onClicked: root.viewModel.loadCachedAll()
     }
 
-    PlainButton {
+    ActionButton {
         enabled: root.viewModel.hasCachedFormulae
         text: "Load Cached Formulae"
 
         onClicked: root.viewModel.loadCachedFormulae()
     }
 
-    PlainButton {
+    ActionButton {
         enabled: root.viewModel.hasCachedCasks
         text: "Load Cached Casks"
 

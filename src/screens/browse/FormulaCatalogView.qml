@@ -13,15 +13,15 @@ FocusScope {
     required property FormulaCatalogViewModel viewModel
 
     // Read once, so that all bindings switch together and the keyboard's focus is kept.
-    readonly property int phase: viewModel.state
-    readonly property bool listed: phase === FormulaCatalogViewModel.Listed
-    readonly property bool loading: phase === FormulaCatalogViewModel.Loading
-    readonly property bool searchable: phase >= FormulaCatalogViewModel.Filtering
-    readonly property bool waiting: loading || phase === FormulaCatalogViewModel.Filtering
+    readonly property int screenState: viewModel.state
+    readonly property bool listed: screenState === FormulaCatalogViewModel.Listed
+    readonly property bool loading: screenState === FormulaCatalogViewModel.Loading
+    readonly property bool searchable: screenState >= FormulaCatalogViewModel.Filtering
+    readonly property bool waiting: loading || screenState === FormulaCatalogViewModel.Filtering
     readonly property bool compact: column.width < actions.implicitWidth
 
     // A catalog has to come from somewhere before there is a list.
-    Component.onCompleted: if (!searchable && !compact) actions.begin()
+    Component.onCompleted: if (!searchable && !compact) actions.takeFocus()
 
     ColumnLayout {
         id: column
@@ -59,7 +59,7 @@ FocusScope {
             placeholder: "Search formulae and casks"
             search: root.viewModel.search
 
-            onLeftDownwards: area.enter()
+            onDownPressed: area.takeFocus()
         }
 
         PackageListArea {
@@ -96,22 +96,22 @@ FocusScope {
                     onClicked: root.viewModel.fetchAll()
                 }
 
-                PlainButton {
+                ActionButton {
                     text: "Load Cached All"
                     visible: root.compact && !root.searchable && root.viewModel.hasCachedCatalog
 
                     onClicked: root.viewModel.loadCachedAll()
                 }
 
-                PlainButton {
+                ActionButton {
                     enabled: root.viewModel.search.searchText.length > 0
                     focus: visible
                     text: "Clear Search"
-                    visible: root.phase === FormulaCatalogViewModel.NoMatch
+                    visible: root.screenState === FormulaCatalogViewModel.NoMatch
 
                     onClicked: {
                         root.viewModel.search.clear();
-                        searchBar.edit();
+                        searchBar.takeFocus();
                     }
                 }
             }
@@ -124,7 +124,7 @@ FocusScope {
                 title: root.viewModel.title
                 visible: root.waiting
 
-                PlainButton {
+                ActionButton {
                     focus: visible
                     text: "Cancel"
                     visible: root.loading
@@ -135,13 +135,13 @@ FocusScope {
         }
     }
 
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 
     Connections {
         function onAnnounced(text: string): void {
-            announcement.say(text);
+            announcer.announce(text);
         }
 
         target: root.viewModel

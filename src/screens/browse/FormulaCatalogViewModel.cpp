@@ -16,7 +16,7 @@ namespace quillmere {
 namespace {
 
 /// What is answered within it feels immediate.
-constexpr std::chrono::milliseconds feltWait{100};
+constexpr std::chrono::milliseconds filteringDelay{100};
 
 QString freshnessLabel() {
   return QStringLiteral("Catalog");
@@ -27,9 +27,9 @@ QString freshnessLabel() {
 FormulaCatalogViewModel::FormulaCatalogViewModel(Clock clock, QObject* parent)
     : QObject(parent), clock_(std::move(clock)) {
   connect(&search_, &PackageSearch::changed, this, [this] { filter(); });
-  waitIsFelt_.setSingleShot(true);
-  waitIsFelt_.setInterval(feltWait);
-  connect(&waitIsFelt_, &QTimer::timeout, this, &FormulaCatalogViewModel::showResults);
+  filteringDelay_.setSingleShot(true);
+  filteringDelay_.setInterval(filteringDelay);
+  connect(&filteringDelay_, &QTimer::timeout, this, &FormulaCatalogViewModel::showResults);
 }
 
 auto FormulaCatalogViewModel::state() const -> State {
@@ -185,23 +185,23 @@ void FormulaCatalogViewModel::setResults(std::optional<FilteredPackageResults> r
   isFiltering_ = isFiltering;
   Q_EMIT resultsChanged();
   if (isFiltering_) {
-    spoken_.expectNews();
+    spoken_.reset();
   }
   // Nearly every answer is there before the next frame: a list that went and came back would only
   // flicker.
   if (!isFiltering_ || !shownResults_) {
     showResults();
-  } else if (!waitIsFelt_.isActive()) {
-    waitIsFelt_.start();
+  } else if (!filteringDelay_.isActive()) {
+    filteringDelay_.start();
   }
 }
 
 void FormulaCatalogViewModel::showResults() {
-  waitIsFelt_.stop();
+  filteringDelay_.stop();
   shownResults_ = filteredResults_;
   showsFiltering_ = isFiltering_;
-  packages_.show(catalog_,
-                 shownResults_ ? shownResults_->visiblePackages : std::vector<std::size_t>());
+  packages_.setPackages(
+      catalog_, shownResults_ ? shownResults_->visiblePackages : std::vector<std::size_t>());
   Q_EMIT stateChanged();
   announce();
 }
@@ -224,7 +224,7 @@ QString FormulaCatalogViewModel::spokenState() const {
 
 void FormulaCatalogViewModel::announce() {
   const QString spoken = spokenState();
-  if (spoken_.isNews(spoken)) {
+  if (spoken_.accept(spoken)) {
     Q_EMIT announced(spoken);
   }
 }

@@ -12,7 +12,7 @@
 #include "catalog/CatalogScope.h"
 #include "screens/browse/CatalogInputs.h"
 #include "screens/browse/PackageListModel.h"
-#include "screens/components/SpokenOnce.h"
+#include "screens/components/AnnouncementFilter.h"
 #include "screens/shared/PackageSearch.h"
 
 namespace quillmere {
@@ -104,28 +104,28 @@ class FormulaCatalogViewModel : public QObject {
   [[nodiscard]] PackageListModel* packages() { return &packages_; }
 
   // What the buttons do.
-  Q_INVOKABLE void fetchAll() { Q_EMIT fetchWanted(CatalogScope::all); }
+  Q_INVOKABLE void fetchAll() { Q_EMIT fetchRequested(CatalogScope::all); }
 
-  Q_INVOKABLE void fetchFormulae() { Q_EMIT fetchWanted(CatalogScope::formulae); }
+  Q_INVOKABLE void fetchFormulae() { Q_EMIT fetchRequested(CatalogScope::formulae); }
 
-  Q_INVOKABLE void fetchCasks() { Q_EMIT fetchWanted(CatalogScope::casks); }
+  Q_INVOKABLE void fetchCasks() { Q_EMIT fetchRequested(CatalogScope::casks); }
 
-  Q_INVOKABLE void loadCachedAll() { Q_EMIT loadCachedWanted(CatalogScope::all); }
+  Q_INVOKABLE void loadCachedAll() { Q_EMIT loadCachedRequested(CatalogScope::all); }
 
-  Q_INVOKABLE void loadCachedFormulae() { Q_EMIT loadCachedWanted(CatalogScope::formulae); }
+  Q_INVOKABLE void loadCachedFormulae() { Q_EMIT loadCachedRequested(CatalogScope::formulae); }
 
-  Q_INVOKABLE void loadCachedCasks() { Q_EMIT loadCachedWanted(CatalogScope::casks); }
+  Q_INVOKABLE void loadCachedCasks() { Q_EMIT loadCachedRequested(CatalogScope::casks); }
 
-  Q_INVOKABLE void cancelFetch() { Q_EMIT cancelFetchWanted(); }
+  Q_INVOKABLE void cancelFetch() { Q_EMIT cancelFetchRequested(); }
 
   /// Opens the package in this row of the list; does nothing for a row that is none.
   Q_INVOKABLE void open(int row);
 
  Q_SIGNALS:
   // What the user wants of the main window.
-  void fetchWanted(quillmere::CatalogScope scope);
-  void loadCachedWanted(quillmere::CatalogScope scope);
-  void cancelFetchWanted();
+  void fetchRequested(quillmere::CatalogScope scope);
+  void loadCachedRequested(quillmere::CatalogScope scope);
+  void cancelFetchRequested();
   void packageChosen(const quillmere::HomebrewPackageSummary& package);
 
   /// What `state` and all that goes with it say has changed.
@@ -150,9 +150,9 @@ class FormulaCatalogViewModel : public QObject {
   /// What is in view: the answer before stays until the next is there or the wait is felt.
   std::optional<FilteredPackageResults> shownResults_;
   bool showsFiltering_ = false;
-  QTimer waitIsFelt_;
+  QTimer filteringDelay_;
   PackageListModel packages_;
-  SpokenOnce spoken_;
+  AnnouncementFilter spoken_;
   bool isFiltering_ = false;
   /// Counts the questions, so that only the answer to the last one is shown.
   int question_ = 0;

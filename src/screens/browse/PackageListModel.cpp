@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "screens/shared/OptionalTexts.h"
+#include "screens/shared/OptionalText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +17,7 @@ QString accessibleLabel(const HomebrewPackageSummary& package) {
   return label;
 }
 
-void PackageListModel::show(PackageCatalogPtr catalog, std::vector<std::size_t> places) {
+void PackageListModel::setPackages(PackageCatalogPtr catalog, std::vector<std::size_t> places) {
   if (catalog_ == catalog && places_ == places) {
     return;
   }
@@ -47,9 +47,9 @@ QVariant PackageListModel::data(const QModelIndex& index, int role) const {
     case KindRole:
       return QString(displayLabel(package.kind));
     case VersionRole:
-      return textOrNothing(package.version);
+      return textOrEmpty(package.version);
     case DescriptionRole:
-      return textOrNothing(package.description);
+      return textOrEmpty(package.description);
     case AccessibleLabelRole:
       return accessibleLabel(package);
     default:

@@ -3,13 +3,13 @@
 #include <vector>
 
 #include "catalog/PackageCatalog.h"
-#include "screens/components/ReplacedRowsModel.h"
+#include "screens/components/ReplaceableListModel.h"
 
 namespace quillmere {
 
 /// Rows of the catalog, as places in the shared snapshot: their texts are made when a row comes
 /// into view. Owned by `FormulaCatalogViewModel`; UI thread only.
-class PackageListModel : public quillmere::ReplacedRowsModel {
+class PackageListModel : public quillmere::ReplaceableListModel {
   Q_OBJECT
   QML_ANONYMOUS
 
@@ -22,10 +22,10 @@ class PackageListModel : public quillmere::ReplacedRowsModel {
     AccessibleLabelRole,
   };
 
-  using ReplacedRowsModel::ReplacedRowsModel;
+  using ReplaceableListModel::ReplaceableListModel;
 
   /// Shows the packages at these places of `catalog`, which may be null only where there are none.
-  void show(PackageCatalogPtr catalog, std::vector<std::size_t> places);
+  void setPackages(PackageCatalogPtr catalog, std::vector<std::size_t> places);
 
   /// The package in this row, which there must be.
   [[nodiscard]] const HomebrewPackageSummary& package(int row) const;

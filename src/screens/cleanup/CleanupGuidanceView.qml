@@ -15,8 +15,8 @@ FocusScope {
     Component.onCompleted: viewModel.appear()
     Component.onDestruction: if (viewModel) viewModel.disappear()
 
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 
     FocusScope {
@@ -24,7 +24,7 @@ FocusScope {
         focus: !root.loaded
         visible: !root.loaded
 
-        CleanupState {
+        CleanupStateMessage {
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.large, Theme.sheetWidth)
             viewModel: root.viewModel
@@ -48,7 +48,7 @@ FocusScope {
 
     Connections {
         function onAnnounced(text: string): void {
-            announcement.say(text);
+            announcer.announce(text);
         }
 
         target: root.viewModel

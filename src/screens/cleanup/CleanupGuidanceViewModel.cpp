@@ -10,6 +10,7 @@
 #include "guidance/FreshnessIndicator.h"
 #include "platform/BackgroundThreads.h"
 #include "platform/ByteTexts.h"
+#include "platform/Plural.h"
 
 using namespace Qt::StringLiterals;
 
@@ -55,21 +56,21 @@ struct ExplanationOf {
 
 }  // namespace
 
-CleanupGuidanceViewModel::CleanupGuidanceViewModel(PreviewRequest previewRequest, Clock clock,
+CleanupGuidanceViewModel::CleanupGuidanceViewModel(PreviewCallback previewCallback, Clock clock,
                                                    CacheMeasure measure, QObject* parent)
     : LocalInventoryViewModel(std::move(clock), parent),
-      previewRequest_(std::move(previewRequest)),
+      previewCallback_(std::move(previewCallback)),
       measure_(std::move(measure)) {
 }
 
-void CleanupGuidanceViewModel::follow(const LocalInventoryInputs& before) {
-  const bool otherPackages = !(inputs().state == before.state);
-  const bool otherPrefix = inputs().selectedPrefixURL != before.selectedPrefixURL;
+void CleanupGuidanceViewModel::applyInputs(const LocalInventoryInputs& previous) {
+  const bool otherPackages = !(inputs().state == previous.state);
+  const bool otherPrefix = inputs().selectedPrefixURL != previous.selectedPrefixURL;
   if (otherPackages) {
     const auto* const packages = inputs().state.packages();
-    oldVersions_.show(packages != nullptr
-                          ? oldVersionPackages(*packages)
-                          : std::vector<CleanupGuidanceSummary::OldVersionPackage>());
+    oldVersions_.setPackages(packages != nullptr
+                                 ? oldVersionPackages(*packages)
+                                 : std::vector<CleanupGuidanceSummary::OldVersionPackage>());
   }
   if (otherPrefix) {
     setCacheState(std::nullopt);
@@ -134,8 +135,8 @@ QString CleanupGuidanceViewModel::oldVersionsText() const {
     return u"No old formula or cask versions were detected in the latest read-only scan."_s;
   }
   return "Detected "_L1 +
-         counted(quillmere::oldVersionCount(packages), u"older installed version"_s) +
-         " across "_L1 + counted(static_cast<qsizetype>(packages.size()), u"package"_s) + u'.';
+         pluralized(quillmere::oldVersionCount(packages), u"older installed version"_s) +
+         " across "_L1 + pluralized(static_cast<qsizetype>(packages.size()), u"package"_s) + u'.';
 }
 
 int CleanupGuidanceViewModel::oldVersionCount() const {
@@ -185,7 +186,7 @@ void CleanupGuidanceViewModel::disappear() {
 }
 
 void CleanupGuidanceViewModel::previewCleanup() {
-  previewRequest_(BrewCommandBuilder().cleanup(), u"Cleanup"_s);
+  previewCallback_(BrewCommandBuilder().cleanup(), u"Cleanup"_s);
 }
 
 QCoro::Task<> CleanupGuidanceViewModel::measureCache(std::optional<QUrl> prefixURL) {

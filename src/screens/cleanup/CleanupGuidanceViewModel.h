@@ -9,7 +9,7 @@
 #include "guidance/CleanupGuidance.h"
 #include "screens/cleanup/OldVersionListModel.h"
 #include "screens/shared/LocalInventoryViewModel.h"
-#include "screens/shared/PreviewRequest.h"
+#include "screens/shared/PreviewCallback.h"
 
 namespace quillmere {
 
@@ -37,7 +37,7 @@ class CleanupGuidanceViewModel : public quillmere::LocalInventoryViewModel {
   using CacheMeasure = std::function<CacheState(const std::optional<QUrl>& prefixURL)>;
 
   /// `measure` is called on another thread.
-  explicit CleanupGuidanceViewModel(PreviewRequest previewRequest,
+  explicit CleanupGuidanceViewModel(PreviewCallback previewCallback,
                                     Clock clock = &QDateTime::currentDateTimeUtc,
                                     CacheMeasure measure = &cleanupCacheState,
                                     QObject* parent = nullptr);
@@ -78,12 +78,12 @@ class CleanupGuidanceViewModel : public quillmere::LocalInventoryViewModel {
   void cacheChanged();
 
  private:
-  void follow(const LocalInventoryInputs& before) override;
+  void applyInputs(const LocalInventoryInputs& previous) override;
   [[nodiscard]] QString spokenResult() const override;
   QCoro::Task<> measureCache(std::optional<QUrl> prefixURL);
   void setCacheState(std::optional<CacheState> state);
 
-  PreviewRequest previewRequest_;
+  PreviewCallback previewCallback_;
   CacheMeasure measure_;
   OldVersionListModel oldVersions_;
   std::optional<CacheState> cacheState_;

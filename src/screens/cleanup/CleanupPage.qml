@@ -13,15 +13,15 @@ ScreenPage {
         Layout.fillWidth: true
         freshness: root.viewModel.inventoryFreshnessText
         subtitle: "Quillmere Direct can prepare `brew cleanup` and run it only after stronger confirmation. Review cleanup carefully because Homebrew may delete cache files and old versions."
-        notice: root.viewModel.overtakenText
+        warning: root.viewModel.rescanWarning
         symbolName: "sparkles"
         title: "Cleanup Guidance"
 
-        PlainButton {
+        ActionButton {
             focus: true
             text: "Scan Again"
 
-            onClicked: root.viewModel.scanWanted()
+            onClicked: root.viewModel.scanRequested()
         }
     }
 

@@ -32,7 +32,7 @@ QString accessibleLabel(const OldVersionPackage& package) {
 
 }  // namespace
 
-void OldVersionListModel::show(std::vector<OldVersionPackage> packages) {
+void OldVersionListModel::setPackages(std::vector<OldVersionPackage> packages) {
   beginResetModel();
   packages_ = std::move(packages);
   endResetModel();

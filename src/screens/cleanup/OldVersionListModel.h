@@ -20,7 +20,7 @@ class OldVersionListModel : public QAbstractListModel {
 
   using QAbstractListModel::QAbstractListModel;
 
-  void show(std::vector<CleanupGuidanceSummary::OldVersionPackage> packages);
+  void setPackages(std::vector<CleanupGuidanceSummary::OldVersionPackage> packages);
 
   [[nodiscard]] const std::vector<CleanupGuidanceSummary::OldVersionPackage>& packages() const {
     return packages_;

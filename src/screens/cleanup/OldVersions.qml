@@ -23,7 +23,7 @@ SectionBlock {
         text: root.viewModel.oldVersionsText
     }
 
-    ShareBar {
+    ProportionBar {
         Layout.fillWidth: true
         first: root.viewModel.oldVersionCount
         firstTint: "orange"

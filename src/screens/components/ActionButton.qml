@@ -9,7 +9,7 @@ T.Button {
     property string symbolName: ""
     property string accessibleName: text
     property string help: ""
-    property color ink: Theme.text
+    property color textColor: Theme.text
     property color fill: Theme.card
     property color outline: Theme.controlBorder
 
@@ -56,7 +56,7 @@ T.Button {
     }
 
     contentItem: ButtonLabel {
-        ink: root.ink
+        textColor: root.textColor
         symbolName: root.symbolName
         text: root.text
     }

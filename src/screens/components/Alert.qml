@@ -16,7 +16,7 @@ Sheet {
     sheetWidth: Theme.alertWidth
 
     // The keyboard starts on the cancel button each time.
-    onAboutToShow: (contentItem as AlertContent).begin()
+    onAboutToShow: (contentItem as AlertContent).takeFocus()
     onRejected: cancelled()
     onAccepted: confirmed()
 

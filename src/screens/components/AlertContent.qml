@@ -16,7 +16,7 @@ ColumnLayout {
 
     spacing: Theme.medium
 
-    function begin(): void {
+    function takeFocus(): void {
         cancelButton.focus = true;
     }
 
@@ -40,7 +40,7 @@ ColumnLayout {
             Layout.fillWidth: true
         }
 
-        PlainButton {
+        ActionButton {
             id: cancelButton
 
             focus: true

@@ -5,7 +5,7 @@ Symbol {
     id: root
 
     RotationAnimation on rotation {
-        duration: Theme.turnTime
+        duration: Theme.turnDuration
         from: 0
         loops: Animation.Infinite
         running: root.visible

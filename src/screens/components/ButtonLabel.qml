@@ -6,7 +6,7 @@ Item {
 
     required property string text
     required property string symbolName
-    required property color ink
+    required property color textColor
 
     readonly property real symbolWidth: symbolName.length > 0 ? symbol.width + row.spacing : 0
 
@@ -24,7 +24,7 @@ Item {
 
             name: root.symbolName
             anchors.verticalCenter: parent.verticalCenter
-            color: root.ink
+            color: root.textColor
             size: Theme.symbolSize - Theme.tiny / 2
             visible: root.symbolName.length > 0
         }
@@ -33,7 +33,7 @@ Item {
             id: label
 
             anchors.verticalCenter: parent.verticalCenter
-            color: root.ink
+            color: root.textColor
             elide: Text.ElideRight
             font.weight: Font.Medium
             text: root.text

@@ -22,7 +22,7 @@ Rectangle {
         anchors.fill: parent
         anchors.margins: Theme.medium
         font.family: Theme.monospacedFamily
-        spokenText: root.accessibleName
+        accessibleName: root.accessibleName
         text: root.text
         wrapMode: TextEdit.WrapAnywhere
     }

@@ -5,6 +5,6 @@ ActionButton {
     property bool prominent: false
 
     fill: prominent ? Theme.red : Theme.card
-    ink: prominent ? Theme.dangerText : Theme.red
+    textColor: prominent ? Theme.dangerText : Theme.red
     outline: prominent ? Theme.red : Theme.controlBorder
 }

@@ -4,12 +4,12 @@ import QtQuick
 Rectangle {
     required property bool shown
 
-    property int corner: Theme.smallRadius
+    property int cornerRadius: Theme.smallRadius
 
     anchors.fill: parent
     anchors.margins: -Theme.focusWidth - Theme.borderWidth
     color: "transparent"
-    radius: corner + Theme.focusWidth + Theme.borderWidth
+    radius: cornerRadius + Theme.focusWidth + Theme.borderWidth
     visible: shown
 
     border.color: Theme.accent

@@ -25,7 +25,7 @@ T.ItemDelegate {
 
         FocusRing {
             anchors.margins: 0
-            corner: Theme.smallRadius - Theme.focusWidth - Theme.borderWidth
+            cornerRadius: Theme.smallRadius - Theme.focusWidth - Theme.borderWidth
             shown: root.visualFocus
         }
     }

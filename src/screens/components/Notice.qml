@@ -1,6 +1,6 @@
 import QtQuick
 
-// Says for a moment that something was done. An `Announcement` speaks it.
+// Says for a moment that something was done. An `Announcer` speaks it.
 Pill {
     id: root
 
@@ -18,6 +18,6 @@ Pill {
     Timer {
         id: gone
 
-        interval: Theme.noticeTime
+        interval: Theme.noticeDuration
     }
 }

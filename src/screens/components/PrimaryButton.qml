@@ -3,6 +3,6 @@ import QtQuick
 // The one action that a place is there for.
 ActionButton {
     fill: Theme.accent
-    ink: Theme.accentText
+    textColor: Theme.accentText
     outline: Theme.accent
 }

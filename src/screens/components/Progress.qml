@@ -15,19 +15,19 @@ ColumnLayout {
     property real fraction: -1
     default property alias actions: actionRow.data
 
-    property bool noticeable: false
-    readonly property bool measured: fraction >= 0
+    property bool delayElapsed: false
+    readonly property bool determinate: fraction >= 0
 
-    opacity: noticeable ? 1 : 0
+    opacity: delayElapsed ? 1 : 0
     spacing: Theme.small
 
-    onVisibleChanged: if (!root.visible) root.noticeable = false
+    onVisibleChanged: if (!root.visible) root.delayElapsed = false
 
     Timer {
-        interval: Theme.patience
-        running: root.visible && !root.noticeable
+        interval: Theme.progressDelay
+        running: root.visible && !root.delayElapsed
 
-        onTriggered: root.noticeable = true
+        onTriggered: root.delayElapsed = true
     }
 
     BodyText {
@@ -41,8 +41,8 @@ ColumnLayout {
 
         Layout.fillWidth: true
         implicitHeight: Theme.tiny
-        indeterminate: !root.measured
-        value: root.measured ? Math.min(1, root.fraction) : 0
+        indeterminate: !root.determinate
+        value: root.determinate ? Math.min(1, root.fraction) : 0
 
         Accessible.role: Accessible.ProgressBar
         Accessible.name: root.title
@@ -57,8 +57,8 @@ ColumnLayout {
             clip: true
 
             Rectangle {
-                x: root.measured ? 0 : (parent.width + width) * sweep.at - width
-                width: root.measured ? parent.width * bar.position : parent.width / 4
+                x: root.determinate ? 0 : (parent.width + width) * sweep.at - width
+                width: root.determinate ? parent.width * bar.position : parent.width / 4
                 height: parent.height
                 color: Theme.accent
                 radius: height / 2
@@ -74,9 +74,9 @@ ColumnLayout {
             property: "at"
             from: 0
             to: 1
-            duration: Theme.turnTime
+            duration: Theme.turnDuration
             loops: Animation.Infinite
-            running: root.visible && !root.measured
+            running: root.visible && !root.determinate
         }
     }
 

@@ -11,7 +11,7 @@ RowLayout {
     property string subtitle: ""
     property string freshness: ""
     // What to think of before what is shown is believed.
-    property string notice: ""
+    property string warning: ""
     default property alias actions: actionRow.data
 
     spacing: Theme.medium
@@ -55,7 +55,7 @@ RowLayout {
 
         Pill {
             symbolName: "exclamationmark.triangle"
-            text: root.notice
+            text: root.warning
             tint: "orange"
             visible: text.length > 0
         }

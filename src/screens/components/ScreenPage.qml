@@ -16,7 +16,7 @@ FocusScope {
     implicitHeight: flickable.contentHeight
 
     function announce(text: string): void {
-        announcement.say(text);
+        announcer.announce(text);
     }
 
     function revealFocus(): void {
@@ -27,9 +27,9 @@ FocusScope {
 
     function reveal(item: Item): void {
         const top = item.mapToItem(column, 0, 0).y;
-        const wanted = Math.min(top - root.margin, Math.max(
+        const needed = Math.min(top - root.margin, Math.max(
             flickable.contentY, top + item.height + 3 * root.margin - flickable.height));
-        wheel.scrollBy(wanted - flickable.contentY);
+        wheel.scrollBy(needed - flickable.contentY);
     }
 
     Flickable {
@@ -40,7 +40,7 @@ FocusScope {
         clip: true
         contentHeight: column.implicitHeight + 2 * root.margin
         contentWidth: width
-        interactive: wheel.touched
+        interactive: wheel.dragEnabled
 
         ScrollBar.vertical: SlimScrollBar {
         }
@@ -83,8 +83,8 @@ FocusScope {
     }
 
     // Last, so that what it says is not read before the screen.
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 
     Connections {

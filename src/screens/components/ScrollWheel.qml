@@ -1,13 +1,13 @@
 import QtQuick
 
 // Scrolls as desktops do: the wheel moves the content, a mouse does not drag it. A finger still
-// may, so the owner binds its `interactive` to `touched`.
+// may, so the owner binds its `interactive` to `dragEnabled`.
 Item {
     id: root
 
     required property Flickable flickable
 
-    readonly property bool touched: !hover.hovered
+    readonly property bool dragEnabled: !hover.hovered
     readonly property real end: Math.max(flickable.originY, flickable.originY
                                          + flickable.contentHeight + flickable.bottomMargin
                                          - flickable.height)

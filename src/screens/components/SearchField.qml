@@ -17,8 +17,8 @@ FocusScope {
     property bool editing: false
 
     signal committed(string text)
-    // What was found is wanted, which lies below.
-    signal leftDownwards
+    // What was found is needed, which lies below.
+    signal downPressed
 
     implicitWidth: 2 * Theme.sidebarWidth
     implicitHeight: Math.max(Theme.huge, 2 * Theme.bodySize + Theme.tiny)
@@ -42,7 +42,7 @@ FocusScope {
     }
 
     // For the shortcut that leads here: the next letter begins a new search.
-    function edit(): void {
+    function takeFocus(): void {
         field.forceActiveFocus(Qt.ShortcutFocusReason);
         field.selectAll();
     }
@@ -85,7 +85,7 @@ FocusScope {
 
         Keys.onReturnPressed: root.commit()
         Keys.onEnterPressed: root.commit()
-        Keys.onDownPressed: root.leftDownwards()
+        Keys.onDownPressed: root.downPressed()
 
         onActiveFocusChanged: if (!activeFocus) root.editing = false
         onTextEdited: root.editing = true
@@ -124,7 +124,7 @@ FocusScope {
         }
     }
 
-    PlainButton {
+    ActionButton {
         id: button
 
         anchors.right: parent.right

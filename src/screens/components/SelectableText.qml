@@ -5,7 +5,7 @@ import Quillmere.Components
 TextEdit {
     id: root
 
-    property string spokenText: text
+    property string accessibleName: text
 
     activeFocusOnTab: true
     color: Theme.text
@@ -18,11 +18,11 @@ TextEdit {
     wrapMode: TextEdit.Wrap
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: spokenText
+    Accessible.name: accessibleName
 
     onActiveFocusChanged: if (!activeFocus) deselect()
 
-    ShortcutPassage {
+    ShortcutPassthrough {
         target: root
     }
 

@@ -38,7 +38,7 @@ T.Dialog {
             property: "opacity"
             from: 0
             to: 1
-            duration: Theme.motion
+            duration: Theme.animationDuration
         }
     }
 }

@@ -24,7 +24,7 @@ FocusScope {
     implicitHeight: column.implicitHeight
 
     function announce(text: string): void {
-        announcement.say(text);
+        announcer.announce(text);
     }
 
     ColumnLayout {
@@ -115,7 +115,7 @@ FocusScope {
     }
 
     // Last, so that what it says is not read before the sheet.
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 }

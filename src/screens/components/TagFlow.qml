@@ -37,18 +37,18 @@ FocusScope {
 
     Keys.onPressed: event => {
         event.accepted = clickable && event.modifiers === Qt.NoModifier
-                         && go(grid.currentIndex + step(event.key));
+                         && setCurrent(grid.currentIndex + offsetForKey(event.key));
     }
 
     // How far a key goes; nothing for a key that does not.
-    function step(key: int): int {
+    function offsetForKey(key: int): int {
         return key === Qt.Key_Left ? -1 : key === Qt.Key_Right ? 1
              : key === Qt.Key_Up ? -columns : key === Qt.Key_Down ? columns
              : key === Qt.Key_Home ? -grid.currentIndex
              : key === Qt.Key_End ? items.length - 1 - grid.currentIndex : 0;
     }
 
-    function go(index: int): bool {
+    function setCurrent(index: int): bool {
         if (index === grid.currentIndex || index < 0 || index >= items.length)
             return false;
         grid.currentIndex = index;

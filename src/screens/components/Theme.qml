@@ -79,15 +79,15 @@ QtObject {
     readonly property int outputHeight: 800
     readonly property int alertWidth: 400
 
-    readonly property int motion: 120
+    readonly property int animationDuration: 120
     // How long a word such as "Copied" stands.
-    readonly property int noticeTime: 2500
+    readonly property int noticeDuration: 2500
     // After so long without a letter, somebody who types has typed.
-    readonly property int typingRest: 600
+    readonly property int typingPause: 600
     // How long a wait may last before it is worth a word.
-    readonly property int patience: 150
+    readonly property int progressDelay: 150
     // One turn of a symbol that shows that something goes on.
-    readonly property int turnTime: 2400
+    readonly property int turnDuration: 2400
     readonly property real disabledOpacity: 0.45
 
     // The colour of a status, a risk or a kind; the neutral one for a name that is no tint.

@@ -30,7 +30,7 @@ RowLayout {
         activeFocusOnTab: root.copyable
         color: root.copyable ? Theme.text : Theme.secondaryText
         font.family: root.family
-        spokenText: root.label + ": " + root.value
+        accessibleName: root.label + ": " + root.value
         text: root.value
     }
 

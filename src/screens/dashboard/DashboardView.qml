@@ -26,8 +26,8 @@ ScreenPage {
 
         DashboardCard {
             detail: root.viewModel.catalogDetail
-            parts: root.viewModel.hasCatalogAge ? root.viewModel.catalogDays : 0
-            partsLeft: root.viewModel.catalogDaysLeft
+            parts: root.viewModel.hasCatalogAge ? root.viewModel.catalogGaugeParts : 0
+            partsLeft: root.viewModel.catalogGaugePartsLeft
             symbolName: "books.vertical"
             tint: root.viewModel.catalogTint
             title: "Catalog"
@@ -36,8 +36,8 @@ ScreenPage {
 
         DashboardCard {
             detail: root.viewModel.inventoryDetail
-            parts: root.viewModel.hasInventoryAge ? root.viewModel.inventorySpans : 0
-            partsLeft: root.viewModel.inventorySpansLeft
+            parts: root.viewModel.hasInventoryAge ? root.viewModel.inventoryGaugeParts : 0
+            partsLeft: root.viewModel.inventoryGaugePartsLeft
             symbolName: "externaldrive"
             tint: root.viewModel.inventoryTint
             title: "Local Homebrew"

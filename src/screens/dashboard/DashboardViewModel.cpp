@@ -36,11 +36,11 @@ struct FreshTime {
 };
 
 FreshTime ofCatalog(const QDateTime& date) {
-  return {date, catalogStaleDate(date), DashboardViewModel::catalogDays};
+  return {date, catalogStaleDate(date), DashboardViewModel::catalogGaugeParts};
 }
 
 FreshTime ofInventory(const QDateTime& date) {
-  return {date, inventoryStaleDate(date), DashboardViewModel::inventorySpans};
+  return {date, inventoryStaleDate(date), DashboardViewModel::inventoryGaugeParts};
 }
 
 QString tint(const FreshnessIndicator& freshness) {
@@ -110,10 +110,10 @@ void DashboardViewModel::refresh() {
               .inventory = inventoryFreshness(scanned, now),
               .hasPrefix = store_.selectedHomebrewPrefixPath().has_value()};
   if (refreshed) {
-    shown.catalogDaysLeft = ofCatalog(*refreshed).partsLeft(now);
+    shown.catalogGaugePartsLeft = ofCatalog(*refreshed).partsLeft(now);
   }
   if (scanned && shown.hasPrefix) {
-    shown.inventorySpansLeft = ofInventory(*scanned).partsLeft(now);
+    shown.inventoryGaugePartsLeft = ofInventory(*scanned).partsLeft(now);
   }
   if (shown_ != shown) {
     shown_ = std::move(shown);

@@ -27,23 +27,23 @@ class DashboardViewModel : public QObject {
   Q_PROPERTY(QString catalogDetail READ catalogDetail NOTIFY changed)
   Q_PROPERTY(QString catalogTint READ catalogTint NOTIFY changed)
   Q_PROPERTY(bool hasCatalogAge READ hasCatalogAge NOTIFY changed)
-  Q_PROPERTY(int catalogDaysLeft READ catalogDaysLeft NOTIFY changed)
+  Q_PROPERTY(int catalogGaugePartsLeft READ catalogGaugePartsLeft NOTIFY changed)
   Q_PROPERTY(QString inventoryValue READ inventoryValue NOTIFY changed)
   Q_PROPERTY(QString inventoryDetail READ inventoryDetail NOTIFY changed)
   Q_PROPERTY(QString inventoryTint READ inventoryTint NOTIFY changed)
   Q_PROPERTY(bool hasInventoryAge READ hasInventoryAge NOTIFY changed)
-  Q_PROPERTY(int inventorySpansLeft READ inventorySpansLeft NOTIFY changed)
+  Q_PROPERTY(int inventoryGaugePartsLeft READ inventoryGaugePartsLeft NOTIFY changed)
   Q_PROPERTY(QString commandSafetyValue READ commandSafetyValue CONSTANT)
-  Q_PROPERTY(int catalogDays MEMBER catalogDays CONSTANT)
-  Q_PROPERTY(int inventorySpans MEMBER inventorySpans CONSTANT)
+  Q_PROPERTY(int catalogGaugeParts MEMBER catalogGaugeParts CONSTANT)
+  Q_PROPERTY(int inventoryGaugeParts MEMBER inventoryGaugeParts CONSTANT)
 
  public:
   using Clock = std::function<QDateTime()>;
 
   /// Into how many parts the picture divides the time in which data is fresh: a day each for the
   /// catalog, three hours each for the inventory.
-  static constexpr int catalogDays = catalogFreshDays;
-  static constexpr int inventorySpans = 8;
+  static constexpr int catalogGaugeParts = catalogFreshDays;
+  static constexpr int inventoryGaugeParts = 8;
 
   DashboardViewModel(LocalPersistenceStore& store, const AppCapabilities& appCapabilities,
                      Clock clock = &QDateTime::currentDateTimeUtc, QObject* parent = nullptr);
@@ -52,35 +52,39 @@ class DashboardViewModel : public QObject {
   [[nodiscard]] QString catalogDetail() const;
   [[nodiscard]] QString catalogTint() const;
 
-  [[nodiscard]] bool hasCatalogAge() const { return shown_.catalogDaysLeft.has_value(); }
+  [[nodiscard]] bool hasCatalogAge() const { return shown_.catalogGaugePartsLeft.has_value(); }
 
   /// How many parts of the time in which it is fresh the catalog has before it.
-  [[nodiscard]] int catalogDaysLeft() const { return shown_.catalogDaysLeft.value_or(0); }
+  [[nodiscard]] int catalogGaugePartsLeft() const {
+    return shown_.catalogGaugePartsLeft.value_or(0);
+  }
 
   [[nodiscard]] QString inventoryValue() const;
   [[nodiscard]] QString inventoryDetail() const;
   [[nodiscard]] QString inventoryTint() const;
 
-  [[nodiscard]] bool hasInventoryAge() const { return shown_.inventorySpansLeft.has_value(); }
+  [[nodiscard]] bool hasInventoryAge() const { return shown_.inventoryGaugePartsLeft.has_value(); }
 
-  [[nodiscard]] int inventorySpansLeft() const { return shown_.inventorySpansLeft.value_or(0); }
+  [[nodiscard]] int inventoryGaugePartsLeft() const {
+    return shown_.inventoryGaugePartsLeft.value_or(0);
+  }
 
   [[nodiscard]] QString commandSafetyValue() const;
 
   /// Another screen is wanted: what is installed.
-  Q_INVOKABLE void viewInstalled() { Q_EMIT viewInstalledWanted(); }
+  Q_INVOKABLE void viewInstalled() { Q_EMIT viewInstalledRequested(); }
 
  Q_SIGNALS:
   void changed();
-  void viewInstalledWanted();
+  void viewInstalledRequested();
 
  private:
   struct Shown {
     FreshnessIndicator catalog;
     FreshnessIndicator inventory;
     bool hasPrefix = false;
-    std::optional<int> catalogDaysLeft;
-    std::optional<int> inventorySpansLeft;
+    std::optional<int> catalogGaugePartsLeft;
+    std::optional<int> inventoryGaugePartsLeft;
 
     bool operator==(const Shown&) const = default;
   };

@@ -16,7 +16,7 @@ Card {
 
     padding: Theme.tiny
 
-    function takeKeyboard(): void {
+    function takeFocus(): void {
         list.forceActiveFocus();
     }
 
@@ -31,7 +31,7 @@ Card {
         cacheBuffer: 0
         clip: true
         focus: true
-        interactive: wheel.touched
+        interactive: wheel.dragEnabled
         // Also under the pointer, where nothing may be dragged.
         keyNavigationEnabled: true
         model: root.viewModel.records
@@ -55,7 +55,7 @@ Card {
 
         // Another search begins at its first answer.
         Connections {
-            function onReplaced(): void {
+            function onRowsReplaced(): void {
                 list.currentIndex = 0;
                 list.positionViewAtBeginning();
             }

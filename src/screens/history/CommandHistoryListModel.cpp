@@ -95,7 +95,7 @@ QString accessibleLabel(const CommandHistoryRecord& record) {
 
 CommandHistoryListModel::CommandHistoryListModel(const LocalPersistenceStore& store,
                                                  const QLocale& locale, QObject* parent)
-    : ReplacedRowsModel(parent), store_(store), locale_(locale) {
+    : ReplaceableListModel(parent), store_(store), locale_(locale) {
   if (store_.isHistoryLoaded()) {
     remember(store_.commandHistory());
   }

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "persistence/CommandHistory.h"
-#include "screens/components/ReplacedRowsModel.h"
+#include "screens/components/ReplaceableListModel.h"
 
 namespace quillmere {
 
@@ -18,7 +18,7 @@ class LocalPersistenceStore;
 /// The rows of the history that match the search, in the store's order. Follows the store; owned by
 /// `CommandHistoryViewModel`. Lives on the UI thread; a large history is made ready for its first
 /// search on another one.
-class CommandHistoryListModel : public quillmere::ReplacedRowsModel {
+class CommandHistoryListModel : public quillmere::ReplaceableListModel {
   Q_OBJECT
   QML_ANONYMOUS
 
@@ -47,7 +47,7 @@ class CommandHistoryListModel : public quillmere::ReplacedRowsModel {
   [[nodiscard]] int recordCount() const { return recordCount_; }
 
   /// Whether the rows are those that a search found. Not yet while a large history is made ready.
-  [[nodiscard]] bool isNarrowed() const { return isNarrowed_; }
+  [[nodiscard]] bool isFiltered() const { return isNarrowed_; }
 
   /// Makes the records ready to be searched, before the first letter is typed.
   void prepareSearch();

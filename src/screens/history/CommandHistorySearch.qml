@@ -14,7 +14,7 @@ RowLayout {
 
     spacing: Theme.medium
 
-    function begin(): void {
+    function takeFocus(): void {
         field.forceActiveFocus();
         field.selectAll();
     }
@@ -48,12 +48,12 @@ RowLayout {
     Timer {
         id: rest
 
-        interval: Theme.typingRest
+        interval: Theme.typingPause
 
-        onTriggered: announcement.say(root.viewModel.matchesText)
+        onTriggered: announcer.announce(root.viewModel.matchesText)
     }
 
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 }

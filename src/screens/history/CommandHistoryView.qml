@@ -13,7 +13,7 @@ FocusScope {
     readonly property bool listed: viewModel.state === CommandHistoryViewModel.Listed
 
     // Who comes back wants to see the history, not what was searched then.
-    Component.onCompleted: viewModel.enter()
+    Component.onCompleted: viewModel.appear()
 
     ColumnLayout {
         anchors.fill: parent
@@ -44,7 +44,7 @@ FocusScope {
             Layout.maximumWidth: Theme.textWidth
             viewModel: root.viewModel
 
-            onFinished: list.takeKeyboard()
+            onFinished: list.takeFocus()
         }
 
         Item {
@@ -70,12 +70,12 @@ FocusScope {
                 title: "No History Matches"
                 visible: !root.empty && !root.listed
 
-                PlainButton {
+                ActionButton {
                     text: "Clear Search"
 
                     onClicked: {
                         root.viewModel.clearSearch();
-                        search.begin();
+                        search.takeFocus();
                     }
                 }
             }
@@ -95,11 +95,11 @@ FocusScope {
         enabled: !root.empty
         sequence: "Ctrl+F"
 
-        onActivated: search.begin()
+        onActivated: search.takeFocus()
     }
 
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 
     Alert {
@@ -112,7 +112,7 @@ FocusScope {
         onCancelled: root.viewModel.cancelClear()
         onConfirmed: {
             root.viewModel.confirmClear();
-            announcement.say("Command history cleared");
+            announcer.announce("Command history cleared");
         }
     }
 }

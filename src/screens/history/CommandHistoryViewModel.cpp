@@ -15,7 +15,7 @@ CommandHistoryViewModel::State CommandHistoryViewModel::state() const {
   if (records_.recordCount() == 0) {
     return Empty;
   }
-  return records_.rowCount() == 0 ? NoMatches : Listed;
+  return records_.rowCount() == 0 ? NoMatch : Listed;
 }
 
 void CommandHistoryViewModel::setSearchText(const QString& text) {
@@ -29,7 +29,7 @@ void CommandHistoryViewModel::setSearchText(const QString& text) {
 }
 
 QString CommandHistoryViewModel::matchesText() const {
-  if (!records_.isNarrowed()) {
+  if (!records_.isFiltered()) {
     return {};
   }
   const int found = records_.rowCount();
@@ -37,7 +37,7 @@ QString CommandHistoryViewModel::matchesText() const {
                     : QStringLiteral("%1 of %2 commands").arg(found).arg(records_.recordCount());
 }
 
-void CommandHistoryViewModel::enter() {
+void CommandHistoryViewModel::appear() {
   clearSearch();
   records_.prepareSearch();
 }

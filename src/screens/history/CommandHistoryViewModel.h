@@ -25,7 +25,7 @@ class CommandHistoryViewModel : public QObject {
       bool showsClearConfirmation READ showsClearConfirmation NOTIFY showsClearConfirmationChanged)
 
  public:
-  enum State { Empty, NoMatches, Listed };
+  enum State { Empty, NoMatch, Listed };
   Q_ENUM(State)
 
   explicit CommandHistoryViewModel(LocalPersistenceStore& store,
@@ -46,7 +46,7 @@ class CommandHistoryViewModel : public QObject {
   [[nodiscard]] bool showsClearConfirmation() const { return showsClearConfirmation_; }
 
   /// The screen is shown anew: nothing is searched, and the first letter will not have to wait.
-  Q_INVOKABLE void enter();
+  Q_INVOKABLE void appear();
   Q_INVOKABLE void clearSearch();
   Q_INVOKABLE void askClear();
   Q_INVOKABLE void confirmClear();

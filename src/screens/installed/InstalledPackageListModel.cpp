@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "screens/shared/OptionalTexts.h"
+#include "screens/shared/OptionalText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +24,8 @@ QString accessibleLabel(const InstalledPackageSummary& package) {
          part(", latest known "_L1, package.latestKnownVersion) + part(", source "_L1, package.tap);
 }
 
-void InstalledPackageListModel::show(InstalledPackagesSnapshot packages,
-                                     std::vector<std::size_t> places) {
+void InstalledPackageListModel::setPackages(InstalledPackagesPtr packages,
+                                            std::vector<std::size_t> places) {
   if (packages_ == packages && places_ == places) {
     return;
   }

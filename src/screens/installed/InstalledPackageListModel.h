@@ -4,15 +4,15 @@
 #include <vector>
 
 #include "guidance/InstalledPackageSummary.h"
-#include "screens/components/ReplacedRowsModel.h"
+#include "screens/components/ReplaceableListModel.h"
 
 namespace quillmere {
 
-using InstalledPackagesSnapshot = std::shared_ptr<const std::vector<InstalledPackageSummary>>;
+using InstalledPackagesPtr = std::shared_ptr<const std::vector<InstalledPackageSummary>>;
 
 /// Rows of the local inventory, as places in the shared list: their texts are made when a row comes
 /// into view. Owned by `InstalledPackagesViewModel`; UI thread only.
-class InstalledPackageListModel : public quillmere::ReplacedRowsModel {
+class InstalledPackageListModel : public quillmere::ReplaceableListModel {
   Q_OBJECT
   QML_ANONYMOUS
 
@@ -27,10 +27,10 @@ class InstalledPackageListModel : public quillmere::ReplacedRowsModel {
     AccessibleLabelRole,
   };
 
-  using ReplacedRowsModel::ReplacedRowsModel;
+  using ReplaceableListModel::ReplaceableListModel;
 
   /// Shows the packages at these places of `packages`, which may be null only where there are none.
-  void show(InstalledPackagesSnapshot packages, std::vector<std::size_t> places);
+  void setPackages(InstalledPackagesPtr packages, std::vector<std::size_t> places);
 
   /// The package in this row, which there must be.
   [[nodiscard]] const InstalledPackageSummary& package(int row) const;
@@ -40,7 +40,7 @@ class InstalledPackageListModel : public quillmere::ReplacedRowsModel {
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
  private:
-  InstalledPackagesSnapshot packages_;
+  InstalledPackagesPtr packages_;
   std::vector<std::size_t> places_;
 };
 

@@ -8,12 +8,12 @@ PackageRow {
     required property string installedVersion
     required property string latestKnownVersion
 
-    LabelledVersion {
+    VersionColumn {
         label: "Installed"
         version: root.installedVersion
     }
 
-    LabelledVersion {
+    VersionColumn {
         label: "Latest known"
         version: root.latestKnownVersion
     }

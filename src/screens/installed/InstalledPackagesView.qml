@@ -6,19 +6,19 @@ import Quillmere.Components
 import Quillmere.Installed
 import Quillmere.Shared
 
-// What is installed in the selected prefix, as far as a scan found.
+// What is installed in the selected prefix, as far as a scan searchable.
 FocusScope {
     id: root
 
     required property InstalledPackagesViewModel viewModel
 
     // Read once, so that all bindings switch together and the keyboard's focus is kept.
-    readonly property int phase: viewModel.state
-    readonly property bool listed: phase === InstalledPackagesViewModel.Listed
-    readonly property bool scanning: phase === InstalledPackagesViewModel.Scanning
-    readonly property bool found: phase >= InstalledPackagesViewModel.NoMatch
-    readonly property bool headed: phase === InstalledPackagesViewModel.Scanning
-                                   || phase >= InstalledPackagesViewModel.NoMatch
+    readonly property int screenState: viewModel.state
+    readonly property bool listed: screenState === InstalledPackagesViewModel.Listed
+    readonly property bool scanning: screenState === InstalledPackagesViewModel.Scanning
+    readonly property bool searchable: screenState >= InstalledPackagesViewModel.NoMatch
+    readonly property bool headerVisible: screenState === InstalledPackagesViewModel.Scanning
+                                   || screenState >= InstalledPackagesViewModel.NoMatch
 
     ColumnLayout {
         x: (root.width - width) / 2
@@ -30,15 +30,15 @@ FocusScope {
         ScreenHeader {
             Layout.fillWidth: true
             freshness: root.viewModel.freshnessText
-            notice: root.viewModel.overtakenText
+            warning: root.viewModel.rescanWarning
             symbolName: "shippingbox"
             title: "Local inventory"
-            visible: root.headed
+            visible: root.headerVisible
 
-            PlainButton {
+            ActionButton {
                 text: "Scan Again"
 
-                onClicked: root.viewModel.scanWanted()
+                onClicked: root.viewModel.scanRequested()
             }
         }
 
@@ -46,12 +46,12 @@ FocusScope {
             id: searchBar
 
             Layout.fillWidth: true
-            enabled: root.found
+            enabled: root.searchable
             placeholder: "Search installed packages"
             search: root.viewModel.search
-            visible: root.headed
+            visible: root.headerVisible
 
-            onLeftDownwards: area.enter()
+            onDownPressed: area.takeFocus()
         }
 
         PackageListArea {
@@ -77,7 +77,7 @@ FocusScope {
                 viewModel: root.viewModel
                 visible: !root.listed && !root.scanning
 
-                onSearchCleared: searchBar.edit()
+                onSearchCleared: searchBar.takeFocus()
             }
 
             ScanProgress {
@@ -89,13 +89,13 @@ FocusScope {
         }
     }
 
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 
     Connections {
         function onAnnounced(text: string): void {
-            announcement.say(text);
+            announcer.announce(text);
         }
 
         target: root.viewModel

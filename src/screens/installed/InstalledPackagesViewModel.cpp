@@ -79,26 +79,26 @@ auto InstalledPackagesViewModel::state() const -> State {
     case Loading:
       return Scanning;
     case Failed:
-      return CouldNotScan;
+      return ScanFailed;
     case Loaded:
       break;
   }
   if (inventory()->empty()) {
-    return NothingFound;
+    return NothingInstalled;
   }
   return packages_.rowCount() == 0 ? NoMatch : Listed;
 }
 
 QString InstalledPackagesViewModel::symbolName() const {
   switch (state()) {
-    case CouldNotScan:
+    case ScanFailed:
       return u"externaldrive.badge.exclamationmark"_s;
     case NoMatch:
       return u"magnifyingglass"_s;
     case NeedsAccess:
     case NotScanned:
     case Scanning:
-    case NothingFound:
+    case NothingInstalled:
     case Listed:
       break;
   }
@@ -113,9 +113,9 @@ QString InstalledPackagesViewModel::title() const {
       return u"Scan Installed Packages"_s;
     case Scanning:
       return u"Scanning selected Homebrew prefix..."_s;
-    case CouldNotScan:
+    case ScanFailed:
       return u"Could Not Scan Installed Packages"_s;
-    case NothingFound:
+    case NothingInstalled:
       return u"No Installed Packages Found"_s;
     case NoMatch:
       return u"No Installed Packages Match"_s;
@@ -132,9 +132,9 @@ QString InstalledPackagesViewModel::text() const {
              "local package metadata without writing to Homebrew files."_s;
     case NotScanned:
       return scanInvitation(inputs().selectedPrefixPath);
-    case CouldNotScan:
+    case ScanFailed:
       return failure();
-    case NothingFound:
+    case NothingInstalled:
       return u"Quillmere did not find readable formulae or casks in the selected prefix. Catalog "
              "browsing is still available."_s;
     case NoMatch:
@@ -162,8 +162,8 @@ QString InstalledPackagesViewModel::freshnessText() const {
   return inventoryFreshness(inputs().lastScanDate, now()).longText(freshnessLabel());
 }
 
-void InstalledPackagesViewModel::follow(const LocalInventoryInputs& before) {
-  if (!(inputs().state == before.state)) {
+void InstalledPackagesViewModel::applyInputs(const LocalInventoryInputs& previous) {
+  if (!(inputs().state == previous.state)) {
     filter();
   }
 }
@@ -177,16 +177,17 @@ void InstalledPackagesViewModel::open(int row) {
 }
 
 /// What was found, wherever else the screen is; null before.
-InstalledPackagesSnapshot InstalledPackagesViewModel::inventory() const {
+InstalledPackagesPtr InstalledPackagesViewModel::inventory() const {
   const auto* const loaded = std::get_if<InstalledPackagesState::Loaded>(&inputs().state.value);
   return loaded != nullptr ? loaded->packages : nullptr;
 }
 
 void InstalledPackagesViewModel::filter() {
-  const InstalledPackagesSnapshot packages = inventory();
-  packages_.show(packages, packages ? matchingPackages(*packages, search_.searchText().trimmed(),
-                                                       search_.packageFilter())
-                                    : std::vector<std::size_t>());
+  const InstalledPackagesPtr packages = inventory();
+  packages_.setPackages(packages, packages
+                                      ? matchingPackages(*packages, search_.searchText().trimmed(),
+                                                         search_.packageFilter())
+                                      : std::vector<std::size_t>());
 }
 
 QString InstalledPackagesViewModel::spokenResult() const {

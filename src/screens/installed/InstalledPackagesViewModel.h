@@ -28,8 +28,8 @@ class InstalledPackagesViewModel : public quillmere::LocalInventoryViewModel {
     NeedsAccess,
     NotScanned,
     Scanning,
-    CouldNotScan,
-    NothingFound,
+    ScanFailed,
+    NothingInstalled,
     NoMatch,
     Listed,
   };
@@ -60,13 +60,13 @@ class InstalledPackagesViewModel : public quillmere::LocalInventoryViewModel {
 
  Q_SIGNALS:
   // What the user wants of the main window.
-  void browseCatalogWanted();
+  void browseCatalogRequested();
   void packageChosen(const quillmere::InstalledPackageSummary& package);
 
  private:
-  void follow(const LocalInventoryInputs& before) override;
+  void applyInputs(const LocalInventoryInputs& previous) override;
   [[nodiscard]] QString spokenResult() const override;
-  [[nodiscard]] InstalledPackagesSnapshot inventory() const;
+  [[nodiscard]] InstalledPackagesPtr inventory() const;
   void filter();
 
   PackageSearch search_;

@@ -8,10 +8,10 @@ StateMessage {
 
     required property InstalledPackagesViewModel viewModel
 
-    readonly property int phase: viewModel.state
-    readonly property bool accessNeeded: phase === InstalledPackagesViewModel.NeedsAccess
-    readonly property bool failed: phase === InstalledPackagesViewModel.CouldNotScan
-    readonly property bool nothingFound: phase === InstalledPackagesViewModel.NothingFound
+    readonly property int screenState: viewModel.state
+    readonly property bool accessNeeded: screenState === InstalledPackagesViewModel.NeedsAccess
+    readonly property bool failed: screenState === InstalledPackagesViewModel.ScanFailed
+    readonly property bool nothingInstalled: screenState === InstalledPackagesViewModel.NothingInstalled
 
     // The search was emptied: the next one may begin.
     signal searchCleared
@@ -25,51 +25,51 @@ StateMessage {
         text: "Select Homebrew Prefix"
         visible: root.accessNeeded
 
-        onClicked: root.viewModel.selectPrefixWanted()
+        onClicked: root.viewModel.selectPrefixRequested()
     }
 
-    PlainButton {
+    ActionButton {
         text: "Browse Catalog Instead"
         visible: root.accessNeeded
 
-        onClicked: root.viewModel.browseCatalogWanted()
+        onClicked: root.viewModel.browseCatalogRequested()
     }
 
     PrimaryButton {
         focus: visible
         text: "Scan Read-Only Inventory"
-        visible: root.phase === InstalledPackagesViewModel.NotScanned
+        visible: root.screenState === InstalledPackagesViewModel.NotScanned
 
-        onClicked: root.viewModel.scanWanted()
+        onClicked: root.viewModel.scanRequested()
     }
 
     PrimaryButton {
         focus: visible
         text: "Scan Again"
-        visible: root.failed || root.nothingFound
+        visible: root.failed || root.nothingInstalled
 
-        onClicked: root.viewModel.scanWanted()
+        onClicked: root.viewModel.scanRequested()
     }
 
-    PlainButton {
+    ActionButton {
         text: "Check Prefix"
         visible: root.failed
 
-        onClicked: root.viewModel.selectPrefixWanted()
+        onClicked: root.viewModel.selectPrefixRequested()
     }
 
-    PlainButton {
+    ActionButton {
         text: "Browse Catalog"
-        visible: root.nothingFound
+        visible: root.nothingInstalled
 
-        onClicked: root.viewModel.browseCatalogWanted()
+        onClicked: root.viewModel.browseCatalogRequested()
     }
 
-    PlainButton {
+    ActionButton {
         enabled: root.viewModel.search.searchText.length > 0
         focus: visible
         text: "Clear Search"
-        visible: root.phase === InstalledPackagesViewModel.NoMatch
+        visible: root.screenState === InstalledPackagesViewModel.NoMatch
 
         onClicked: {
             root.viewModel.search.clear();

@@ -7,7 +7,7 @@ ColumnLayout {
     id: root
 
     signal finished
-    signal selectPrefixWanted
+    signal selectPrefixRequested
 
     spacing: Theme.normal
 
@@ -97,10 +97,10 @@ ColumnLayout {
             onClicked: root.finished()
         }
 
-        PlainButton {
+        ActionButton {
             text: "Select Homebrew Prefix"
 
-            onClicked: root.selectPrefixWanted()
+            onClicked: root.selectPrefixRequested()
         }
     }
 }

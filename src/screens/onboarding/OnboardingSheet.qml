@@ -6,7 +6,7 @@ Sheet {
     id: root
 
     signal finished
-    signal selectPrefixWanted
+    signal selectPrefixRequested
 
     closePolicy: T.Popup.NoAutoClose
     sheetWidth: Theme.wideSheetWidth
@@ -14,6 +14,6 @@ Sheet {
 
     contentItem: OnboardingPage {
         onFinished: root.finished()
-        onSelectPrefixWanted: root.selectPrefixWanted()
+        onSelectPrefixRequested: root.selectPrefixRequested()
     }
 }

@@ -16,7 +16,7 @@ SectionBlock {
 
     BodyText {
         Layout.fillWidth: true
-        text: root.viewModel.commandText
+        text: root.viewModel.commandsText
     }
 
     Flow {
@@ -40,10 +40,10 @@ SectionBlock {
 
                 accessibleName: accessibleLabel
                 help: hint
-                ink: destructive ? Theme.red : Theme.text
+                textColor: destructive ? Theme.red : Theme.text
                 text: title
 
-                onClicked: root.viewModel.preview(index)
+                onClicked: root.viewModel.previewCommand(index)
             }
         }
     }

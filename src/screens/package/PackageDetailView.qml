@@ -39,7 +39,7 @@ ScreenPage {
     }
 
     PackageTags {
-        clickable: root.viewModel.detailItemsLead
+        clickable: root.viewModel.canOpenDetailItems
         names: root.viewModel.detailItems
         problem: root.viewModel.formulaProblem
         symbolName: root.viewModel.detailSymbolName
@@ -48,7 +48,7 @@ ScreenPage {
         viewHeight: root.height
         viewTop: root.viewTop - y
 
-        onChosen: name => root.viewModel.formulaWanted(name)
+        onChosen: name => root.viewModel.formulaRequested(name)
     }
 
     PackageTags {
@@ -60,7 +60,7 @@ ScreenPage {
         viewHeight: root.height
         viewTop: root.viewTop - y
 
-        onChosen: name => root.viewModel.formulaWanted(name)
+        onChosen: name => root.viewModel.formulaRequested(name)
     }
 
     SectionBlock {
@@ -87,7 +87,7 @@ ScreenPage {
         parent: root
         acceptedButtons: Qt.BackButton
 
-        onTapped: root.viewModel.backWanted()
+        onTapped: root.viewModel.backRequested()
     }
 
     Connections {

@@ -28,11 +28,11 @@ QStringList strings(const std::vector<SharedText>& texts) {
 
 }  // namespace
 
-PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewRequest previewRequest,
+PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewCallback previewCallback,
                                                Clock clock, UrlOpener openUrl, QObject* parent)
     : QObject(parent),
       inputs_(std::move(inputs)),
-      previewRequest_(std::move(previewRequest)),
+      previewCallback_(std::move(previewCallback)),
       clock_(std::move(clock)),
       openUrl_(std::move(openUrl)),
       commands_(packageCommands(inputs_.package.kind, inputs_.package.id)) {
@@ -151,7 +151,7 @@ QString PackageDetailViewModel::inventoryFreshnessText() const {
       .longText(u"Local inventory"_s);
 }
 
-QString PackageDetailViewModel::commandText() const {
+QString PackageDetailViewModel::commandsText() const {
   return commands_.rowCount() == 0
              ? u"Command previews are unavailable because this package identifier is not "
                "recognized."_s
@@ -176,9 +176,9 @@ void PackageDetailViewModel::reportUnknownFormula(const QString& name) {
   Q_EMIT formulaProblemChanged();
 }
 
-void PackageDetailViewModel::preview(int row) {
+void PackageDetailViewModel::previewCommand(int row) {
   if (const BrewCommand* const command = commands_.command(row)) {
-    previewRequest_(*command, inputs_.sourceScreen);
+    previewCallback_(*command, inputs_.sourceScreen);
   }
 }
 

@@ -15,7 +15,7 @@
 #include "catalog/HomebrewPackageSummary.h"
 #include "guidance/InstalledPackageSummary.h"
 #include "screens/package/PackageCommandListModel.h"
-#include "screens/shared/PreviewRequest.h"
+#include "screens/shared/PreviewCallback.h"
 
 namespace quillmere {
 
@@ -46,14 +46,14 @@ class PackageDetailViewModel : public QObject {
   Q_PROPERTY(QString detailSymbolName READ detailSymbolName CONSTANT)
   Q_PROPERTY(QString detailText READ detailText CONSTANT)
   Q_PROPERTY(QList<QString> detailItems READ detailItems CONSTANT)
-  Q_PROPERTY(bool detailItemsLead READ detailItemsLead CONSTANT)
+  Q_PROPERTY(bool canOpenDetailItems READ canOpenDetailItems CONSTANT)
   Q_PROPERTY(QString formulaProblem READ formulaProblem NOTIFY formulaProblemChanged)
   Q_PROPERTY(QString reverseDependencyText READ reverseDependencyText CONSTANT)
   Q_PROPERTY(QList<QString> reverseDependencyNames READ reverseDependencyNames CONSTANT)
   Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText CONSTANT)
   Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText CONSTANT)
   Q_PROPERTY(quillmere::PackageCommandListModel* commands READ commands CONSTANT)
-  Q_PROPERTY(QString commandText READ commandText CONSTANT)
+  Q_PROPERTY(QString commandsText READ commandsText CONSTANT)
 
  public:
   using Clock = std::function<QDateTime()>;
@@ -77,7 +77,7 @@ class PackageDetailViewModel : public QObject {
     QString sourceScreen;
   };
 
-  PackageDetailViewModel(Inputs inputs, PreviewRequest previewRequest,
+  PackageDetailViewModel(Inputs inputs, PreviewCallback previewCallback,
                          Clock clock = &QDateTime::currentDateTimeUtc,
                          UrlOpener openUrl = &QDesktopServices::openUrl, QObject* parent = nullptr);
 
@@ -118,7 +118,7 @@ class PackageDetailViewModel : public QObject {
   [[nodiscard]] QStringList detailItems() const;
 
   /// Whether choosing one of them can open it.
-  [[nodiscard]] bool detailItemsLead() const { return isFormula() && inputs_.hasCatalog; }
+  [[nodiscard]] bool canOpenDetailItems() const { return isFormula() && inputs_.hasCatalog; }
 
   /// Why the formula that was chosen last did not open; empty while nothing is wrong.
   [[nodiscard]] QString formulaProblem() const { return formulaProblem_; }
@@ -136,24 +136,24 @@ class PackageDetailViewModel : public QObject {
   [[nodiscard]] PackageCommandListModel* commands() { return &commands_; }
 
   /// What is said above the commands, or in place of them.
-  [[nodiscard]] QString commandText() const;
+  [[nodiscard]] QString commandsText() const;
 
   /// Does nothing where `canOpenHomepage` is false.
   Q_INVOKABLE void openHomepage();
   /// Asks for the preview of the command in this row of `commands`.
-  Q_INVOKABLE void preview(int row);
+  Q_INVOKABLE void previewCommand(int row);
 
  Q_SIGNALS:
   void homepageProblemChanged();
   void formulaProblemChanged();
   /// The user goes back to where the package was opened.
-  void backWanted();
+  void backRequested();
   /// The user chose a dependency or a dependant, which may or may not be in the loaded catalog.
-  void formulaWanted(const QString& name);
+  void formulaRequested(const QString& name);
 
  private:
   Inputs inputs_;
-  PreviewRequest previewRequest_;
+  PreviewCallback previewCallback_;
   Clock clock_;
   UrlOpener openUrl_;
   PackageCommandListModel commands_;

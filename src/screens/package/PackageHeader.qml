@@ -11,13 +11,13 @@ ColumnLayout {
 
     spacing: Theme.medium
 
-    PlainButton {
+    ActionButton {
         focus: true
         help: "Goes back to where the package was opened."
         symbolName: "chevron.backward"
         text: "Back"
 
-        onClicked: root.viewModel.backWanted()
+        onClicked: root.viewModel.backRequested()
     }
 
     Flow {

@@ -29,7 +29,7 @@ SectionBlock {
         label: "Homepage"
         value: root.viewModel.homepageText
 
-        PlainButton {
+        ActionButton {
             help: "Opens the homepage in your browser."
             symbolName: "arrow.up.right.square"
             text: "Open Homepage"

@@ -29,7 +29,7 @@ SheetPage {
             Layout.fillWidth: true
             text: "Copy is always manual. Run uses Quillmere Direct policy."
         },
-        PlainButton {
+        ActionButton {
             text: "Cancel"
 
             onClicked: root.viewModel.close()
@@ -87,7 +87,7 @@ SheetPage {
         Layout.fillWidth: true
         spacing: Theme.normal
 
-        Fact {
+        LabelledValue {
             Layout.fillWidth: true
             Layout.preferredWidth: Theme.borderWidth
             label: "Operation"
@@ -95,7 +95,7 @@ SheetPage {
             value: root.viewModel.operationText
         }
 
-        Fact {
+        LabelledValue {
             Layout.fillWidth: true
             Layout.preferredWidth: Theme.borderWidth
             label: "Target"
@@ -103,7 +103,7 @@ SheetPage {
             value: root.viewModel.targetText
         }
 
-        Fact {
+        LabelledValue {
             Layout.fillWidth: true
             Layout.preferredWidth: Theme.borderWidth
             label: "Risk Level"

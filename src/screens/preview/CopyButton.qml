@@ -3,7 +3,7 @@ import Quillmere.Components
 import Quillmere.Preview
 
 // Copies the command, and shows for a moment that it did.
-PlainButton {
+ActionButton {
     id: root
 
     required property CommandPreviewSheetModel viewModel
@@ -17,7 +17,7 @@ PlainButton {
     Timer {
         id: done
 
-        interval: Theme.noticeTime
+        interval: Theme.noticeDuration
     }
 
     Connections {

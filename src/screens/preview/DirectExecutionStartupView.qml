@@ -18,7 +18,7 @@ SheetPage {
     title: "Starting Direct Command"
 
     actions: [
-        PlainButton {
+        ActionButton {
             text: root.showsDiagnostics ? "Hide Startup Diagnostics" : "Show Startup Diagnostics"
 
             onClicked: root.showsDiagnostics = !root.showsDiagnostics
@@ -26,7 +26,7 @@ SheetPage {
         Item {
             Layout.fillWidth: true
         },
-        PlainButton {
+        ActionButton {
             focus: true
             text: "Cancel"
 

@@ -33,7 +33,7 @@ SheetPage {
         viewModel: root.viewModel
 
         onClosed: root.closed()
-        onCopyWanted: output.copy()
+        onCopyRequested: output.copy()
     }
 
     filler: RawOutputView {

@@ -10,9 +10,9 @@
 
 #include "execution/DirectExecutionSessionController.h"
 #include "execution/OutputTranscript.h"
-#include "screens/run/OutputSummaryModel.h"
-#include "screens/run/ProgressStepsModel.h"
-#include "screens/run/RawOutputModel.h"
+#include "screens/run/OutputSummaryListModel.h"
+#include "screens/run/ProgressStepListModel.h"
+#include "screens/run/RawOutputListModel.h"
 
 namespace quillmere {
 
@@ -36,14 +36,14 @@ class DirectExecutionSessionViewModel : public QObject {
   Q_PROPERTY(QString summarySymbol READ summarySymbol NOTIFY presentationChanged)
   Q_PROPERTY(QString summaryEmptyText READ summaryEmptyText NOTIFY presentationChanged)
   Q_PROPERTY(QString adviceText READ adviceText NOTIFY presentationChanged)
-  Q_PROPERTY(quillmere::OutputSummaryModel* summaryRows READ summaryRows CONSTANT)
-  Q_PROPERTY(quillmere::ProgressStepsModel* progressSteps READ progressSteps CONSTANT)
+  Q_PROPERTY(quillmere::OutputSummaryListModel* summaryRows READ summaryRows CONSTANT)
+  Q_PROPERTY(quillmere::ProgressStepListModel* progressSteps READ progressSteps CONSTANT)
   Q_PROPERTY(
       bool showsRawOutput READ showsRawOutput WRITE setShowsRawOutput NOTIFY showsRawOutputChanged)
   Q_PROPERTY(QString rawOutputToggleTitle READ rawOutputToggleTitle NOTIFY showsRawOutputChanged)
   Q_PROPERTY(QString rawOutputToggleAccessibleName READ rawOutputToggleAccessibleName NOTIFY
                  showsRawOutputChanged)
-  Q_PROPERTY(quillmere::RawOutputModel* rawOutput READ rawOutput CONSTANT)
+  Q_PROPERTY(quillmere::RawOutputListModel* rawOutput READ rawOutput CONSTANT)
   Q_PROPERTY(bool rawOutputIsEmpty READ rawOutputIsEmpty NOTIFY rawOutputGrew)
 
  public:
@@ -73,9 +73,9 @@ class DirectExecutionSessionViewModel : public QObject {
   /// What can be done about a run that failed; empty where nothing is known.
   [[nodiscard]] QString adviceText() const { return adviceText_; }
 
-  [[nodiscard]] OutputSummaryModel* summaryRows() { return &summaryRows_; }
+  [[nodiscard]] OutputSummaryListModel* summaryRows() { return &summaryRows_; }
 
-  [[nodiscard]] ProgressStepsModel* progressSteps() { return &progressSteps_; }
+  [[nodiscard]] ProgressStepListModel* progressSteps() { return &progressSteps_; }
 
   [[nodiscard]] bool showsRawOutput() const { return showsRawOutput_; }
 
@@ -83,7 +83,7 @@ class DirectExecutionSessionViewModel : public QObject {
   [[nodiscard]] QString rawOutputToggleTitle() const;
   [[nodiscard]] QString rawOutputToggleAccessibleName() const;
 
-  [[nodiscard]] RawOutputModel* rawOutput() { return &rawOutput_; }
+  [[nodiscard]] RawOutputListModel* rawOutput() { return &rawOutput_; }
 
   [[nodiscard]] bool rawOutputIsEmpty() const { return rawOutput_.rowCount() == 0; }
 
@@ -124,9 +124,9 @@ class DirectExecutionSessionViewModel : public QObject {
   DirectCommandOutputPresentation presentation_;
   QString adviceText_;
   bool hasOutput_ = false;
-  OutputSummaryModel summaryRows_;
-  ProgressStepsModel progressSteps_;
-  RawOutputModel rawOutput_;
+  OutputSummaryListModel summaryRows_;
+  ProgressStepListModel progressSteps_;
+  RawOutputListModel rawOutput_;
   bool showsRawOutput_ = false;
 };
 

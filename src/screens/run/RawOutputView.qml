@@ -12,7 +12,7 @@ Rectangle {
 
     required property DirectExecutionSessionViewModel viewModel
 
-    property bool following: true
+    property bool autoScroll: true
     property int anchorRow: -1
     property int headRow: -1
     readonly property int firstSelected: Math.min(anchorRow, headRow)
@@ -31,7 +31,7 @@ Rectangle {
         root.anchorRow = extend && anchorRow >= 0 ? anchorRow : headRow;
         list.currentIndex = headRow;
         list.positionViewAtIndex(headRow, ListView.Contain);
-        root.following = list.atYEnd;
+        root.autoScroll = list.atYEnd;
     }
 
     function selectAll(): void {
@@ -60,7 +60,7 @@ Rectangle {
         cacheBuffer: 0
         clip: true
         highlightFollowsCurrentItem: false
-        interactive: wheel.touched
+        interactive: wheel.dragEnabled
         keyNavigationEnabled: false
         model: root.viewModel.rawOutput
         reuseItems: true
@@ -70,7 +70,7 @@ Rectangle {
 
         onContentHeightChanged: settle.restart()
         onHeightChanged: settle.restart()
-        onMovementEnded: root.following = atYEnd
+        onMovementEnded: root.autoScroll = atYEnd
 
         Keys.onPressed: event => keys.handle(event)
 
@@ -80,7 +80,7 @@ Rectangle {
         }
 
         ScrollBar.vertical: SlimScrollBar {
-            onPressedChanged: root.following = list.atYEnd
+            onPressedChanged: root.autoScroll = list.atYEnd
         }
 
         ScrollWheel {
@@ -88,16 +88,16 @@ Rectangle {
 
             flickable: list
 
-            onScrolled: root.following = list.atYEnd
+            onScrolled: root.autoScroll = list.atYEnd
         }
     }
 
-    RawOutputPointer {
+    RawOutputMouseArea {
         list: list
-        touched: wheel.touched
+        dragEnabled: wheel.dragEnabled
 
-        onRowWanted: (row, extend) => root.select(row, extend)
-        onStepWanted: step => root.select(root.headRow + step, true)
+        onRowRequested: (row, extend) => root.select(row, extend)
+        onStepRequested: step => root.select(root.headRow + step, true)
     }
 
     // After the rows that came in have found their heights.
@@ -106,18 +106,18 @@ Rectangle {
 
         interval: 0
 
-        onTriggered: if (root.following) list.positionViewAtEnd()
+        onTriggered: if (root.autoScroll) list.positionViewAtEnd()
     }
 
-    RawOutputKeys {
+    RawOutputKeyHandler {
         id: keys
 
         headRow: root.headRow < 0 ? list.count : root.headRow
         lastRow: list.count - 1
 
-        onAllWanted: root.selectAll()
-        onCopyWanted: root.copy()
-        onRowWanted: (row, extend) => root.select(row, extend)
+        onSelectAllRequested: root.selectAll()
+        onCopyRequested: root.copy()
+        onRowRequested: (row, extend) => root.select(row, extend)
     }
 
     FocusRing {

@@ -14,7 +14,7 @@ FocusScope {
     readonly property bool running: viewModel.isRunning
 
     signal closed
-    signal copyWanted
+    signal copyRequested
 
     implicitHeight: row.implicitHeight
 
@@ -26,7 +26,7 @@ FocusScope {
         anchors.fill: parent
         spacing: Theme.small
 
-        PlainButton {
+        ActionButton {
             id: toggle
 
             accessibleName: root.viewModel.rawOutputToggleAccessibleName
@@ -39,21 +39,21 @@ FocusScope {
             }
         }
 
-        PlainButton {
+        ActionButton {
             enabled: !root.viewModel.rawOutputIsEmpty
             help: "Copies the selected lines, or all of them where none is selected."
             symbolName: "doc.on.doc"
             text: "Copy Output"
             visible: root.viewModel.showsRawOutput
 
-            onClicked: root.copyWanted()
+            onClicked: root.copyRequested()
         }
 
         Item {
             Layout.fillWidth: true
         }
 
-        PlainButton {
+        ActionButton {
             id: cancel
 
             enabled: !root.viewModel.cancellationPending

@@ -6,12 +6,13 @@
 
 namespace quillmere {
 
-ServicesGuidanceViewModel::ServicesGuidanceViewModel(PreviewRequest previewRequest, QObject* parent)
-    : QObject(parent), previewRequest_(std::move(previewRequest)) {
+ServicesGuidanceViewModel::ServicesGuidanceViewModel(PreviewCallback previewCallback,
+                                                     QObject* parent)
+    : QObject(parent), previewCallback_(std::move(previewCallback)) {
 }
 
 void ServicesGuidanceViewModel::previewServicesList() {
-  previewRequest_(BrewCommandBuilder().servicesList(), QStringLiteral("Services"));
+  previewCallback_(BrewCommandBuilder().servicesList(), QStringLiteral("Services"));
 }
 
 }  // namespace quillmere

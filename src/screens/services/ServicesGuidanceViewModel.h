@@ -3,7 +3,7 @@
 #include <QtCore/QObject>
 #include <QtQml/qqmlregistration.h>
 
-#include "screens/shared/PreviewRequest.h"
+#include "screens/shared/PreviewCallback.h"
 
 namespace quillmere {
 
@@ -15,12 +15,12 @@ class ServicesGuidanceViewModel : public QObject {
   QML_UNCREATABLE("Made by the main window")
 
  public:
-  explicit ServicesGuidanceViewModel(PreviewRequest previewRequest, QObject* parent = nullptr);
+  explicit ServicesGuidanceViewModel(PreviewCallback previewCallback, QObject* parent = nullptr);
 
   Q_INVOKABLE void previewServicesList();
 
  private:
-  PreviewRequest previewRequest_;
+  PreviewCallback previewCallback_;
 };
 
 }  // namespace quillmere

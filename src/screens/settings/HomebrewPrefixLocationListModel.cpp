@@ -19,7 +19,7 @@ QString tint(HomebrewPrefixProbeResult::Status status) {
 
 }  // namespace
 
-void HomebrewPrefixLocationListModel::show(std::vector<HomebrewPrefixProbeResult> results) {
+void HomebrewPrefixLocationListModel::setResults(std::vector<HomebrewPrefixProbeResult> results) {
   if (results.size() == results_.size() && !results.empty()) {
     results_ = std::move(results);
     Q_EMIT dataChanged(index(0), index(rowCount() - 1));

@@ -20,7 +20,7 @@ class HomebrewPrefixLocationListModel : public QAbstractListModel {
   using QAbstractListModel::QAbstractListModel;
 
   /// Shows another report; none is an empty list.
-  void show(std::vector<HomebrewPrefixProbeResult> results);
+  void setResults(std::vector<HomebrewPrefixProbeResult> results);
 
   [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

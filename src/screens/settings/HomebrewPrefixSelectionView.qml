@@ -11,7 +11,7 @@ ColumnLayout {
     required property HomebrewPrefixSelectionViewModel viewModel
 
     // To have chosen nothing yet is no error.
-    readonly property bool wrong: viewModel.hasSelection || viewModel.hasReport
+    readonly property bool invalid: viewModel.hasSelection || viewModel.hasReport
 
     spacing: Theme.medium
 
@@ -49,7 +49,7 @@ ColumnLayout {
             onClicked: chooser.open()
         }
 
-        PlainButton {
+        ActionButton {
             enabled: root.viewModel.hasSelection
             text: "Recheck"
 
@@ -69,14 +69,14 @@ ColumnLayout {
         visible: root.viewModel.errorMessage.length > 0
 
         Symbol {
-            name: root.wrong ? "exclamationmark.triangle" : "info.circle"
+            name: root.invalid ? "exclamationmark.triangle" : "info.circle"
             Layout.alignment: Qt.AlignTop
-            color: root.wrong ? Theme.red : Theme.secondaryText
+            color: root.invalid ? Theme.red : Theme.secondaryText
         }
 
         BodyText {
             Layout.fillWidth: true
-            color: root.wrong ? Theme.red : Theme.secondaryText
+            color: root.invalid ? Theme.red : Theme.secondaryText
             text: root.viewModel.errorMessage
         }
     }

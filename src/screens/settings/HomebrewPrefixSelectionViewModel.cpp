@@ -57,7 +57,7 @@ QString HomebrewPrefixSelectionViewModel::verdict() const {
 }
 
 void HomebrewPrefixSelectionViewModel::chooseFolder(const QUrl& folder, const QUrl& shown) {
-  look(folder, shown, Purpose::choose);
+  probe(folder, shown, Purpose::choose);
 }
 
 void HomebrewPrefixSelectionViewModel::recheck() {
@@ -67,7 +67,7 @@ void HomebrewPrefixSelectionViewModel::recheck() {
     showReport(probeSummary_, QStringLiteral("No Homebrew prefix is selected."));
     return;
   }
-  look(*prefix, QUrl(), Purpose::recheck);
+  probe(*prefix, QUrl(), Purpose::recheck);
 }
 
 void HomebrewPrefixSelectionViewModel::reset() {
@@ -79,7 +79,7 @@ void HomebrewPrefixSelectionViewModel::reset() {
   showReport(std::nullopt, std::nullopt);
 }
 
-QCoro::Task<> HomebrewPrefixSelectionViewModel::look(QUrl folder, QUrl shown, Purpose purpose) {
+QCoro::Task<> HomebrewPrefixSelectionViewModel::probe(QUrl folder, QUrl shown, Purpose purpose) {
   const int request = ++request_;
   const QPointer<HomebrewPrefixSelectionViewModel> self(this);
   const QFuture<HomebrewPrefixProbeSummary> probing =
@@ -89,13 +89,13 @@ QCoro::Task<> HomebrewPrefixSelectionViewModel::look(QUrl folder, QUrl shown, Pu
     co_return;
   }
   if (purpose == Purpose::choose) {
-    chosen(summary);
+    applyChoice(summary);
   } else {
-    rechecked(summary);
+    applyRecheck(summary);
   }
 }
 
-void HomebrewPrefixSelectionViewModel::chosen(const HomebrewPrefixProbeSummary& summary) {
+void HomebrewPrefixSelectionViewModel::applyChoice(const HomebrewPrefixProbeSummary& summary) {
   if (!summary.looksLikeHomebrewPrefix()) {
     showReport(summary, notAHomebrewPrefixText());
     return;
@@ -107,7 +107,7 @@ void HomebrewPrefixSelectionViewModel::chosen(const HomebrewPrefixProbeSummary& 
   showReport(summary, std::nullopt);
 }
 
-void HomebrewPrefixSelectionViewModel::rechecked(const HomebrewPrefixProbeSummary& summary) {
+void HomebrewPrefixSelectionViewModel::applyRecheck(const HomebrewPrefixProbeSummary& summary) {
   showReport(summary, summary.looksLikeHomebrewPrefix()
                           ? std::nullopt
                           : std::optional(QStringLiteral(
@@ -134,8 +134,8 @@ void HomebrewPrefixSelectionViewModel::showReport(std::optional<HomebrewPrefixPr
                                                   std::optional<QString> errorMessage) {
   probeSummary_ = std::move(summary);
   errorMessage_ = std::move(errorMessage);
-  locations_.show(probeSummary_ ? probeSummary_->results
-                                : std::vector<HomebrewPrefixProbeResult>());
+  locations_.setResults(probeSummary_ ? probeSummary_->results
+                                      : std::vector<HomebrewPrefixProbeResult>());
   Q_EMIT reportChanged();
 }
 

@@ -74,9 +74,9 @@ class HomebrewPrefixSelectionViewModel : public QObject {
   /// What a look at a folder is for.
   enum class Purpose { choose, recheck };
 
-  QCoro::Task<> look(QUrl folder, QUrl shown, Purpose purpose);
-  void chosen(const HomebrewPrefixProbeSummary& summary);
-  void rechecked(const HomebrewPrefixProbeSummary& summary);
+  QCoro::Task<> probe(QUrl folder, QUrl shown, Purpose purpose);
+  void applyChoice(const HomebrewPrefixProbeSummary& summary);
+  void applyRecheck(const HomebrewPrefixProbeSummary& summary);
   void followSelection();
   void showReport(std::optional<HomebrewPrefixProbeSummary> summary,
                   std::optional<QString> errorMessage);

@@ -13,7 +13,7 @@ ColumnLayout {
 
     // The button that was pressed may have nothing left to do: the keyboard goes on to the next.
     Connections {
-        function onDone(): void {
+        function onActionCompleted(): void {
             if (clearCache.focus && !clearCache.enabled)
                 clearHistory.forceActiveFocus(Qt.TabFocusReason);
         }

@@ -62,7 +62,7 @@ ScreenPage {
     }
 
     Connections {
-        function onDone(text: string): void {
+        function onActionCompleted(text: string): void {
             root.announce(text);
         }
 

@@ -125,7 +125,7 @@ void SettingsViewModel::confirm() {
   const SettingsConfirmation confirmed = *confirmation_;
   setConfirmation(std::nullopt);
   (store_.*textsOf(confirmed).action)();
-  Q_EMIT done(textsOf(confirmed).done);
+  Q_EMIT actionCompleted(textsOf(confirmed).done);
 }
 
 void SettingsViewModel::cancel() {

@@ -78,7 +78,7 @@ class SettingsViewModel : public QObject {
   void onboardingChanged();
   void confirmationChanged();
   /// What was asked is done; `text` says so.
-  void done(const QString& text);
+  void actionCompleted(const QString& text);
 
  private:
   void setConfirmation(std::optional<SettingsConfirmation> confirmation);

@@ -20,7 +20,7 @@ ColumnLayout {
     ActionButton {
         focus: root.initialFocus
         help: "Opens " + root.page + " in the browser"
-        ink: Theme.accent
+        textColor: Theme.accent
         symbolName: root.symbolName
         text: root.text
 

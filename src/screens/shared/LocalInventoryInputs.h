@@ -14,10 +14,10 @@ namespace quillmere {
 struct LocalInventoryInputs {
   InstalledPackagesState state;
   /// Whether a command that may have changed the prefix ran since what is known was scanned.
-  bool isOvertaken = false;
+  bool needsRescan = false;
   /// Of the scan that is under way.
   int scannedPackages = 0;
-  int knownPackages = 0;
+  int totalPackages = 0;
   std::optional<QString> selectedPrefixPath;
   std::optional<QUrl> selectedPrefixURL;
   std::optional<QDateTime> lastScanDate;

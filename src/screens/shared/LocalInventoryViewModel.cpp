@@ -10,8 +10,8 @@ LocalInventoryViewModel::LocalInventoryViewModel(Clock clock, QObject* parent)
 }
 
 void LocalInventoryViewModel::setInputs(const LocalInventoryInputs& inputs) {
-  const LocalInventoryInputs before = std::exchange(inputs_, inputs);
-  follow(before);
+  const LocalInventoryInputs previous = std::exchange(inputs_, inputs);
+  applyInputs(previous);
   notifyChanges();
 }
 
@@ -20,21 +20,21 @@ LocalInventoryViewModel::Phase LocalInventoryViewModel::phase() const {
   return static_cast<Phase>(inputs_.state.value.index());
 }
 
-QString LocalInventoryViewModel::overtakenText() const {
-  return inputs_.isOvertaken ? QStringLiteral("A command ran since this scan") : QString();
+QString LocalInventoryViewModel::rescanWarning() const {
+  return inputs_.needsRescan ? QStringLiteral("A command ran since this scan") : QString();
 }
 
 QString LocalInventoryViewModel::progressText() const {
-  return phase() == Loading && inputs_.knownPackages > 0
+  return phase() == Loading && inputs_.totalPackages > 0
              ? QStringLiteral("%1 of %2 packages scanned")
                    .arg(QString::number(inputs_.scannedPackages),
-                        QString::number(inputs_.knownPackages))
+                        QString::number(inputs_.totalPackages))
              : QString();
 }
 
 double LocalInventoryViewModel::progressFraction() const {
-  return phase() == Loading && inputs_.knownPackages > 0
-             ? static_cast<double>(inputs_.scannedPackages) / inputs_.knownPackages
+  return phase() == Loading && inputs_.totalPackages > 0
+             ? static_cast<double>(inputs_.scannedPackages) / inputs_.totalPackages
              : -1;
 }
 
@@ -61,13 +61,9 @@ QString LocalInventoryViewModel::spokenState() const {
 void LocalInventoryViewModel::notifyChanges() {
   Q_EMIT changed();
   const QString spoken = spokenState();
-  if (spoken_.isNews(spoken)) {
+  if (spoken_.accept(spoken)) {
     Q_EMIT announced(spoken);
   }
-}
-
-QString counted(qsizetype count, const QString& noun) {
-  return QString::number(count) + u' ' + noun + (count == 1 ? QString() : QStringLiteral("s"));
 }
 
 }  // namespace quillmere

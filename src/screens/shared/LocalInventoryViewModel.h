@@ -7,7 +7,7 @@
 
 #include <functional>
 
-#include "screens/components/SpokenOnce.h"
+#include "screens/components/AnnouncementFilter.h"
 #include "screens/shared/LocalInventoryInputs.h"
 
 namespace quillmere {
@@ -23,7 +23,7 @@ class LocalInventoryViewModel : public QObject {
   Q_PROPERTY(QString title READ title NOTIFY changed)
   Q_PROPERTY(QString text READ text NOTIFY changed)
   Q_PROPERTY(QString symbolName READ symbolName NOTIFY changed)
-  Q_PROPERTY(QString overtakenText READ overtakenText NOTIFY changed)
+  Q_PROPERTY(QString rescanWarning READ rescanWarning NOTIFY changed)
   Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
   Q_PROPERTY(double progressFraction READ progressFraction NOTIFY changed)
 
@@ -41,7 +41,7 @@ class LocalInventoryViewModel : public QObject {
   [[nodiscard]] Phase phase() const;
 
   /// That what is shown may be less than what a command has made of the prefix; empty otherwise.
-  [[nodiscard]] QString overtakenText() const;
+  [[nodiscard]] QString rescanWarning() const;
 
   // What the screen says in place of its list.
   [[nodiscard]] virtual QString title() const = 0;
@@ -59,9 +59,9 @@ class LocalInventoryViewModel : public QObject {
   /// Something came about that a user who does not see the screen wants to know.
   void announced(const QString& text);
   // What the user wants of the main window.
-  void scanWanted();
-  void cancelScanWanted();
-  void selectPrefixWanted();
+  void scanRequested();
+  void cancelScanRequested();
+  void selectPrefixRequested();
 
  protected:
   LocalInventoryViewModel(Clock clock, QObject* parent);
@@ -71,8 +71,8 @@ class LocalInventoryViewModel : public QObject {
   /// Why the last scan failed; only while `phase` says that it did.
   [[nodiscard]] const QString& failure() const;
 
-  /// The inputs were others `before`: what is made from them is made anew.
-  virtual void follow(const LocalInventoryInputs& before) = 0;
+  /// Updates what depends on the inputs; `previous` are the ones that they replaced.
+  virtual void applyInputs(const LocalInventoryInputs& previous) = 0;
   /// What a loaded inventory comes to, as it is said aloud.
   [[nodiscard]] virtual QString spokenResult() const = 0;
 
@@ -83,10 +83,7 @@ class LocalInventoryViewModel : public QObject {
 
   Clock clock_;
   LocalInventoryInputs inputs_;
-  SpokenOnce spoken_;
+  AnnouncementFilter spoken_;
 };
-
-/// "package" for one, "packages" for any other number; the same for every noun that takes an s.
-[[nodiscard]] QString counted(qsizetype count, const QString& noun);
 
 }  // namespace quillmere

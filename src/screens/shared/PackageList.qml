@@ -21,7 +21,7 @@ ListView {
     cacheBuffer: 0
     clip: true
     highlightMoveDuration: 0
-    interactive: wheel.touched
+    interactive: wheel.dragEnabled
     // Also under the pointer, where nothing may be dragged.
     keyNavigationEnabled: true
     reuseItems: true
@@ -32,7 +32,7 @@ ListView {
     Keys.onReturnPressed: event => open(event)
     Keys.onEnterPressed: event => open(event)
     Keys.onPressed: event => {
-        const row = target(event.key);
+        const row = rowForKey(event.key);
         event.accepted = row >= 0;
         if (event.accepted)
             root.currentIndex = Math.max(0, Math.min(count - 1, row));
@@ -44,7 +44,7 @@ ListView {
     }
 
     // The row that a key leads to, if need be beyond the ends; -1 for another key.
-    function target(key: int): int {
+    function rowForKey(key: int): int {
         return key === Qt.Key_PageUp ? Math.max(0, currentIndex - page)
              : key === Qt.Key_PageDown ? currentIndex + page
              : key === Qt.Key_Home ? 0 : key === Qt.Key_End ? count : -1;
@@ -67,7 +67,7 @@ ListView {
 
     // Another search begins at its first answer.
     Connections {
-        function onReplaced(): void {
+        function onRowsReplaced(): void {
             root.currentIndex = 0;
             root.positionViewAtBeginning();
         }

@@ -20,7 +20,7 @@ FocusScope {
     signal opened(int row)
 
     // The keyboard comes in, if there is anything.
-    function enter(): void {
+    function takeFocus(): void {
         if (listed)
             forceActiveFocus(Qt.TabFocusReason);
     }

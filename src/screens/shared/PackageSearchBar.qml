@@ -10,19 +10,19 @@ RowLayout {
     required property PackageSearch search
     required property string placeholder
 
-    signal leftDownwards
+    signal downPressed
 
     spacing: Theme.normal
 
-    function edit(): void {
-        field.edit();
+    function takeFocus(): void {
+        field.takeFocus();
     }
 
     Shortcut {
         enabled: root.visible && root.enabled
         sequence: "Ctrl+F"
 
-        onActivated: root.edit()
+        onActivated: root.takeFocus()
     }
 
     SearchField {
@@ -33,7 +33,7 @@ RowLayout {
         text: root.search.searchText
 
         onCommitted: text => root.search.searchText = text
-        onLeftDownwards: root.leftDownwards()
+        onDownPressed: root.downPressed()
     }
 
     SegmentedPicker {

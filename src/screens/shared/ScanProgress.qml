@@ -11,11 +11,11 @@ Progress {
     fraction: viewModel.progressFraction
     title: viewModel.title
 
-    PlainButton {
+    ActionButton {
         focus: visible
         help: "Stops the scan and shows again what was shown before."
         text: "Cancel"
 
-        onClicked: root.viewModel.cancelScanWanted()
+        onClicked: root.viewModel.cancelScanRequested()
     }
 }

@@ -37,7 +37,7 @@ QString versionText(const std::optional<SharedText>& version) {
 
 }  // namespace
 
-void PackageUpdateListModel::show(std::vector<PackageUpdateSummary> summaries) {
+void PackageUpdateListModel::setPackages(std::vector<PackageUpdateSummary> summaries) {
   beginResetModel();
   rows_.clear();
   std::vector<PackageUpdateSummary> review;

@@ -32,7 +32,7 @@ class PackageUpdateListModel : public QAbstractListModel {
   using QAbstractListModel::QAbstractListModel;
 
   /// Leaves out what is up to date.
-  void show(std::vector<PackageUpdateSummary> summaries);
+  void setPackages(std::vector<PackageUpdateSummary> summaries);
 
   [[nodiscard]] int updateCount() const { return updateCount_; }
 

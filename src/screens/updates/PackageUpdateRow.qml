@@ -19,7 +19,7 @@ FocusScope {
 
     readonly property real titleHeight: heading.length > 0 ? title.implicitHeight : 0
 
-    signal upgradeWanted
+    signal upgradeRequested
 
     focus: ListView.isCurrentItem
     implicitHeight: titleHeight + Math.max(Theme.rowHeight + Theme.small,
@@ -117,7 +117,7 @@ FocusScope {
             }
         }
 
-        PlainButton {
+        ActionButton {
             accessibleName: root.upgradeLabel
             focus: true
             // The arrow keys lead to it: a stop for each of many rows would be too many.
@@ -126,7 +126,7 @@ FocusScope {
             symbolName: "arrow.up.circle"
             text: "Preview Upgrade"
 
-            onClicked: root.upgradeWanted()
+            onClicked: root.upgradeRequested()
         }
     }
 }

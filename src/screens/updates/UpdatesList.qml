@@ -22,27 +22,27 @@ FocusScope {
 
         ScreenHeader {
             Layout.fillWidth: true
-            notice: root.viewModel.overtakenText
+            warning: root.viewModel.rescanWarning
             symbolName: "arrow.triangle.2.circlepath"
             title: "Updates"
 
-            PlainButton {
+            ActionButton {
                 focus: list.count === 0
                 text: "Scan Again"
 
-                onClicked: root.viewModel.scanWanted()
+                onClicked: root.viewModel.scanRequested()
             }
 
-            PlainButton {
+            ActionButton {
                 text: "Run brew update"
 
                 onClicked: root.viewModel.previewUpdate()
             }
 
-            PlainButton {
+            ActionButton {
                 text: "Browse Catalog"
 
-                onClicked: root.viewModel.browseCatalogWanted()
+                onClicked: root.viewModel.browseCatalogRequested()
             }
         }
 
@@ -58,7 +58,7 @@ FocusScope {
             visible: text.length > 0
         }
 
-        UpdatesState {
+        UpdatesStateMessage {
             Layout.fillWidth: true
             Layout.topMargin: list.count > 0 ? 0 : Theme.huge
             initialFocus: false
@@ -86,7 +86,7 @@ FocusScope {
                 clip: true
                 focus: count > 0
                 highlightMoveDuration: 0
-                interactive: wheel.touched
+                interactive: wheel.dragEnabled
                 keyNavigationEnabled: true
                 model: root.viewModel.packages
 
@@ -99,7 +99,7 @@ FocusScope {
                 delegate: PackageUpdateRow {
                     width: ListView.view.width
 
-                    onUpgradeWanted: root.viewModel.previewUpgrade(index)
+                    onUpgradeRequested: root.viewModel.previewUpgrade(index)
                 }
 
                 ScrollBar.vertical: SlimScrollBar {

@@ -31,7 +31,7 @@ ColumnLayout {
         }
     }
 
-    ShareBar {
+    ProportionBar {
         Layout.fillWidth: true
         first: root.viewModel.updateCount
         firstTint: "blue"

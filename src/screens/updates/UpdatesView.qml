@@ -12,8 +12,8 @@ FocusScope {
     readonly property bool loaded: viewModel.phase === UpdatesViewModel.Loaded
     readonly property bool scanning: viewModel.phase === UpdatesViewModel.Loading
 
-    Announcement {
-        id: announcement
+    Announcer {
+        id: announcer
     }
 
     FocusScope {
@@ -21,7 +21,7 @@ FocusScope {
         focus: !root.loaded
         visible: !root.loaded
 
-        UpdatesState {
+        UpdatesStateMessage {
             anchors.centerIn: parent
             width: Math.min(parent.width - 2 * Theme.large, Theme.sheetWidth)
             viewModel: root.viewModel
@@ -45,7 +45,7 @@ FocusScope {
 
     Connections {
         function onAnnounced(text: string): void {
-            announcement.say(text);
+            announcer.announce(text);
         }
 
         target: root.viewModel

@@ -4,6 +4,7 @@
 
 #include "commands/BrewCommandBuilder.h"
 #include "guidance/FreshnessIndicator.h"
+#include "platform/Plural.h"
 #include "platform/SanitizedText.h"
 #include "screens/shared/PackageTarget.h"
 
@@ -24,7 +25,7 @@ QString idleText(const std::optional<QString>& prefix) {
 QString noUpdatesText(int reviewCount) {
   return reviewCount > 0
              ? "No comparable outdated packages were found. "_L1 +
-                   counted(reviewCount, u"package"_s) +
+                   pluralized(reviewCount, u"package"_s) +
                    " have missing, newer, or non-comparable version data."_L1
              : u"All comparable installed packages match the latest-known catalog versions. This "
                "is based on cached/public metadata, not live brew output."_s;
@@ -32,18 +33,18 @@ QString noUpdatesText(int reviewCount) {
 
 }  // namespace
 
-UpdatesViewModel::UpdatesViewModel(PreviewRequest previewRequest, Clock clock, QObject* parent)
+UpdatesViewModel::UpdatesViewModel(PreviewCallback previewCallback, Clock clock, QObject* parent)
     : LocalInventoryViewModel(std::move(clock), parent),
-      previewRequest_(std::move(previewRequest)) {
+      previewCallback_(std::move(previewCallback)) {
 }
 
-void UpdatesViewModel::follow(const LocalInventoryInputs& before) {
+void UpdatesViewModel::applyInputs(const LocalInventoryInputs& previous) {
   // A scan reports its progress many times a second: only another list is worth comparing again.
-  if (!(inputs().state == before.state)) {
+  if (!(inputs().state == previous.state)) {
     upgradeProblem_.clear();
     const auto* const packages = inputs().state.packages();
-    packages_.show(packages != nullptr ? packageUpdateSummaries(*packages)
-                                       : std::vector<PackageUpdateSummary>());
+    packages_.setPackages(packages != nullptr ? packageUpdateSummaries(*packages)
+                                              : std::vector<PackageUpdateSummary>());
   }
 }
 
@@ -127,7 +128,7 @@ QString UpdatesViewModel::sourcesText() const {
 }
 
 QString UpdatesViewModel::updatesText() const {
-  return counted(updateCount(), u"update"_s);
+  return pluralized(updateCount(), u"update"_s);
 }
 
 QString UpdatesViewModel::reviewText() const {
@@ -149,14 +150,14 @@ void UpdatesViewModel::previewUpgrade(int row) {
   upgradeProblem_ = command ? QString() : sanitizedText(command.error().description());
   Q_EMIT changed();
   if (command) {
-    previewRequest_(*command, sourceScreen);
+    previewCallback_(*command, sourceScreen);
   } else {
     Q_EMIT announced(upgradeProblem_);
   }
 }
 
 void UpdatesViewModel::previewUpdate() {
-  previewRequest_(BrewCommandBuilder().update(), sourceScreen);
+  previewCallback_(BrewCommandBuilder().update(), sourceScreen);
 }
 
 }  // namespace quillmere

@@ -3,7 +3,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include "screens/shared/LocalInventoryViewModel.h"
-#include "screens/shared/PreviewRequest.h"
+#include "screens/shared/PreviewCallback.h"
 #include "screens/updates/PackageUpdateListModel.h"
 
 namespace quillmere {
@@ -27,7 +27,7 @@ class UpdatesViewModel : public quillmere::LocalInventoryViewModel {
   Q_PROPERTY(quillmere::PackageUpdateListModel* packages READ packages CONSTANT)
 
  public:
-  explicit UpdatesViewModel(PreviewRequest previewRequest,
+  explicit UpdatesViewModel(PreviewCallback previewCallback,
                             Clock clock = &QDateTime::currentDateTimeUtc,
                             QObject* parent = nullptr);
 
@@ -66,13 +66,13 @@ class UpdatesViewModel : public quillmere::LocalInventoryViewModel {
 
  Q_SIGNALS:
   /// The user wants to see the catalog.
-  void browseCatalogWanted();
+  void browseCatalogRequested();
 
  private:
-  void follow(const LocalInventoryInputs& before) override;
+  void applyInputs(const LocalInventoryInputs& previous) override;
   [[nodiscard]] QString spokenResult() const override;
 
-  PreviewRequest previewRequest_;
+  PreviewCallback previewCallback_;
   PackageUpdateListModel packages_;
   QString upgradeProblem_;
 };

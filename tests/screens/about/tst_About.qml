@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import "../../support/window"
 
-WindowCase {
+WindowTestCase {
     id: root
 
     name: "About"

@@ -284,9 +284,9 @@ TEST_F(FormulaCatalogStateTest, OffersWhatIsCached) {
 
 TEST_F(FormulaCatalogStateTest, AsksForEachScope) {
   std::vector<std::pair<char, CatalogScope>> wanted;
-  QObject::connect(&model_, &ViewModel::fetchWanted, &model_,
+  QObject::connect(&model_, &ViewModel::fetchRequested, &model_,
                    [&](CatalogScope scope) { wanted.emplace_back('f', scope); });
-  QObject::connect(&model_, &ViewModel::loadCachedWanted, &model_,
+  QObject::connect(&model_, &ViewModel::loadCachedRequested, &model_,
                    [&](CatalogScope scope) { wanted.emplace_back('c', scope); });
   model_.fetchAll();
   model_.fetchFormulae();

@@ -37,7 +37,7 @@ TEST_F(PackageListModelTest, IsEmptyAtFirst) {
 }
 
 TEST_F(PackageListModelTest, ShowsNameKindVersionAndDescription) {
-  model_.show(someCatalog(), {0, 2});
+  model_.setPackages(someCatalog(), {0, 2});
   EXPECT_EQ(model_.rowCount(), 2);
   EXPECT_EQ(at(0, Role::NameRole), u"curl"_s);
   EXPECT_EQ(at(0, Role::KindRole), u"Formula"_s);
@@ -48,13 +48,13 @@ TEST_F(PackageListModelTest, ShowsNameKindVersionAndDescription) {
 }
 
 TEST_F(PackageListModelTest, ShowsNothingWhereNothingIsKnown) {
-  model_.show(someCatalog(), {1});
+  model_.setPackages(someCatalog(), {1});
   EXPECT_EQ(at(0, Role::VersionRole), QString());
   EXPECT_EQ(at(0, Role::DescriptionRole), QString());
 }
 
 TEST_F(PackageListModelTest, SpeaksNameKindVersionAndDescription) {
-  model_.show(someCatalog(), {0, 1, 2});
+  model_.setPackages(someCatalog(), {0, 1, 2});
   EXPECT_EQ(at(0, Role::AccessibleLabelRole), u"curl, Formula, version 8.17.0, Get a file"_s);
   EXPECT_EQ(at(1, Role::AccessibleLabelRole), u"bare, Formula, unknown version"_s);
   EXPECT_EQ(at(2, Role::AccessibleLabelRole),
@@ -62,29 +62,29 @@ TEST_F(PackageListModelTest, SpeaksNameKindVersionAndDescription) {
 }
 
 TEST_F(PackageListModelTest, GivesThePackageOfARow) {
-  model_.show(someCatalog(), {0, 2});
+  model_.setPackages(someCatalog(), {0, 2});
   EXPECT_EQ(model_.package(1).id, "cask:firefox");
 }
 
 TEST_F(PackageListModelTest, StaysAsItIsWhenTheSameIsShownAgain) {
   const PackageCatalogPtr catalog = someCatalog();
-  model_.show(catalog, {0, 2});
-  const QSignalSpy replaced(&model_, &PackageListModel::replaced);
-  model_.show(catalog, {0, 2});
+  model_.setPackages(catalog, {0, 2});
+  const QSignalSpy replaced(&model_, &PackageListModel::rowsReplaced);
+  model_.setPackages(catalog, {0, 2});
   EXPECT_TRUE(replaced.isEmpty());
-  model_.show(catalog, {0});
+  model_.setPackages(catalog, {0});
   EXPECT_EQ(replaced.size(), 1);
 }
 
 TEST_F(PackageListModelTest, ChangesTheRowsInViewInsteadOfMakingThemAnew) {
   const PackageCatalogPtr catalog = someCatalog();
-  model_.show(catalog, {0, 1, 2});
+  model_.setPackages(catalog, {0, 1, 2});
   const QSignalSpy resets(&model_, &QAbstractItemModel::modelReset);
   const QSignalSpy changed(&model_, &QAbstractItemModel::dataChanged);
   const QSignalSpy removed(&model_, &QAbstractItemModel::rowsRemoved);
   const QSignalSpy inserted(&model_, &QAbstractItemModel::rowsInserted);
 
-  model_.show(catalog, {2});
+  model_.setPackages(catalog, {2});
   EXPECT_EQ(at(0, Role::NameRole), u"Mozilla Firefox"_s);
   ASSERT_EQ(removed.size(), 1);
   EXPECT_EQ(removed[0][1], 1);
@@ -93,13 +93,13 @@ TEST_F(PackageListModelTest, ChangesTheRowsInViewInsteadOfMakingThemAnew) {
   EXPECT_EQ(changed[0][0].toModelIndex().row(), 0);
   EXPECT_EQ(changed[0][1].toModelIndex().row(), 0);
 
-  model_.show(catalog, {0, 1});
+  model_.setPackages(catalog, {0, 1});
   ASSERT_EQ(inserted.size(), 1);
   EXPECT_EQ(inserted[0][1], 1);
   EXPECT_EQ(inserted[0][2], 1);
   EXPECT_EQ(changed.size(), 2);
 
-  model_.show(catalog, {});
+  model_.setPackages(catalog, {});
   EXPECT_EQ(changed.size(), 2);
   EXPECT_TRUE(resets.isEmpty());
 }

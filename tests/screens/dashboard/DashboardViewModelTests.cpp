@@ -61,7 +61,7 @@ TEST_P(CatalogOnDashboard, IsJudgedByItsAge) {
   EXPECT_EQ(dashboard.catalogValue(), QLatin1StringView(GetParam().value));
   EXPECT_EQ(dashboard.catalogTint(), QLatin1StringView(GetParam().tint));
   EXPECT_TRUE(dashboard.hasCatalogAge());
-  EXPECT_EQ(dashboard.catalogDaysLeft(), GetParam().partsLeft);
+  EXPECT_EQ(dashboard.catalogGaugePartsLeft(), GetParam().partsLeft);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ages, CatalogOnDashboard,
@@ -83,7 +83,7 @@ TEST_P(InventoryOnDashboard, IsJudgedByItsAge) {
   EXPECT_EQ(dashboard.inventoryValue(), QLatin1StringView(GetParam().value));
   EXPECT_EQ(dashboard.inventoryTint(), QLatin1StringView(GetParam().tint));
   EXPECT_TRUE(dashboard.hasInventoryAge());
-  EXPECT_EQ(dashboard.inventorySpansLeft(), GetParam().partsLeft);
+  EXPECT_EQ(dashboard.inventoryGaugePartsLeft(), GetParam().partsLeft);
 }
 
 INSTANTIATE_TEST_SUITE_P(Ages, InventoryOnDashboard,
@@ -148,7 +148,7 @@ TEST_F(DashboardScreen, SaysWhatThisBuildMayDo) {
 }
 
 TEST_F(DashboardScreen, AsksForTheInstalledPackages) {
-  const QSignalSpy wanted(&dashboard, &DashboardViewModel::viewInstalledWanted);
+  const QSignalSpy wanted(&dashboard, &DashboardViewModel::viewInstalledRequested);
   dashboard.viewInstalled();
   EXPECT_EQ(wanted.size(), 1);
 }

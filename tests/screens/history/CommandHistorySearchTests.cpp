@@ -164,7 +164,7 @@ TEST_F(CommandHistorySearch, SaysHowMuchItFound) {
 
 TEST_F(CommandHistorySearch, SaysWhenNothingMatches) {
   history.setSearchText(u"nothing like it"_s);
-  EXPECT_EQ(history.state(), CommandHistoryViewModel::NoMatches);
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::NoMatch);
   EXPECT_EQ(history.matchesText(), u"No History Matches"_s);
   history.clearSearch();
   EXPECT_EQ(history.searchText(), QString());
@@ -174,7 +174,7 @@ TEST_F(CommandHistorySearch, SaysWhenNothingMatches) {
 TEST_F(CommandHistorySearch, ShowsANewRecordThatMatchesWithoutMovingTheOthers) {
   history.setSearchText(u"wget"_s);
   const QSignalSpy inserted(history.records(), &QAbstractItemModel::rowsInserted);
-  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::replaced);
+  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::rowsReplaced);
   store.appendHistory(executedUpgrade());
   EXPECT_EQ(inserted.size(), 1);
   store.appendHistory(copiedUpdate());
@@ -189,7 +189,7 @@ TEST_F(CommandHistorySearch, IsEmptyAtOnceWhenTheHistoryIsCleared) {
   store.clearHistory();
   EXPECT_EQ(history.state(), CommandHistoryViewModel::Empty);
   store.appendHistory(copiedUpdate());
-  EXPECT_EQ(history.state(), CommandHistoryViewModel::NoMatches);
+  EXPECT_EQ(history.state(), CommandHistoryViewModel::NoMatch);
   EXPECT_EQ(found(u"update"_s), QStringList{update});
 }
 
@@ -210,7 +210,7 @@ TEST_F(CommandHistorySearch, FindsWhatCameWhileALargeHistoryWasMadeReady) {
   store.appendHistory(executedUpgrade());
   store.appendHistory(copiedUpdate());
   EXPECT_EQ(history.records()->rowCount(), 1002);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isFiltered(); }, patience));
   EXPECT_EQ(history.matchesText(), u"1 of 1002 commands"_s);
   EXPECT_EQ(found(u"wget"_s), QStringList{upgrade});
 }
@@ -222,7 +222,7 @@ TEST_F(CommandHistorySearch, KnowsTheLettersOfTheLanguageInALargeHistory) {
   CommandHistoryViewModel inTurkish(store, turkish);
   inTurkish.setSearchText(u"\u0131sl"_s);
   store.appendHistory(copiedInCapitals());
-  EXPECT_TRUE(QTest::qWaitFor([&] { return inTurkish.records()->isNarrowed(); }, patience));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return inTurkish.records()->isFiltered(); }, patience));
   EXPECT_EQ(inTurkish.matchesText(), u"2 of 1001 commands"_s);
 }
 
@@ -230,7 +230,7 @@ TEST_F(CommandHistorySearch, SearchesTheHistoryThatTookThePlaceOfALargeOne) {
   store.setCommandHistory(manyInstalls(1000));
   history.setSearchText(u"firefox1999"_s);
   store.setCommandHistory(manyInstalls(2000));
-  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isFiltered(); }, patience));
   EXPECT_EQ(history.matchesText(), u"1 of 2000 commands"_s);
   history.setSearchText(u"firefox1"_s);
   store.clearHistory();
@@ -241,7 +241,7 @@ TEST_F(CommandHistorySearch, ForgetsAQuestionThatWasTakenBackBeforeItWasAnswered
   store.setCommandHistory(manyInstalls(1000));
   history.setSearchText(u"wget"_s);
   history.clearSearch();
-  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::replaced);
+  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::rowsReplaced);
   waitUntilReady();
   EXPECT_TRUE(replaced.isEmpty());
   EXPECT_EQ(history.records()->rowCount(), 1000);
@@ -251,11 +251,11 @@ TEST_F(CommandHistorySearch, ForgetsAQuestionThatWasTakenBackBeforeItWasAnswered
 TEST_F(CommandHistorySearch, FindsTheFirstLetterAtOnceWhenTheScreenWasEnteredBefore) {
   store.setCommandHistory(manyInstalls(1000));
   history.setSearchText(u"left from the last visit"_s);
-  history.enter();
+  history.appear();
   EXPECT_EQ(history.searchText(), QString());
   waitUntilReady();
   history.setSearchText(u"f"_s);
-  EXPECT_TRUE(history.records()->isNarrowed());
+  EXPECT_TRUE(history.records()->isFiltered());
 }
 
 TEST_F(CommandHistorySearch, MakesALargeHistoryReadyElsewhereAndThenFindsEveryLetterAtOnce) {
@@ -264,10 +264,10 @@ TEST_F(CommandHistorySearch, MakesALargeHistoryReadyElsewhereAndThenFindsEveryLe
   first.start();
   history.setSearchText(u"f"_s);
   RecordProperty("milliseconds_of_the_first_letter", static_cast<int>(first.elapsed()));
-  EXPECT_FALSE(history.records()->isNarrowed());
+  EXPECT_FALSE(history.records()->isFiltered());
   EXPECT_EQ(history.state(), CommandHistoryViewModel::Listed);
   EXPECT_EQ(history.matchesText(), QString());
-  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isNarrowed(); }, patience));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return history.records()->isFiltered(); }, patience));
   RecordProperty("milliseconds_until_it_is_ready", static_cast<int>(first.elapsed()));
   const QString query = u"firefox9999"_s;
   QElapsedTimer timer;

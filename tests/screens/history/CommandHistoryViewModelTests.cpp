@@ -53,7 +53,7 @@ TEST_F(CommandHistoryScreen, IsEmptyWithoutRecords) {
 
 TEST_F(CommandHistoryScreen, ShowsTheNewestRecordFirstWithoutMovingTheOthers) {
   store.appendHistory(copied(QStringLiteral("brew upgrade wget")));
-  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::replaced);
+  const QSignalSpy replaced(history.records(), &CommandHistoryListModel::rowsReplaced);
   store.appendHistory(copied(QStringLiteral("brew cleanup")));
 
   EXPECT_EQ(at(0, Role::CommandRole).toString(), QStringLiteral("brew cleanup"));

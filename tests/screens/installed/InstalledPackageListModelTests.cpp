@@ -48,8 +48,9 @@ class InstalledPackageListModelTest : public testing::Test {
   }
 
   void show(std::vector<InstalledPackageSummary> packages, std::vector<std::size_t> places) {
-    model_.show(std::make_shared<const std::vector<InstalledPackageSummary>>(std::move(packages)),
-                std::move(places));
+    model_.setPackages(
+        std::make_shared<const std::vector<InstalledPackageSummary>>(std::move(packages)),
+        std::move(places));
   }
 
   InstalledPackageListModel model_;
@@ -124,9 +125,9 @@ TEST_F(InstalledPackageListModelTest, GivesThePackageOfARow) {
 TEST_F(InstalledPackageListModelTest, StaysAsItIsWhenTheSameIsShownAgain) {
   const auto packages =
       std::make_shared<const std::vector<InstalledPackageSummary>>(std::vector{wget()});
-  model_.show(packages, {0});
-  const QSignalSpy replaced(&model_, &InstalledPackageListModel::replaced);
-  model_.show(packages, {0});
+  model_.setPackages(packages, {0});
+  const QSignalSpy replaced(&model_, &InstalledPackageListModel::rowsReplaced);
+  model_.setPackages(packages, {0});
   EXPECT_TRUE(replaced.isEmpty());
 }
 

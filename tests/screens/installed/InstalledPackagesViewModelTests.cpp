@@ -123,7 +123,7 @@ TEST_F(InstalledPackagesViewModelTest, SaysThatItScansAndHowFarItHasCome) {
   EXPECT_EQ(model_.progressText(), QString());
   EXPECT_LT(model_.progressFraction(), 0);
   inputs_.scannedPackages = 30;
-  inputs_.knownPackages = 120;
+  inputs_.totalPackages = 120;
   model_.setInputs(inputs_);
   EXPECT_EQ(model_.progressText(), u"30 of 120 packages scanned"_s);
   EXPECT_DOUBLE_EQ(model_.progressFraction(), 0.25);
@@ -132,7 +132,7 @@ TEST_F(InstalledPackagesViewModelTest, SaysThatItScansAndHowFarItHasCome) {
 TEST_F(InstalledPackagesViewModelTest, SaysWhyAScanFailed) {
   selectPrefix();
   give(State::Failed{u"Local inventory could not be scanned: No."_s});
-  expectMessage(ViewModel::CouldNotScan, u"externaldrive.badge.exclamationmark"_s,
+  expectMessage(ViewModel::ScanFailed, u"externaldrive.badge.exclamationmark"_s,
                 u"Could Not Scan Installed Packages"_s,
                 u"Local inventory could not be scanned: No."_s);
 }
@@ -141,14 +141,14 @@ TEST_F(InstalledPackagesViewModelTest, ShowsNoRowsOfTheScanBeforeAFailure) {
   selectPrefix();
   load(someFormulae);
   give(State::Failed{u"No."_s});
-  EXPECT_EQ(model_.state(), ViewModel::CouldNotScan);
+  EXPECT_EQ(model_.state(), ViewModel::ScanFailed);
   EXPECT_THAT(names(), IsEmpty());
 }
 
 TEST_F(InstalledPackagesViewModelTest, SaysThatAPrefixHoldsNothing) {
   selectPrefix();
   load({});
-  expectMessage(ViewModel::NothingFound, u"shippingbox"_s, u"No Installed Packages Found"_s,
+  expectMessage(ViewModel::NothingInstalled, u"shippingbox"_s, u"No Installed Packages Found"_s,
                 u"Quillmere did not find readable formulae or casks in the selected prefix. "
                 "Catalog browsing is still available."_s);
 }
@@ -279,7 +279,7 @@ TEST_F(InstalledPackagesViewModelTest, AnnouncesEachChangeOnce) {
   selectPrefix();
   give(State::Loading{});
   inputs_.scannedPackages = 1;
-  inputs_.knownPackages = 2;
+  inputs_.totalPackages = 2;
   model_.setInputs(inputs_);
   load(someFormulae);
   model_.search()->setSearchText(u"nothing is called so"_s);

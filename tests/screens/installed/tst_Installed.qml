@@ -1,7 +1,7 @@
 import QtQuick
 import "../../support/window"
 
-PackageCase {
+PackageListTestCase {
     id: root
 
     name: "Installed"

@@ -3,7 +3,7 @@ import QtTest
 import "../../support/window"
 
 // The second way in: through a folder that is a prefix.
-WindowCase {
+WindowTestCase {
     id: root
 
     name: "OnboardingPrefix"
@@ -22,9 +22,9 @@ WindowCase {
         raise();
         let asked = 0;
         const count = () => ++asked;
-        stage.content.prefixSelection.chooserWanted.connect(count);
+        stage.content.prefixSelection.chooserRequested.connect(count);
         press("Select Homebrew Prefix");
-        stage.content.prefixSelection.chooserWanted.disconnect(count);
+        stage.content.prefixSelection.chooserRequested.disconnect(count);
         compare(asked, 1);
         verify(named(title));
         verify(!stage.hasCompletedOnboarding());

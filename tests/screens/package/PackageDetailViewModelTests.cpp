@@ -84,7 +84,7 @@ class PackageDetail : public testing::Test {
       EXPECT_EQ(value(detail, row, Model::HintRole).toString(),
                 u"Opens a command preview for "_s + button.commandText +
                     u". Quillmere Direct can run approved commands when policy allows."_s);
-      detail.preview(row);
+      detail.previewCommand(row);
       EXPECT_EQ(asked_.commandText, button.commandText);
       EXPECT_EQ(asked_.sourceScreen, u"Browse"_s);
     }
@@ -132,15 +132,15 @@ TEST_F(PackageDetail, OffersNoCommandForAnIdentifierThatIsRefused) {
     const auto refused = detail(inputs);
     expectButtons(*refused, {});
     EXPECT_EQ(
-        refused->commandText(),
+        refused->commandsText(),
         u"Command previews are unavailable because this package identifier is not recognized."_s);
-    refused->preview(0);
+    refused->previewCommand(0);
     EXPECT_EQ(asked_.commandText, QString());
   }
 }
 
 TEST_F(PackageDetail, SaysWhatThePreviewsAreFor) {
-  EXPECT_EQ(detail(formula())->commandText(),
+  EXPECT_EQ(detail(formula())->commandsText(),
             u"Preview exact Homebrew commands before copying or running approved actions from the "
             "selected prefix. Mutating actions require confirmation; uninstall remains "
             "preview-only."_s);
@@ -216,12 +216,12 @@ TEST_F(PackageDetail, SaysWhatIsInstalled) {
 
 TEST_F(PackageDetail, LeadsOnWhereThereIsACatalogToLookIn) {
   auto inputs = formula();
-  EXPECT_FALSE(detail(inputs)->detailItemsLead());
+  EXPECT_FALSE(detail(inputs)->canOpenDetailItems());
   inputs.hasCatalog = true;
-  EXPECT_TRUE(detail(inputs)->detailItemsLead());
+  EXPECT_TRUE(detail(inputs)->canOpenDetailItems());
   inputs = cask();
   inputs.hasCatalog = true;
-  EXPECT_FALSE(detail(inputs)->detailItemsLead());
+  EXPECT_FALSE(detail(inputs)->canOpenDetailItems());
 }
 
 TEST_F(PackageDetail, SaysThatAFormulaIsNotInTheCatalog) {

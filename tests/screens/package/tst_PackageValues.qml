@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import "../../support/window"
 
-PackagePageCase {
+PackageDetailTestCase {
     id: root
 
     name: "PackageValues"

@@ -1,7 +1,7 @@
 import QtQuick
 import "../../support/window"
 
-WindowCase {
+WindowTestCase {
     id: root
 
     name: "CommandPreview"

@@ -45,10 +45,10 @@ TEST_F(SessionView, ShowsWhatItPrintedAndHowItEnded) {
   EXPECT_EQ(stepStates(), QStringList(4, QStringLiteral("complete")));
   EXPECT_TRUE(log().contains(QStringLiteral("detail")));
   const qsizetype warned = log().indexOf(QStringLiteral("warned"));
-  EXPECT_EQ(log(RawOutputModel::StreamRole).at(warned), QStringLiteral("standardError"));
-  EXPECT_EQ(log(RawOutputModel::MarkerRole).at(warned), QStringLiteral("err"));
+  EXPECT_EQ(log(RawOutputListModel::StreamRole).at(warned), QStringLiteral("standardError"));
+  EXPECT_EQ(log(RawOutputListModel::MarkerRole).at(warned), QStringLiteral("err"));
   EXPECT_TRUE(log().first().startsWith(QStringLiteral("[quillmere] ")));
-  EXPECT_EQ(log(RawOutputModel::MarkerRole).first(), QStringLiteral("app"));
+  EXPECT_EQ(log(RawOutputListModel::MarkerRole).first(), QStringLiteral("app"));
 }
 
 TEST_F(SessionView, MarksWhatFailed) {
@@ -58,7 +58,7 @@ TEST_F(SessionView, MarksWhatFailed) {
   EXPECT_EQ(session.statusTint(), QStringLiteral("red"));
   EXPECT_EQ(stepStates(), QStringList({QStringLiteral("complete"), QStringLiteral("failed"),
                                        QStringLiteral("complete"), QStringLiteral("failed")}));
-  EXPECT_EQ(model->summaryRows()->index(0).data(OutputSummaryModel::TintRole).toString(),
+  EXPECT_EQ(model->summaryRows()->index(0).data(OutputSummaryListModel::TintRole).toString(),
             QStringLiteral("red"));
 }
 
@@ -190,7 +190,7 @@ TEST_F(SessionView, AnnouncesHowItStandsEachTimeThatChanges) {
 }
 
 TEST_F(SessionView, ShowsALineThatGrows) {
-  RawOutputModel log;
+  RawOutputListModel log;
   const QAbstractItemModelTester tester(&log);
   OutputTranscript transcript(BrewCommandOperation::install);
   const auto print = [&](const QByteArray& text) {

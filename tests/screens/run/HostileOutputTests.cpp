@@ -27,7 +27,7 @@ class HostileOutput : public SessionView {
   static constexpr int patience = 600'000;
 
   [[nodiscard]] qsizetype lengthOfRow(int row) const {
-    return model->rawOutput()->index(row).data(RawOutputModel::TextRole).toString().size();
+    return model->rawOutput()->index(row).data(RawOutputListModel::TextRole).toString().size();
   }
 };
 

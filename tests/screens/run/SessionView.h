@@ -33,7 +33,7 @@ class SessionView : public testing::Test {
     ASSERT_TRUE(settled.wait(patience));
   }
 
-  [[nodiscard]] QStringList log(int role = RawOutputModel::TextRole) const {
+  [[nodiscard]] QStringList log(int role = RawOutputListModel::TextRole) const {
     QStringList lines;
     for (int row = 0; row < model->rawOutput()->rowCount(); ++row) {
       lines += model->rawOutput()->index(row).data(role).toString();
@@ -44,7 +44,7 @@ class SessionView : public testing::Test {
   [[nodiscard]] QStringList summary() const {
     QStringList titles;
     for (int row = 0; row < model->summaryRows()->rowCount(); ++row) {
-      titles += model->summaryRows()->index(row).data(OutputSummaryModel::TitleRole).toString();
+      titles += model->summaryRows()->index(row).data(OutputSummaryListModel::TitleRole).toString();
     }
     return titles;
   }
@@ -52,7 +52,8 @@ class SessionView : public testing::Test {
   [[nodiscard]] QStringList stepStates() const {
     QStringList states;
     for (int row = 0; row < model->progressSteps()->rowCount(); ++row) {
-      states += model->progressSteps()->index(row).data(ProgressStepsModel::StateRole).toString();
+      states +=
+          model->progressSteps()->index(row).data(ProgressStepListModel::StateRole).toString();
     }
     return states;
   }

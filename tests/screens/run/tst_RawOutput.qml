@@ -3,7 +3,7 @@ import QtTest
 import "../../support/window"
 
 // All that a run printed: looked at, selected, copied.
-SessionCase {
+SessionTestCase {
     id: root
 
     name: "RawOutput"

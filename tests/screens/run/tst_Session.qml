@@ -3,7 +3,7 @@ import QtTest
 import "../../support/window"
 
 // A run, from its start to its end, and to the end of the program.
-SessionCase {
+SessionTestCase {
     id: root
 
     name: "Session"
@@ -61,7 +61,7 @@ SessionCase {
     function test_aRunThatMayChangeThePrefixOvertakesTheScan(data) {
         const notice = "A command ran since this scan";
         stage.selectPrefix();
-        stage.content.installed.scanWanted();
+        stage.content.installed.scanRequested();
         stage.content.selectIndex(data.section);
         tryVerify(() => button("Scan Again") !== null);
         stage.lockPackages();

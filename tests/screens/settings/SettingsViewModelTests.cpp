@@ -171,7 +171,7 @@ TEST_P(SettingsQuestion, ChangesNothingWhenItIsAskedOrCancelled) {
 }
 
 TEST_P(SettingsQuestion, IsOverAndAnsweredAloudWhenItIsConfirmed) {
-  const QSignalSpy done(&settings, &SettingsViewModel::done);
+  const QSignalSpy done(&settings, &SettingsViewModel::actionCompleted);
   const auto before = stored();
   ask();
   settings.confirm();

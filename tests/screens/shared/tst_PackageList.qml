@@ -1,7 +1,7 @@
 import QtQuick
 import "../../support/window"
 
-PackageCase {
+PackageListTestCase {
     id: root
 
     name: "PackageList"
@@ -114,7 +114,7 @@ PackageCase {
         scan();
         named(list().currentItem.accessibleName).Accessible.pressAction();
         tryVerify(() => stage.content.details.current !== null);
-        verify(!stage.content.details.current.detailItemsLead);
+        verify(!stage.content.details.current.canOpenDetailItems);
     }
 
     function test_aPackageThatAScanDidNotFindSaysSo() {

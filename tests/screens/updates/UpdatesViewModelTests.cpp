@@ -54,7 +54,7 @@ LocalInventoryInputs idleWithPrefix() {
 LocalInventoryInputs scanning(int scanned, int known) {
   LocalInventoryInputs inputs = inputsOf(State::Loading{});
   inputs.scannedPackages = scanned;
-  inputs.knownPackages = known;
+  inputs.totalPackages = known;
   return inputs;
 }
 

@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import "../../support/window"
 
-InventoryCase {
+InventoryTestCase {
     id: root
 
     name: "Updates"
@@ -69,7 +69,7 @@ InventoryCase {
     function test_aScanCanBeStoppedByKeyboard() {
         show("scanning");
         const spy = createTemporaryObject(spyMaker, root, {target: stage.content.updates,
-                                                           signalName: "cancelScanWanted"});
+                                                           signalName: "cancelScanRequested"});
         button("Cancel").forceActiveFocus();
         keyClick(Qt.Key_Space);
         compare(spy.count, 1);

@@ -2,7 +2,7 @@ import QtQuick
 import QtTest
 import "../../support/window"
 
-InventoryCase {
+InventoryTestCase {
     id: root
 
     name: "UpdatesList"
