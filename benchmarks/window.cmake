@@ -8,6 +8,6 @@ quillmere_benchmark(window
     window/main.cpp
     window/run.cpp
   LARGE "/(10|100|5000)"
-  LINK quillmere_app quillmere_appplugin benchmark_real_catalog benchmark_chatty_prefix
+  LINK quillmere_app benchmark_real_catalog benchmark_chatty_prefix
     benchmark_installed_prefix benchmark_long_history quillmere_test_server Qt6::Test)
 target_include_directories(benchmark_window PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")

@@ -36,12 +36,10 @@ endfunction()
 function(quillmere_arrows FOLDER OUT)
   set(_targets)
   foreach(_used IN LISTS QUILLMERE_ARROWS_${FOLDER})
-    quillmere_target(${_used} _used)
-    foreach(_target IN ITEMS ${_used} ${_used}plugin)
-      if(TARGET ${_target})
-        list(APPEND _targets ${_target})
-      endif()
-    endforeach()
+    quillmere_target(${_used} _target)
+    if(TARGET ${_target})
+      list(APPEND _targets ${_target})
+    endif()
   endforeach()
   set(${OUT} "${_targets}" PARENT_SCOPE)
 endfunction()
@@ -78,15 +76,16 @@ function(quillmere_folder FOLDER)
 endfunction()
 
 # quillmere_qml_module(FOLDER FILES …) makes a folder's library a QML module, which may import the
-# modules among the folders that it may use.
+# modules among the folders that it may use. It has no plugin: plugins serve modules that a program
+# finds while it runs, and each adds to the program and to every build of it.
 function(quillmere_qml_module FOLDER)
   quillmere_target(${FOLDER} _target)
   quillmere_uri(${FOLDER} _uri)
   set(_imports QtQuick)
   foreach(_used IN LISTS QUILLMERE_ARROWS_${FOLDER})
     quillmere_target(${_used} _library)
-    if(TARGET ${_library}plugin)
-      quillmere_uri(${_used} _import)
+    get_target_property(_import ${_library} QT_QML_MODULE_URI)
+    if(_import)
       list(APPEND _imports ${_import})
     endif()
   endforeach()
@@ -96,7 +95,12 @@ function(quillmere_qml_module FOLDER)
     VERSION 1.0
     RESOURCE_PREFIX /qt/qml
     DEPENDENCIES ${_imports}
+    NO_PLUGIN
     QML_FILES ${ARGN})
+  # Nothing calls what registers the module's types, so that a program would be linked without it.
+  string(REPLACE "." "_" _register "qml_register_types_${_uri}")
+  string(LENGTH "${_register}" _length)
+  target_link_options(${_target} INTERFACE "LINKER:-u,_Z${_length}${_register}v")
   # The registration of types includes headers by their bare names.
   target_include_directories(${_target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
   quillmere_compiled_qml(${_target})
