@@ -124,10 +124,9 @@ const CommandHistory& LocalPersistenceStore::commandHistory() const {
   return commandHistory_;
 }
 
-template <typename T>
-void LocalPersistenceStore::write(QLatin1StringView key, const T& value) {
+void LocalPersistenceStore::write(std::vector<SettingsFile::Change> changes) {
   settingsWriter_.start(QRunnable::create(
-      [file = settingsFile_, key, value] { (void)file.write(key, toVariant(value)); }));
+      [file = settingsFile_, changes = std::move(changes)] { (void)file.write(changes); }));
 }
 
 void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file) {
@@ -136,7 +135,7 @@ void LocalPersistenceStore::migrateCatalogDocument(QLatin1StringView oldKey, con
     catalogCache_.migrate(*document, file);
   }
   if (defaults_->contains(oldKey)) {
-    write(oldKey, std::optional<QByteArray>());
+    write({{oldKey, QVariant()}});
   }
 }
 
@@ -147,8 +146,7 @@ QCoro::Task<> LocalPersistenceStore::flush() {
 
 template <typename T>
 void LocalPersistenceStore::show(T& property, const T& value, ChangeSignal changed) {
-  if (property != value) {
-    property = value;
+  if (std::exchange(property, value) != value) {
     Q_EMIT(this->*changed)();
   }
 }
@@ -156,7 +154,7 @@ void LocalPersistenceStore::show(T& property, const T& value, ChangeSignal chang
 template <typename T>
 void LocalPersistenceStore::set(T& property, const T& value, QLatin1StringView key,
                                 ChangeSignal changed) {
-  write(key, value);
+  write({{key, toVariant(value)}});
   show(property, value, changed);
 }
 
@@ -166,14 +164,43 @@ void LocalPersistenceStore::setHasCompletedOnboarding(bool completed) {
 }
 
 void LocalPersistenceStore::setSelectedHomebrewPrefixPath(const std::optional<QString>& path) {
-  set(selectedHomebrewPrefixPath_, path, keys::prefixPath,
-      &LocalPersistenceStore::selectedHomebrewPrefixPathChanged);
+  write({{keys::prefixPath, toVariant(path)}});
+  showSelection({path, selectedHomebrewPrefixBookmarkData_, localInventoryLastScanDate_});
 }
 
 void LocalPersistenceStore::setSelectedHomebrewPrefixBookmarkData(
     const std::optional<QByteArray>& bookmark) {
-  set(selectedHomebrewPrefixBookmarkData_, bookmark, keys::prefixBookmark,
-      &LocalPersistenceStore::selectedHomebrewPrefixBookmarkDataChanged);
+  write({{keys::prefixBookmark, toVariant(bookmark)}});
+  showSelection({selectedHomebrewPrefixPath_, bookmark, localInventoryLastScanDate_});
+}
+
+void LocalPersistenceStore::setSelection(const Selection& selection) {
+  write({{keys::prefixPath, toVariant(selection.path)},
+         {keys::prefixBookmark, toVariant(selection.bookmark)},
+         {keys::scanDate, toVariant(selection.lastScanDate)}});
+  showSelection(selection);
+}
+
+void LocalPersistenceStore::showSelection(const Selection& selection) {
+  // Whoever hears of one of the three may ask for the others.
+  const bool otherPath =
+      std::exchange(selectedHomebrewPrefixPath_, selection.path) != selection.path;
+  const bool otherBookmark =
+      std::exchange(selectedHomebrewPrefixBookmarkData_, selection.bookmark) != selection.bookmark;
+  const bool otherDate =
+      std::exchange(localInventoryLastScanDate_, selection.lastScanDate) != selection.lastScanDate;
+  if (otherPath) {
+    Q_EMIT selectedHomebrewPrefixPathChanged();
+  }
+  if (otherBookmark) {
+    Q_EMIT selectedHomebrewPrefixBookmarkDataChanged();
+  }
+  if (otherDate) {
+    Q_EMIT localInventoryLastScanDateChanged();
+  }
+  if (otherPath) {
+    Q_EMIT prefixSelected();
+  }
 }
 
 void LocalPersistenceStore::setCatalogLastRefreshDate(const std::optional<QDateTime>& date) {
@@ -241,11 +268,13 @@ QCoro::Task<> LocalPersistenceStore::saveCatalog(QByteArray document, QUrl file,
 }
 
 void LocalPersistenceStore::selectPrefix(const QUrl& folder) {
-  if (selectedHomebrewPrefixPath_ != filePath(folder)) {
-    setLocalInventoryLastScanDate(std::nullopt);
+  const QString path = filePath(folder);
+  const bool isSelectedAgain = path == selectedHomebrewPrefixPath_;
+  setSelection({path, bookmarks_->create(folder),
+                isSelectedAgain ? localInventoryLastScanDate_ : std::nullopt});
+  if (isSelectedAgain) {
+    Q_EMIT prefixSelected();
   }
-  setSelectedHomebrewPrefixPath(filePath(folder));
-  setSelectedHomebrewPrefixBookmarkData(bookmarks_->create(folder));
 }
 
 std::optional<QUrl> LocalPersistenceStore::resolvedPrefixURL() {
@@ -264,10 +293,11 @@ std::optional<QUrl> LocalPersistenceStore::resolvedPrefixURL() {
 }
 
 void LocalPersistenceStore::renewBookmark(const QUrl& folder) {
-  setSelectedHomebrewPrefixPath(filePath(folder));
-  const auto bookmark = bookmarks_->create(folder);
-  if (bookmark && bookmark != selectedHomebrewPrefixBookmarkData_) {
-    setSelectedHomebrewPrefixBookmarkData(bookmark);
+  const QString path = filePath(folder);
+  const auto fresh = bookmarks_->create(folder);
+  const auto& bookmark = fresh ? fresh : selectedHomebrewPrefixBookmarkData_;
+  if (path != selectedHomebrewPrefixPath_ || bookmark != selectedHomebrewPrefixBookmarkData_) {
+    setSelection({path, bookmark, localInventoryLastScanDate_});
   }
 }
 
@@ -278,9 +308,7 @@ void LocalPersistenceStore::clearCacheMarkers() {
 }
 
 void LocalPersistenceStore::resetPrefix() {
-  setSelectedHomebrewPrefixPath(std::nullopt);
-  setSelectedHomebrewPrefixBookmarkData(std::nullopt);
-  setLocalInventoryLastScanDate(std::nullopt);
+  setSelection({});
 }
 
 void LocalPersistenceStore::clearHistory() {

@@ -132,6 +132,9 @@ class LocalPersistenceStore : public QObject {
 
  Q_SIGNALS:
   void hasCompletedOnboardingChanged();
+  /// A prefix was selected, also the same one once more, or the selection was reset. Path, bookmark
+  /// and scan date are those of the new selection.
+  void prefixSelected();
   void selectedHomebrewPrefixPathChanged();
   void selectedHomebrewPrefixBookmarkDataChanged();
   void catalogLastRefreshDateChanged();
@@ -141,6 +144,13 @@ class LocalPersistenceStore : public QObject {
   void commandHistoryChanged();
 
  private:
+  /// What belongs to the selected prefix and changes with it.
+  struct Selection {
+    std::optional<QString> path;
+    std::optional<QByteArray> bookmark;
+    std::optional<QDateTime> lastScanDate;
+  };
+
   using ChangeSignal = void (LocalPersistenceStore::*)();
 
   void load();
@@ -150,14 +160,15 @@ class LocalPersistenceStore : public QObject {
   QCoro::Task<> takeOver(QFuture<std::optional<CommandHistory>> reading);
   void migrateCatalogDocument(QLatin1StringView oldKey, const QUrl& file);
   void renewBookmark(const QUrl& folder);
+  void setSelection(const Selection& selection);
+  void showSelection(const Selection& selection);
   QCoro::Task<> saveCatalog(QByteArray document, QUrl file, QDateTime refreshedAt);
   template <typename T>
   void show(T& property, const T& value, ChangeSignal changed);
   template <typename T>
   void set(T& property, const T& value, QLatin1StringView key, ChangeSignal changed);
-  /// Syncs `value` to the disk, or the removal of the key where there is none.
-  template <typename T>
-  void write(QLatin1StringView key, const T& value);
+  /// Syncs all changes to the disk at once.
+  void write(std::vector<SettingsFile::Change> changes);
 
   std::unique_ptr<QSettings> defaults_;
   SettingsFile settingsFile_;

@@ -10,11 +10,13 @@ namespace {
 
 /// QSettings loses the old file with the new one, without an error, if the disk fills up while it
 /// writes. So check for room first.
-bool hasRoomFor(const QString& fileName, const QVariant& value) {
+bool hasRoomFor(const QString& fileName, const std::vector<SettingsFile::Change>& changes) {
   constexpr qint64 longestEscape = 4;
   constexpr qint64 keyAndDate = 1024;
-  const qint64 size =
-      QFileInfo(fileName).size() + longestEscape * value.toByteArray().size() + keyAndDate;
+  qint64 size = QFileInfo(fileName).size();
+  for (const auto& [key, value] : changes) {
+    size += longestEscape * value.toByteArray().size() + keyAndDate;
+  }
   return hasFreeSpaceFor(fileName, size);
 }
 
@@ -33,16 +35,18 @@ std::optional<QByteArray> SettingsFile::readBytes(QLatin1StringView key) const {
   return value.typeId() == QMetaType::QByteArray ? value.toByteArray() : QByteArray();
 }
 
-bool SettingsFile::write(QLatin1StringView key, const QVariant& value) const {
+bool SettingsFile::write(const std::vector<Change>& changes) const {
   ensurePrivateFile(name_);
-  if (!hasRoomFor(name_, value)) {
+  if (!hasRoomFor(name_, changes)) {
     return false;
   }
   QSettings settings(name_, format_);
-  if (value.isValid()) {
-    settings.setValue(key, value);
-  } else {
-    settings.remove(key);
+  for (const auto& [key, value] : changes) {
+    if (value.isValid()) {
+      settings.setValue(key, value);
+    } else {
+      settings.remove(key);
+    }
   }
   settings.sync();
   return settings.status() != QSettings::AccessError;

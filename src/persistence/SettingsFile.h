@@ -6,6 +6,8 @@
 #include <QtCore/QVariant>
 
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace quillmere {
 
@@ -20,9 +22,13 @@ class SettingsFile {
   /// Empty if the key is absent or not bytes; nullopt if the file cannot be read.
   [[nodiscard]] std::optional<QByteArray> readBytes(QLatin1StringView key) const;
 
-  /// Replaces the value of one key, or removes the key if `value` is invalid. Values that others
-  /// wrote under other keys stay. Returns whether it is on the disk; if not, the file is unchanged.
-  bool write(QLatin1StringView key, const QVariant& value) const;
+  /// A key with its new value; an invalid value removes the key.
+  using Change = std::pair<QLatin1StringView, QVariant>;
+
+  /// Makes all changes at once: a reader, or the next start after a crash, finds all of them or
+  /// none. Values that others wrote under other keys stay. Returns whether they are on the disk; if
+  /// not, the file is unchanged.
+  bool write(const std::vector<Change>& changes) const;
 
  private:
   QString name_;

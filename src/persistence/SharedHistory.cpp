@@ -74,7 +74,7 @@ std::optional<CommandHistory> SharedHistory::synchronize() {
 }
 
 void SharedHistory::store(const QByteArray& json) {
-  if (file_.write(key, json)) {
+  if (file_.write({{key, json}})) {
     known_ = json;
     unwritten_.clear();
     replaces_ = false;

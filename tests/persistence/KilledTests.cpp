@@ -31,6 +31,11 @@ class KilledProgram : public test::StoreFixture {
     return name.repeated(documentSize / name.size());
   }
 
+  /// Of very different lengths, so that a torn one is noticed.
+  static QString prefixOf(int number) {
+    return u"/a"_s + QString(number % 5000, u'a') + u'/' + QString::number(number);
+  }
+
   /// Killed before it put its name into a lock file, a program leaves one that the next has to wait
   /// half a minute for, since it cannot know whose it is. That is safe, and too long for a test.
   void removeUnsignedLocks() const {
@@ -47,7 +52,7 @@ class KilledProgram : public test::StoreFixture {
   void write(int pipe) const {
     const auto store = start();
     for (int i = static_cast<int>(store->commandHistory().size());; ++i) {
-      store->setSelectedHomebrewPrefixPath(QString(i % 5000, u'/') + QString::number(i));
+      store->selectPrefix(QUrl::fromLocalFile(prefixOf(i)));
       store->appendHistory(copyOf(QString::number(i)));
       QCoro::waitFor(store->saveFormulaCatalog(document(i), test::monday));
       QCoro::waitFor(store->flush());
@@ -85,8 +90,8 @@ class KilledProgram : public test::StoreFixture {
     }
     if (const auto& path = store->selectedHomebrewPrefixPath()) {
       written.prefixPath = path->sliced(path->lastIndexOf(u'/') + 1).toInt();
-      EXPECT_EQ(path->size() - QString::number(written.prefixPath).size(),
-                written.prefixPath % 5000);
+      EXPECT_EQ(*path, prefixOf(written.prefixPath));
+      EXPECT_EQ(store->resolvedPrefixURL(), QUrl::fromLocalFile(*path)) << "another's bookmark";
     }
     const QByteArray content = contentOf(u"formula.json"_s);
     if (content != "(none)") {

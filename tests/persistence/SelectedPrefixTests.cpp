@@ -46,6 +46,60 @@ TEST_F(SelectedPrefix, HasNoScanDateBeforeItIsScanned) {
   EXPECT_EQ(store->localInventoryLastScanDate(), std::nullopt);
 }
 
+TEST_F(SelectedPrefix, TellsOfASelectionWhenAllOfItHasChanged) {
+  const auto store = start();
+  store->selectPrefix(QUrl::fromLocalFile(u"/old"_s));
+  store->setLocalInventoryLastScanDate(test::friday);
+  int selections = 0;
+  const auto isWhole = [&] {
+    EXPECT_EQ(store->selectedHomebrewPrefixPath(), u"/new"_s);
+    EXPECT_EQ(store->resolvedPrefixURL(), QUrl::fromLocalFile(u"/new"_s));
+    EXPECT_EQ(store->localInventoryLastScanDate(), std::nullopt);
+  };
+  QObject::connect(store.get(), &Store::prefixSelected, store.get(), [&] {
+    ++selections;
+    isWhole();
+  });
+  for (const auto change : {&Store::selectedHomebrewPrefixPathChanged,
+                            &Store::selectedHomebrewPrefixBookmarkDataChanged,
+                            &Store::localInventoryLastScanDateChanged}) {
+    QObject::connect(store.get(), change, store.get(), isWhole);
+  }
+  store->selectPrefix(QUrl::fromLocalFile(u"/new"_s));
+  EXPECT_EQ(selections, 1);
+}
+
+TEST_F(SelectedPrefix, TellsThatTheSameWasSelectedOnceMore) {
+  const auto store = start();
+  store->selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew"_s));
+  int selections = 0;
+  QObject::connect(store.get(), &Store::prefixSelected, store.get(), [&] { ++selections; });
+  store->selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew"_s));
+  EXPECT_EQ(selections, 1);
+  store->resetPrefix();
+  EXPECT_EQ(selections, 2);
+  store->resetPrefix();
+  EXPECT_EQ(selections, 2);
+}
+
+TEST_F(SelectedPrefix, DoesNotTellOfABookmarkThatIsRenewed) {
+  const auto bookmarks = std::make_shared<ScriptedBookmarks>();
+  bookmarks->resolved = {QUrl::fromLocalFile(u"/opt/homebrew"_s), true};
+  bookmarks->created = "fresh";
+  const auto store = start(bookmarks);
+  store->setSelectedHomebrewPrefixPath(u"/opt/homebrew"_s);
+  store->setSelectedHomebrewPrefixBookmarkData("stale");
+  int selections = 0;
+  QObject::connect(store.get(), &Store::prefixSelected, store.get(), [&] {
+    ++selections;
+    // As a panel does that shows the selection.
+    (void)store->resolvedPrefixURL();
+  });
+  EXPECT_TRUE(store->resolvedPrefixURL().has_value());
+  EXPECT_EQ(selections, 0);
+  EXPECT_EQ(store->selectedHomebrewPrefixBookmarkData(), "fresh");
+}
+
 TEST_F(SelectedPrefix, ResolvesAPathAloneWhereThereIsNoBookmark) {
   const auto store = start(std::make_shared<ScriptedBookmarks>());
   store->selectPrefix(QUrl::fromLocalFile(u"/opt/homebrew"_s));
