@@ -1,5 +1,7 @@
 #include "prefix/HomebrewPrefixProbe.h"
 
+#include <QtCore/QDir>
+
 #include <algorithm>
 
 #include "platform/FileUrl.h"
@@ -11,16 +13,30 @@ namespace {
 
 using Status = HomebrewPrefixProbeResult::Status;
 
+QString whereElse(const HomebrewPrefixFileSystem& disk, const QUrl& folder,
+                  HomebrewPrefixLocation::Kind location) {
+  for (const QString& place : otherPlacesOf(location)) {
+    const QString path =
+        QDir::isAbsolutePath(place) ? place : filePath(appendingPath(folder, place));
+    if (disk.fileExists(path)) {
+      return place;
+    }
+  }
+  return {};
+}
+
 HomebrewPrefixProbeResult probeLocation(const HomebrewPrefixFileSystem& disk, const QUrl& folder,
                                         const HomebrewPrefixLocationInfo& info) {
   HomebrewPrefixProbeResult result{.id = QUuid::createUuid(),
                                    .label = info.label,
                                    .relativePath = info.relativePath,
                                    .status = Status::readable,
-                                   .itemCount = {}};
+                                   .itemCount = {},
+                                   .foundAt = {}};
   const QUrl url = appendingPath(folder, QString(info.relativePath));
   if (!disk.fileExists(filePath(url))) {
     result.status = Status::missing;
+    result.foundAt = whereElse(disk, folder, info.kind);
   } else if (!disk.isReadableFile(filePath(url))) {
     result.status = Status::notReadable;
   } else if (const auto contents = disk.contentsOfDirectory(url)) {
@@ -29,7 +45,37 @@ HomebrewPrefixProbeResult probeLocation(const HomebrewPrefixFileSystem& disk, co
   return result;
 }
 
+/// Whether a folder lies in another one, however deep.
+bool contains(const QUrl& outer, const QUrl& inner) {
+  const QString path = QDir::cleanPath(filePath(outer));
+  return !outer.isEmpty() &&
+         QDir::cleanPath(filePath(inner)).startsWith(path == u"/" ? path : path + u'/');
+}
+
 }  // namespace
+
+QStringList otherPlacesOf(HomebrewPrefixLocation::Kind location) {
+  using Kind = HomebrewPrefixLocation::Kind;
+  switch (location) {
+    case Kind::homebrewLibrary:
+      return {QStringLiteral("Homebrew/Library/Homebrew")};
+    case Kind::taps:
+      return {QStringLiteral("Homebrew/Library/Taps")};
+    case Kind::cache: {
+      QStringList places{qEnvironmentVariable("HOMEBREW_CACHE"),
+                         QDir::homePath() + QStringLiteral("/Library/Caches/Homebrew"),
+                         QDir::homePath() + QStringLiteral("/.cache/Homebrew")};
+      places.removeAll(QString());
+      return places;
+    }
+    case Kind::brewExecutable:
+    case Kind::cellar:
+    case Kind::caskroom:
+    case Kind::linkedFormulae:
+      break;
+  }
+  return {};
+}
 
 QString statusText(const HomebrewPrefixProbeResult& result) {
   switch (result.status) {
@@ -71,7 +117,7 @@ HomebrewPrefixProbeSummary probeChosenFolder(
     const std::function<HomebrewPrefixProbeSummary(const QUrl&)>& probe, const QUrl& chosen,
     const QUrl& shown) {
   HomebrewPrefixProbeSummary summary = probe(chosen);
-  if (summary.looksLikeHomebrewPrefix() || shown.isEmpty() || shown == chosen) {
+  if (summary.looksLikeHomebrewPrefix() || !contains(shown, chosen)) {
     return summary;
   }
   const HomebrewPrefixProbeSummary around = probe(shown);

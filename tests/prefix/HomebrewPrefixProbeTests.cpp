@@ -153,5 +153,59 @@ TEST(HomebrewPrefixProbe, PutsEachStatusInWords) {
   }
 }
 
+TEST(HomebrewPrefixProbe, SaysWhereAMissingLocationReallyIs) {
+  TestPrefix prefix;
+  prefix.withFile(u"bin/brew"_s).withFolder(u"Homebrew/Library/Homebrew"_s);
+  const auto results = probeHomebrewPrefix(prefix.url()).results;
+  const auto foundAt = [&results](QStringView relativePath) {
+    return std::ranges::find(results, relativePath, &HomebrewPrefixProbeResult::relativePath)
+        ->foundAt;
+  };
+  EXPECT_EQ(foundAt(u"Library/Homebrew"), u"Homebrew/Library/Homebrew"_s);
+  EXPECT_EQ(foundAt(u"Library/Taps"), QString()) << "it is not there either";
+  EXPECT_EQ(foundAt(u"bin/brew"), QString()) << "it is not missing";
+}
+
+TEST(HomebrewPrefixProbe, LooksForTheCacheWhereHomebrewKeepsIt) {
+  const auto places = otherPlacesOf(HomebrewPrefixLocation::Kind::cache);
+  EXPECT_EQ(places.last(), QDir::homePath() + u"/.cache/Homebrew"_s);
+  EXPECT_TRUE(places.contains(QDir::homePath() + u"/Library/Caches/Homebrew"_s));
+}
+
+/// The folder that is taken where `prefix` is the only one that is a prefix.
+QString taken(const QString& prefix, const QString& chosen, const QString& shown) {
+  const auto probe = [&prefix](const QUrl& folder) {
+    const auto status = folder == QUrl::fromLocalFile(prefix)
+                            ? HomebrewPrefixProbeResult::Status::readable
+                            : HomebrewPrefixProbeResult::Status::missing;
+    return HomebrewPrefixProbeSummary{
+        .prefixURL = folder,
+        .scannedAt = {},
+        .results = {{.id = {}, .label = {}, .relativePath = u"bin/brew"_s, .status = status}}};
+  };
+  return probeChosenFolder(probe, QUrl::fromLocalFile(chosen), QUrl::fromLocalFile(shown))
+      .prefixURL.toLocalFile();
+}
+
+TEST(ChosenFolder, IsTheOneThatWasChosenWhereThatIsAPrefix) {
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/opt/homebrew"_s, u"/opt"_s), u"/opt/homebrew"_s);
+}
+
+TEST(ChosenFolder, IsThePrefixAroundWhatIsHighlightedInTheChooser) {
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/opt/homebrew/bin"_s, u"/opt/homebrew"_s),
+            u"/opt/homebrew"_s);
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/opt/homebrew/var/log"_s, u"/opt/homebrew"_s),
+            u"/opt/homebrew"_s);
+}
+
+TEST(ChosenFolder, IsNotAPrefixElsewhereThatTheChooserHappensToShow) {
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/home/anna"_s, u"/opt/homebrew"_s), u"/home/anna"_s);
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/opt/homebrew2"_s, u"/opt/homebrew"_s),
+            u"/opt/homebrew2"_s);
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/opt"_s, u"/opt/homebrew"_s), u"/opt"_s);
+  EXPECT_EQ(taken(u"/opt/homebrew"_s, u"/opt/homebrew/../anna"_s, u"/opt/homebrew"_s),
+            u"/opt/homebrew/../anna"_s);
+}
+
 }  // namespace
 }  // namespace quillmere

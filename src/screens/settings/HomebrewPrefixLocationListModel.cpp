@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/SanitizedText.h"
+
 namespace quillmere {
 namespace {
 
@@ -48,6 +50,9 @@ QVariant HomebrewPrefixLocationListModel::data(const QModelIndex& index, int rol
       return statusText(result);
     case TintRole:
       return tint(result.status);
+    case FoundAtTextRole:
+      return result.foundAt.isEmpty() ? QString()
+                                      : QStringLiteral("Found at ") + sanitizedText(result.foundAt);
     default:
       return {};
   }
@@ -57,7 +62,8 @@ QHash<int, QByteArray> HomebrewPrefixLocationListModel::roleNames() const {
   return {{LabelRole, "label"},
           {RelativePathRole, "relativePath"},
           {StatusTextRole, "statusText"},
-          {TintRole, "tint"}};
+          {TintRole, "tint"},
+          {FoundAtTextRole, "foundAtText"}};
 }
 
 }  // namespace quillmere

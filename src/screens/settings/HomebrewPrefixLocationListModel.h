@@ -15,7 +15,13 @@ class HomebrewPrefixLocationListModel : public QAbstractListModel {
   QML_ANONYMOUS
 
  public:
-  enum Role { LabelRole = Qt::UserRole, RelativePathRole, StatusTextRole, TintRole };
+  enum Role {
+    LabelRole = Qt::UserRole,
+    RelativePathRole,
+    StatusTextRole,
+    TintRole,
+    FoundAtTextRole
+  };
 
   using QAbstractListModel::QAbstractListModel;
 

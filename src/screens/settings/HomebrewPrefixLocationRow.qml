@@ -11,11 +11,13 @@ Item {
     required property string relativePath
     required property string statusText
     required property string tint
+    required property string foundAtText
 
-    implicitHeight: Theme.rowHeight - Theme.small
+    implicitHeight: Math.max(Theme.rowHeight - Theme.small, row.implicitHeight + Theme.small)
 
     Accessible.role: Accessible.ListItem
     Accessible.name: label + ", " + relativePath + ", " + statusText
+                     + (foundAtText.length > 0 ? ", " + foundAtText : "")
 
     Hairline {
         anchors.left: parent.left
@@ -24,6 +26,8 @@ Item {
     }
 
     RowLayout {
+        id: row
+
         anchors.fill: parent
         spacing: Theme.medium
 
@@ -36,14 +40,27 @@ Item {
             Accessible.ignored: true
         }
 
-        CaptionText {
+        ColumnLayout {
             Layout.fillWidth: true
-            elide: Text.ElideMiddle
-            font.family: Theme.monospacedFamily
-            text: root.relativePath
-            wrapMode: Text.NoWrap
+            spacing: 0
 
-            Accessible.ignored: true
+            CaptionText {
+                Layout.fillWidth: true
+                elide: Text.ElideMiddle
+                font.family: Theme.monospacedFamily
+                text: root.relativePath
+                wrapMode: Text.NoWrap
+
+                Accessible.ignored: true
+            }
+
+            CaptionText {
+                Layout.fillWidth: true
+                text: root.foundAtText
+                visible: text.length > 0
+
+                Accessible.ignored: true
+            }
         }
 
         Pill {

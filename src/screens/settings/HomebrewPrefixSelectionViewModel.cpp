@@ -17,7 +17,7 @@ namespace quillmere {
 HomebrewPrefixSelectionViewModel::HomebrewPrefixSelectionViewModel(LocalPersistenceStore& store,
                                                                    Probe probe, QObject* parent)
     : QObject(parent), store_(store), probe_(std::move(probe)) {
-  connect(&store_, &LocalPersistenceStore::selectedHomebrewPrefixPathChanged, this,
+  connect(&store_, &LocalPersistenceStore::prefixSelected, this,
           &HomebrewPrefixSelectionViewModel::followSelection);
 }
 

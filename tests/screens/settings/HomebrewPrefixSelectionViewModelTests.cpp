@@ -74,6 +74,21 @@ TEST_F(HomebrewPrefixSelection, AcceptsAFolderThatHoldsNothingButBrew) {
   EXPECT_EQ(statusTexts().count(QStringLiteral("Missing")), 6);
 }
 
+TEST_F(HomebrewPrefixSelection, ReportsOnTheFolderThatAnotherPanelHasSelected) {
+  prefix.withBrew("");
+  test::TestPrefix next;
+  next.withBrew("").withFolder(QStringLiteral("Cellar"));
+  chooseAndWait(prefix.url());
+  HomebrewPrefixSelectionViewModel other(store);
+  QSignalSpy reported(&selection, &HomebrewPrefixSelectionViewModel::reportChanged);
+  other.chooseFolder(next.url());
+  ASSERT_TRUE(QTest::qWaitFor([&] { return selection.reportPath() == next.path(); }));
+  EXPECT_EQ(statusTexts().at(1), QStringLiteral("Readable (0 items)"));
+  // Nothing else comes after it.
+  QTest::qWait(50);
+  EXPECT_EQ(selection.reportPath(), next.path());
+}
+
 TEST_F(HomebrewPrefixSelection, CountsNoItemsInAnEmptyCellar) {
   prefix.withBrew("").withFolder(QStringLiteral("Cellar"));
   chooseAndWait(prefix.url());
