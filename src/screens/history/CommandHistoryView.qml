@@ -10,6 +10,7 @@ FocusScope {
     required property CommandHistoryViewModel viewModel
 
     readonly property bool empty: viewModel.state === CommandHistoryViewModel.Empty
+    readonly property bool reading: viewModel.state === CommandHistoryViewModel.Reading
     readonly property bool listed: viewModel.state === CommandHistoryViewModel.Listed
 
     // Who comes back wants to see the history, not what was searched then.
@@ -19,7 +20,7 @@ FocusScope {
         anchors.fill: parent
         anchors.margins: Theme.large
         spacing: Theme.normal
-        visible: !root.empty
+        visible: !root.empty && !root.reading
 
         ScreenHeader {
             Layout.alignment: Qt.AlignHCenter
@@ -68,7 +69,7 @@ FocusScope {
                 symbolName: "magnifyingglass"
                 text: "Try a different command, package, operation, or source screen search."
                 title: "No History Matches"
-                visible: !root.empty && !root.listed
+                visible: !root.listed
 
                 ActionButton {
                     text: "Clear Search"
@@ -91,8 +92,15 @@ FocusScope {
         visible: root.empty
     }
 
+    Progress {
+        anchors.centerIn: parent
+        width: Math.min(parent.width - 2 * Theme.large, Theme.alertWidth)
+        title: "Reading the command history..."
+        visible: root.reading
+    }
+
     Shortcut {
-        enabled: !root.empty
+        enabled: !root.empty && !root.reading
         sequence: "Ctrl+F"
 
         onActivated: search.takeFocus()

@@ -12,6 +12,9 @@ CommandHistoryViewModel::CommandHistoryViewModel(LocalPersistenceStore& store,
 }
 
 CommandHistoryViewModel::State CommandHistoryViewModel::state() const {
+  if (!store_.isHistoryLoaded()) {
+    return Reading;
+  }
   if (records_.recordCount() == 0) {
     return Empty;
   }

@@ -25,7 +25,13 @@ class CommandHistoryViewModel : public QObject {
       bool showsClearConfirmation READ showsClearConfirmation NOTIFY showsClearConfirmationChanged)
 
  public:
-  enum State { Empty, NoMatch, Listed };
+  enum State {
+    /// A long history is still being read after the start.
+    Reading,
+    Empty,
+    NoMatch,
+    Listed,
+  };
   Q_ENUM(State)
 
   explicit CommandHistoryViewModel(LocalPersistenceStore& store,

@@ -7,6 +7,7 @@
 #include "persistence/LocalPersistenceStore.h"
 #include "platform/DateTexts.h"
 #include "screens/history/CommandHistoryViewModel.h"
+#include "support/BackgroundThreadBlocker.h"
 #include "support/Printers.h"
 #include "support/TemporarySettings.h"
 
@@ -49,6 +50,26 @@ class CommandHistoryScreen : public testing::Test {
 
 TEST_F(CommandHistoryScreen, IsEmptyWithoutRecords) {
   EXPECT_EQ(history.state(), CommandHistoryViewModel::Empty);
+}
+
+TEST_F(CommandHistoryScreen, SaysThatALongHistoryIsBeingRead) {
+  CommandHistory records;
+  for (int i = 0; i < 2000; ++i) {
+    records += copied(QStringLiteral("brew info package-%1").arg(i));
+  }
+  store.setCommandHistory(records);
+  QCoro::waitFor(store.flush());
+  std::unique_ptr<LocalPersistenceStore> later;
+  std::unique_ptr<CommandHistoryViewModel> screen;
+  {
+    const test::BackgroundThreadBlocker blocker;
+    later = std::make_unique<LocalPersistenceStore>(settings.open(), settings.cacheDirectoryURL());
+    screen = std::make_unique<CommandHistoryViewModel>(*later);
+    EXPECT_EQ(screen->state(), CommandHistoryViewModel::Reading);
+  }
+  QSignalSpy changed(screen.get(), &CommandHistoryViewModel::stateChanged);
+  ASSERT_TRUE(changed.wait());
+  EXPECT_EQ(screen->state(), CommandHistoryViewModel::Listed);
 }
 
 TEST_F(CommandHistoryScreen, ShowsTheNewestRecordFirstWithoutMovingTheOthers) {
