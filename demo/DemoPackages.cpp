@@ -105,7 +105,7 @@ State stateOf(const QString& scene) {
   if (scene.startsWith("idle"_L1)) {
     return {State::Idle{}};
   }
-  if (scene == "access"_L1) {
+  if (scene == "access"_L1 || scene == "away"_L1) {
     return {State::AccessNeeded{}};
   }
   if (scene == "looking"_L1 || scene == "scanning"_L1) {
@@ -174,6 +174,9 @@ LocalInventoryInputs demoInventory(const QString& scene, const QUrl& prefix) {
   if (scene == "scanning"_L1) {
     inputs.scannedPackages = 130;
     inputs.totalPackages = 412;
+  }
+  if (scene == "away"_L1) {
+    inputs.accessProblem = u"There is no such folder at the moment."_s;
   }
   if (scene != "idle"_L1 && scene != "access"_L1) {
     inputs.selectedPrefixPath = prefix.toLocalFile();

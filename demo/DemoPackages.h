@@ -9,7 +9,7 @@
 namespace quillmere::demo {
 
 /// What the screens of the inventory are given in a scene: "idle", "idle-prefix", "access",
-/// "looking", "scanning", "failed", "empty", "current", "review", "updates", "many" (five thousand
+/// "away" (a prefix that cannot be read), "looking", "scanning", "failed", "empty", "current", "review", "updates", "many" (five thousand
 /// packages), "long" (texts without an end, in several scripts).
 [[nodiscard]] LocalInventoryInputs demoInventory(const QString& scene, const QUrl& prefix);
 

@@ -22,7 +22,7 @@ constexpr std::array sizes = {Size{QLatin1StringView("small"), QSize(900, 600)},
                               Size{QLatin1StringView("large"), QSize(1600, 1000)}};
 
 constexpr auto inventoryScenes = std::to_array<QLatin1StringView>(
-    {"updates"_L1, "review"_L1, "failed"_L1, "many"_L1, "long"_L1});
+    {"updates"_L1, "review"_L1, "away"_L1, "failed"_L1, "many"_L1, "long"_L1});
 constexpr auto packageScenes = std::to_array<QLatin1StringView>(
     {"installed-cask"_L1, "many"_L1, "long"_L1, "right-to-left"_L1, "refused"_L1, "bare"_L1});
 

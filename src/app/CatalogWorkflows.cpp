@@ -104,6 +104,7 @@ QCoro::Task<> CatalogWorkflows::fetch(CatalogScope scope) {
   if (fetch.stop.stop_requested()) {
     restoreSettledState(fetch);
   } else if (cached) {
+    failure_ = {scope, std::move(fetched).error()};
     finish(fetch, {State::Loaded{*std::move(cached)}});
   } else {
     finish(fetch, {State::Failed{std::move(fetched).error()}});
@@ -200,6 +201,7 @@ auto CatalogWorkflows::begin(CatalogScope scope) -> Fetch {
     fetch.documents.push_back(initialProgress(store_.caskCacheURL()));
   }
   fetches_.push_back(fetch);
+  failure_.reset();
   setState({State::Loading{loadingMessage(scope)}});
   showProgress();
   return fetch;

@@ -43,6 +43,14 @@ class CatalogWorkflows : public QObject {
     bool operator==(const Progress&) const = default;
   };
 
+  /// A fetch that failed while the cache had something to show instead.
+  struct Failure {
+    CatalogScope scope = CatalogScope::all;
+    /// A sentence.
+    QString reason;
+    bool operator==(const Failure&) const = default;
+  };
+
   CatalogWorkflows(LocalPersistenceStore& store, Clients clients,
                    Clock clock = &QDateTime::currentDateTimeUtc, QObject* parent = nullptr);
   ~CatalogWorkflows() override;
@@ -52,6 +60,10 @@ class CatalogWorkflows : public QObject {
 
   /// Of the fetch that began last; absent when none is under way.
   [[nodiscard]] const std::optional<Progress>& fetchProgress() const { return fetchProgress_; }
+
+  /// Why cached documents are shown in place of those that were to be fetched; absent where the
+  /// last fetch did not fail so, and from the next one on.
+  [[nodiscard]] const std::optional<Failure>& failure() const { return failure_; }
 
   /// Downloads the documents, keeps them in the cache and shows them. Whatever goes wrong, the
   /// cached documents are shown instead; only where there are none either the error is.
@@ -103,6 +115,7 @@ class CatalogWorkflows : public QObject {
   /// What a cancelled fetch leaves behind: the last state that was not loading.
   PackageCatalogState settledState_;
   std::optional<Progress> fetchProgress_;
+  std::optional<Failure> failure_;
   /// In the order of their beginnings.
   std::vector<Fetch> fetches_;
   int lastFetch_ = 0;

@@ -29,7 +29,7 @@ void ContentViewModel::connectInventory() {
   const auto tell = [this] { updateInventoryScreens(); };
   connect(&inventory_, &InventoryWorkflows::stateChanged, this, tell);
   connect(&inventory_, &InventoryWorkflows::scanProgressChanged, this, tell);
-  connect(&store_, &LocalPersistenceStore::selectedHomebrewPrefixPathChanged, this, tell);
+  connect(&store_, &LocalPersistenceStore::prefixSelected, this, tell);
   connect(&store_, &LocalPersistenceStore::localInventoryLastScanDateChanged, this, tell);
   connect(&store_, &LocalPersistenceStore::catalogLastRefreshDateChanged, this, tell);
   connectInventoryScreen(installed_);
@@ -77,33 +77,48 @@ void ContentViewModel::connectScreens() {
 }
 
 void ContentViewModel::updateBrowse() {
+  // A package page keeps what it shows while a catalog is being loaded.
+  if (!std::holds_alternative<PackageCatalogState::Loading>(catalog_.state().value)) {
+    Q_EMIT knowledgeChanged();
+  }
   const auto progress = catalog_.fetchProgress().value_or(CatalogWorkflows::Progress());
+  const auto failure = catalog_.failure().value_or(CatalogWorkflows::Failure());
   browse_.setInputs({.state = catalog_.state(),
                      .receivedBytes = progress.receivedBytes,
                      .expectedBytes = progress.expectedBytes,
                      .hasCachedFormulae = store_.hasCachedFormulaCatalog(),
                      .hasCachedCasks = store_.hasCachedCaskCatalog(),
-                     .lastRefreshDate = store_.catalogLastRefreshDate()});
+                     .lastRefreshDate = store_.catalogLastRefreshDate(),
+                     .fetchFailure = failure.reason,
+                     .failedScope = failure.scope});
+}
+
+LocalInventoryInputs ContentViewModel::inventoryInputs() const {
+  const auto progress = inventory_.scanProgress().value_or(InventoryWorkflows::Progress());
+  const auto& path = store_.selectedHomebrewPrefixPath();
+  return {.state = inventory_.state(),
+          .needsRescan = inventory_.needsRescan(),
+          .endedRuns = inventory_.endedRuns(),
+          .isCatalogNewer = inventory_.isCatalogNewer(),
+          .accessProblem = inventory_.accessProblem(),
+          .scannedPackages = progress.scannedPackages,
+          .totalPackages = progress.totalPackages,
+          .selectedPrefixPath = path,
+          .selectedPrefixURL = path ? std::optional(fileUrl(*path)) : std::nullopt,
+          .lastScanDate = store_.localInventoryLastScanDate(),
+          .catalogLastRefreshDate = store_.catalogLastRefreshDate()};
 }
 
 void ContentViewModel::updateInventoryScreens() {
-  const auto progress = inventory_.scanProgress().value_or(InventoryWorkflows::Progress());
-  const auto& path = store_.selectedHomebrewPrefixPath();
-  const LocalInventoryInputs inputs{
-      .state = inventory_.state(),
-      .needsRescan = inventory_.needsRescan(),
-      .scannedPackages = progress.scannedPackages,
-      .totalPackages = progress.totalPackages,
-      .selectedPrefixPath = path,
-      .selectedPrefixURL = path ? std::optional(fileUrl(*path)) : std::nullopt,
-      .lastScanDate = store_.localInventoryLastScanDate(),
-      .catalogLastRefreshDate = store_.catalogLastRefreshDate()};
+  const LocalInventoryInputs inputs = inventoryInputs();
   installed_.setInputs(inputs);
   updates_.setInputs(inputs);
   cleanup_.setInputs(inputs);
+  dashboard_.setAccessProblem(installed_.accessProblemText());
   // While a scan goes on, what was known before it stands: nothing flickers.
   if (!std::holds_alternative<InstalledPackagesState::Loading>(inputs.state.value)) {
     updateSidebarCounts();
+    Q_EMIT knowledgeChanged();
   }
 }
 
@@ -117,19 +132,15 @@ void ContentViewModel::updateSidebarCounts() {
 }
 
 PackageDetailContext ContentViewModel::detailContext() const {
-  return {.catalog = catalog_.state().catalog(),
-          .inventory = inventory_.state(),
-          .catalogLastRefreshDate = store_.catalogLastRefreshDate(),
-          .localInventoryLastScanDate = store_.localInventoryLastScanDate(),
-          .sourceScreen = selectedTitle()};
+  return {.catalog = catalog_.state().catalog(), .inventory = inventoryInputs()};
 }
 
 void ContentViewModel::openCatalogPackage(const HomebrewPackageSummary& package) {
-  openDetail(catalogPackageInputs(package, detailContext()));
+  openDetail(package, PackageDetailOrigin::catalog);
 }
 
 void ContentViewModel::openInstalledPackage(const InstalledPackageSummary& package) {
-  openDetail(installedPackageInputs(package, detailContext()));
+  openDetail(catalogSummary(package), PackageDetailOrigin::inventory);
 }
 
 void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& name) {
@@ -143,10 +154,17 @@ void ContentViewModel::openFormula(PackageDetailViewModel& from, const QString& 
   }
 }
 
-void ContentViewModel::openDetail(PackageDetailViewModel::Inputs inputs) {
-  auto detail = std::make_unique<PackageDetailViewModel>(std::move(inputs), previewCallback());
+void ContentViewModel::openDetail(const HomebrewPackageSummary& package,
+                                  PackageDetailOrigin origin) {
+  const QString sourceScreen = selectedTitle();
+  auto detail = std::make_unique<PackageDetailViewModel>(
+      packageDetailInputs(package, origin, sourceScreen, detailContext()), previewCallback());
   connect(detail.get(), &PackageDetailViewModel::formulaRequested, this,
           [this, from = detail.get()](const QString& name) { openFormula(*from, name); });
+  connect(this, &ContentViewModel::knowledgeChanged, detail.get(),
+          [this, package, origin, sourceScreen, shown = detail.get()] {
+            shown->update(packageDetailInputs(package, origin, sourceScreen, detailContext()));
+          });
   details_.push(std::move(detail));
 }
 

@@ -129,6 +129,8 @@ class ContentViewModel : public QObject {
  Q_SIGNALS:
   void selectedSectionChanged();
   void showsOnboardingChanged();
+  /// The catalog, the inventory or their dates say something else now.
+  void knowledgeChanged();
 
  private:
   void connectCatalog();
@@ -139,11 +141,12 @@ class ContentViewModel : public QObject {
   void updateBrowse();
   void updateInventoryScreens();
   void updateSidebarCounts();
+  [[nodiscard]] LocalInventoryInputs inventoryInputs() const;
   [[nodiscard]] PackageDetailContext detailContext() const;
   void openCatalogPackage(const HomebrewPackageSummary& package);
   void openInstalledPackage(const InstalledPackageSummary& package);
   void openFormula(PackageDetailViewModel& from, const QString& name);
-  void openDetail(PackageDetailViewModel::Inputs inputs);
+  void openDetail(const HomebrewPackageSummary& package, PackageDetailOrigin origin);
   [[nodiscard]] PreviewCallback previewCallback();
 
   LocalPersistenceStore& store_;

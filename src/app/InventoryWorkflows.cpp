@@ -35,8 +35,11 @@ void scanInBackground(QPromise<LocalInventory>& promise, const QUrl& prefix,
 
 InventoryWorkflows::InventoryWorkflows(LocalPersistenceStore& store,
                                        HomebrewPrefixFileSystemPtr fileSystem, QObject* parent)
-    : QObject(parent), store_(store), fileSystem_(std::move(fileSystem)) {
-  connect(&store_, &LocalPersistenceStore::selectedHomebrewPrefixPathChanged, this,
+    : QObject(parent),
+      store_(store),
+      fileSystem_(std::move(fileSystem)),
+      prefixPath_(store.selectedHomebrewPrefixPath()) {
+  connect(&store_, &LocalPersistenceStore::prefixSelected, this,
           &InventoryWorkflows::followSelection);
 }
 
@@ -44,11 +47,16 @@ QCoro::Task<> InventoryWorkflows::scan() {
   const QPointer<InventoryWorkflows> self(this);
   const std::optional<QUrl> prefix = store_.resolvedPrefixURL();
   if (!prefix) {
+    // A prefix is selected, but its bookmark leads nowhere.
+    accessProblem_ = store_.selectedHomebrewPrefixPath()
+                         ? QStringLiteral("The folder cannot be found any more.")
+                         : QString();
     settle({State::AccessNeeded{}});
     co_return;
   }
   const int generation = generation_;
   const int runs = runs_;
+  const auto catalogDate = store_.catalogLastRefreshDate();
   setState({State::Loading{}});
   setProgress(Progress{});
   const CachedCatalogFiles cachedCatalog{.formulae = store_.formulaCacheURL(),
@@ -72,7 +80,18 @@ QCoro::Task<> InventoryWorkflows::scan() {
     store_.setLocalInventoryLastScanDate(inventory.scannedAt);
   }
   scannedRuns_ = runs;
+  accessProblem_ = inventory.accessProblem;
+  comparedCatalogDate_ = catalogDate;
   settle(inventory.state);
+}
+
+bool InventoryWorkflows::isCatalogNewer() const {
+  return std::holds_alternative<State::Loaded>(state_.value) && store_.catalogLastRefreshDate() &&
+         store_.catalogLastRefreshDate() != comparedCatalogDate_;
+}
+
+QString InventoryWorkflows::accessProblem() const {
+  return std::holds_alternative<State::AccessNeeded>(state_.value) ? accessProblem_ : QString();
 }
 
 void InventoryWorkflows::handleRunEnded() {
@@ -85,8 +104,16 @@ void InventoryWorkflows::cancelScans() {
   settle(settledState_);
 }
 
-/// What was found in one prefix says nothing about another.
+/// What was found in one prefix says nothing about another. What was found in the same one stands;
+/// whoever selects it again because it could not be read may scan it again.
 void InventoryWorkflows::followSelection() {
+  const auto& path = store_.selectedHomebrewPrefixPath();
+  const bool isSame = std::exchange(prefixPath_, path) == path;
+  const bool isOfUse = std::holds_alternative<State::Loaded>(state_.value) ||
+                       std::holds_alternative<State::Loading>(state_.value);
+  if (isSame && isOfUse) {
+    return;
+  }
   ++generation_;
   settle({State::Idle{}});
 }

@@ -3,6 +3,7 @@
 #include <QCoroTask>
 #include <QtCore/QDateTime>
 #include <QtCore/QObject>
+#include <QtCore/QString>
 
 #include <optional>
 
@@ -39,6 +40,15 @@ class InventoryWorkflows : public QObject {
            scannedRuns_ != runs_;
   }
 
+  /// How many runs that may have changed the prefix have ended since the start.
+  [[nodiscard]] int endedRuns() const { return runs_; }
+
+  /// Whether a catalog was fetched since the state was found, which compares with the one before.
+  [[nodiscard]] bool isCatalogNewer() const;
+
+  /// Why the selected prefix could not be read, as a sentence; empty unless the last scan says so.
+  [[nodiscard]] QString accessProblem() const;
+
   /// Such a run has ended.
   void handleRunEnded();
 
@@ -64,7 +74,12 @@ class InventoryWorkflows : public QObject {
 
   LocalPersistenceStore& store_;
   HomebrewPrefixFileSystemPtr fileSystem_;
+  /// Of the prefix that `state_` is about.
+  std::optional<QString> prefixPath_;
   InstalledPackagesState state_;
+  QString accessProblem_;
+  /// Of the catalog that `state_` was compared with.
+  std::optional<QDateTime> comparedCatalogDate_;
   /// What a cancelled scan leaves behind: the last state that was not loading.
   InstalledPackagesState settledState_;
   std::optional<Progress> scanProgress_;

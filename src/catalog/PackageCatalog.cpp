@@ -39,11 +39,14 @@ PackageCatalog PackageCatalog::joined(PackageCatalog formulae, PackageCatalog ca
   return formulae;
 }
 
-const HomebrewPackageSummary* PackageCatalog::formula(std::string_view name) const {
-  SharedTextBuilder texts;
-  const SharedText id = packageId(HomebrewPackageSummary::Kind::formula, name, texts);
+const HomebrewPackageSummary* PackageCatalog::package(const SharedText& id) const {
   const auto found = std::ranges::find(packages_, id, &HomebrewPackageSummary::id);
   return found != packages_.end() ? &*found : nullptr;
+}
+
+const HomebrewPackageSummary* PackageCatalog::formula(std::string_view name) const {
+  SharedTextBuilder texts;
+  return package(packageId(HomebrewPackageSummary::Kind::formula, name, texts));
 }
 
 std::optional<std::vector<SharedText>> PackageCatalog::reverseDependencyNames(

@@ -36,6 +36,8 @@ class PackageCatalog {
 
   [[nodiscard]] const std::vector<HomebrewPackageSummary>& packages() const { return packages_; }
 
+  /// The package of this identity; null where the catalog has none.
+  [[nodiscard]] const HomebrewPackageSummary* package(const SharedText& id) const;
   /// The formula of this name; null where the catalog has none.
   [[nodiscard]] const HomebrewPackageSummary* formula(std::string_view name) const;
 

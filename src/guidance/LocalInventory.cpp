@@ -18,13 +18,18 @@ LocalInventory scanLocalInventory(const QUrl& prefix, const HomebrewPrefixFileSy
                                   const CachedCatalogFiles& cachedCatalog,
                                   const ScanProgress& progress) {
   if (!fileSystem->isReadableFile(filePath(prefix))) {
-    return {.state = {State::AccessNeeded{}}, .scannedAt = std::nullopt};
+    return {.state = {State::AccessNeeded{}},
+            .scannedAt = std::nullopt,
+            .accessProblem = fileSystem->fileExists(filePath(prefix))
+                                 ? QStringLiteral("The folder may not be read by this user.")
+                                 : QStringLiteral("There is no such folder at the moment.")};
   }
   const auto catalog = readCachedRecords(cachedCatalog);
   if (!catalog) {
     return {.state = {State::Failed{QStringLiteral("Local inventory could not be scanned: ") +
                                     catalog.error()}},
-            .scannedAt = std::nullopt};
+            .scannedAt = std::nullopt,
+            .accessProblem = {}};
   }
   const auto formulae =
       HomebrewFormulaInventoryScanner(prefix, fileSystem).scan(catalog->formulae, progress);
@@ -39,7 +44,8 @@ LocalInventory scanLocalInventory(const QUrl& prefix, const HomebrewPrefixFileSy
   auto packages = std::make_shared<const std::vector<InstalledPackageSummary>>(
       installedPackageSummaries(formulae.formulae, casks.casks));
   return {.state = {State::Loaded{std::move(packages)}},
-          .scannedAt = std::max(formulae.scannedAt, casks.scannedAt)};
+          .scannedAt = std::max(formulae.scannedAt, casks.scannedAt),
+          .accessProblem = {}};
 }
 
 }  // namespace quillmere

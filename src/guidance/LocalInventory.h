@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QtCore/QDateTime>
+#include <QtCore/QString>
 #include <QtCore/QUrl>
 
 #include <optional>
@@ -18,6 +19,8 @@ struct LocalInventory {
   InstalledPackagesState state;
   /// When the scan had finished; absent where it was not made.
   std::optional<QDateTime> scannedAt;
+  /// Why the prefix cannot be read, as a sentence; empty otherwise.
+  QString accessProblem;
 };
 
 /// Scans a prefix and joins what is installed with the catalog documents that are cached. Blocks on

@@ -84,6 +84,26 @@ TEST_F(CatalogWorkflowsTest, ShowTheCacheWithoutAnErrorWhereTheNetworkFails) {
   expectOldCache();
 }
 
+TEST_F(CatalogWorkflowsTest, SayWhyTheCacheIsShownUntilTheNextFetch) {
+  givenBothInCache();
+  EXPECT_EQ(workflows_->failure(), std::nullopt);
+  server_.answer(caskPath, {.status = 503});
+  fetch(CatalogScope::casks);
+  const CatalogWorkflows::Failure unavailable{CatalogScope::casks,
+                                              u"Homebrew returned HTTP status 503."_s};
+  EXPECT_EQ(workflows_->failure(), unavailable);
+  EXPECT_TRUE(loadCached(CatalogScope::all));
+  EXPECT_EQ(workflows_->failure(), unavailable);
+  fetch(CatalogScope::formulae);
+  EXPECT_EQ(workflows_->failure(), std::nullopt);
+}
+
+TEST_F(CatalogWorkflowsTest, SayNothingBesideTheErrorWhereThereIsNoCache) {
+  server_.answer(formulaPath, {.status = 503});
+  fetch(CatalogScope::all);
+  EXPECT_EQ(workflows_->failure(), std::nullopt);
+}
+
 TEST_F(CatalogWorkflowsTest, ShowTheCacheOfTheSameScope) {
   givenBothInCache();
   server_.answer(formulaPath, {.status = 404});

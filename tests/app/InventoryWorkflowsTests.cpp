@@ -263,5 +263,50 @@ TEST_F(InventoryWorkflowsTest, MayGoInTheMiddleOfAScan) {
   EXPECT_EQ(store_.localInventoryLastScanDate(), std::nullopt);
 }
 
+TEST_F(InventoryWorkflowsTest, SaysWhyAPrefixCannotBeRead) {
+  ASSERT_TRUE(QDir(prefix_.path()).removeRecursively());
+  scan();
+  EXPECT_TRUE(std::holds_alternative<State::AccessNeeded>(workflows_->state().value));
+  EXPECT_EQ(workflows_->accessProblem(), u"There is no such folder at the moment."_s);
+}
+
+TEST_F(InventoryWorkflowsTest, SaysThatNothingIsWrongWhereNoPrefixIsSelected) {
+  store_.resetPrefix();
+  scan();
+  EXPECT_TRUE(std::holds_alternative<State::AccessNeeded>(workflows_->state().value));
+  EXPECT_EQ(workflows_->accessProblem(), QString());
+}
+
+TEST_F(InventoryWorkflowsTest, OffersAScanWhenAPrefixThatWasAwayIsSelectedAgain) {
+  store_.selectPrefix(QUrl::fromLocalFile(prefix_.pathOf(u"away"_s)));
+  scan();
+  ASSERT_TRUE(std::holds_alternative<State::AccessNeeded>(workflows_->state().value));
+  store_.selectPrefix(QUrl::fromLocalFile(prefix_.pathOf(u"away"_s)));
+  EXPECT_TRUE(std::holds_alternative<State::Idle>(workflows_->state().value));
+  EXPECT_EQ(workflows_->accessProblem(), QString());
+}
+
+TEST_F(InventoryWorkflowsTest, KeepsWhatIsKnownWhenTheSamePrefixIsSelectedAgain) {
+  scan();
+  const QStringList before = shown();
+  ASSERT_FALSE(before.isEmpty());
+  store_.selectPrefix(prefix_.url());
+  EXPECT_EQ(shown(), before);
+}
+
+TEST_F(InventoryWorkflowsTest, KnowsThatACatalogWasFetchedSinceTheScan) {
+  EXPECT_FALSE(workflows_->isCatalogNewer());
+  store_.setCatalogLastRefreshDate(monday);
+  EXPECT_FALSE(workflows_->isCatalogNewer()) << "nothing has been compared";
+  scan();
+  EXPECT_FALSE(workflows_->isCatalogNewer());
+  store_.setCatalogLastRefreshDate(monday.addDays(1));
+  EXPECT_TRUE(workflows_->isCatalogNewer());
+  scan();
+  EXPECT_FALSE(workflows_->isCatalogNewer());
+  store_.setCatalogLastRefreshDate(std::nullopt);
+  EXPECT_FALSE(workflows_->isCatalogNewer()) << "a cleared catalog is not newer";
+}
+
 }  // namespace
 }  // namespace quillmere

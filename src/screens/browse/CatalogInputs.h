@@ -1,9 +1,11 @@
 #pragma once
 
 #include <QtCore/QDateTime>
+#include <QtCore/QString>
 
 #include <optional>
 
+#include "catalog/CatalogScope.h"
 #include "catalog/PackageCatalogState.h"
 
 namespace quillmere {
@@ -18,6 +20,10 @@ struct CatalogInputs {
   bool hasCachedFormulae = false;
   bool hasCachedCasks = false;
   std::optional<QDateTime> lastRefreshDate;
+  /// Why the last fetch failed, a sentence, and what it was to fetch, where the cache is shown
+  /// instead; empty otherwise.
+  QString fetchFailure;
+  CatalogScope failedScope = CatalogScope::all;
 
   bool operator==(const CatalogInputs&) const = default;
 

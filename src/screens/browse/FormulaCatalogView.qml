@@ -51,6 +51,18 @@ FocusScope {
             visible: !root.compact
         }
 
+        Banner {
+            Layout.fillWidth: true
+            text: root.viewModel.fetchFailureText
+            visible: text.length > 0 && !root.loading
+
+            ActionButton {
+                text: "Try Again"
+
+                onClicked: root.viewModel.tryAgain()
+            }
+        }
+
         PackageSearchBar {
             id: searchBar
 
@@ -79,41 +91,14 @@ FocusScope {
                 width: ListView.view.width
             }
 
-            StateMessage {
+            CatalogStateMessage {
                 anchors.centerIn: parent
                 width: Math.min(parent.width, Theme.sheetWidth)
-                symbolName: root.viewModel.symbolName
-                text: root.viewModel.text
-                title: root.viewModel.title
+                compact: root.compact
+                viewModel: root.viewModel
                 visible: !root.listed && !root.waiting
 
-                // The large window has them above, in a row.
-                PrimaryButton {
-                    focus: visible
-                    text: "Fetch All"
-                    visible: root.compact && !root.searchable
-
-                    onClicked: root.viewModel.fetchAll()
-                }
-
-                ActionButton {
-                    text: "Load Cached All"
-                    visible: root.compact && !root.searchable && root.viewModel.hasCachedCatalog
-
-                    onClicked: root.viewModel.loadCachedAll()
-                }
-
-                ActionButton {
-                    enabled: root.viewModel.search.searchText.length > 0
-                    focus: visible
-                    text: "Clear Search"
-                    visible: root.screenState === FormulaCatalogViewModel.NoMatch
-
-                    onClicked: {
-                        root.viewModel.search.clear();
-                        searchBar.takeFocus();
-                    }
-                }
+                onSearchCleared: searchBar.takeFocus()
             }
 
             Progress {

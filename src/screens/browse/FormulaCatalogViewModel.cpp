@@ -126,6 +126,13 @@ QString FormulaCatalogViewModel::freshnessText() const {
          QStringLiteral(" Browse does not require a selected Homebrew prefix.");
 }
 
+QString FormulaCatalogViewModel::fetchFailureText() const {
+  return inputs_.fetchFailure.isEmpty()
+             ? QString()
+             : QStringLiteral("The catalog could not be fetched. %1 The cached catalog is shown.")
+                   .arg(inputs_.fetchFailure);
+}
+
 void FormulaCatalogViewModel::open(int row) {
   if (row >= 0 && row < packages_.rowCount()) {
     // A copy: whoever opens it may have the list changed.
@@ -226,6 +233,9 @@ void FormulaCatalogViewModel::announce() {
   const QString spoken = spokenState();
   if (spoken_.accept(spoken)) {
     Q_EMIT announced(spoken);
+  }
+  if (spokenFailure_.accept(fetchFailureText())) {
+    Q_EMIT announced(fetchFailureText());
   }
 }
 

@@ -34,6 +34,7 @@ class FormulaCatalogViewModel : public QObject {
   Q_PROPERTY(QString shortSummary READ shortSummary NOTIFY stateChanged)
   Q_PROPERTY(QString accessibleSummary READ accessibleSummary NOTIFY stateChanged)
   Q_PROPERTY(QString freshnessText READ freshnessText NOTIFY stateChanged)
+  Q_PROPERTY(QString fetchFailureText READ fetchFailureText NOTIFY stateChanged)
   Q_PROPERTY(bool hasCachedCatalog READ hasCachedCatalog NOTIFY stateChanged)
   Q_PROPERTY(bool hasCachedFormulae READ hasCachedFormulae NOTIFY stateChanged)
   Q_PROPERTY(bool hasCachedCasks READ hasCachedCasks NOTIFY stateChanged)
@@ -103,7 +104,12 @@ class FormulaCatalogViewModel : public QObject {
 
   [[nodiscard]] PackageListModel* packages() { return &packages_; }
 
+  /// Why the last fetch failed, where what is shown is the cached catalog; empty otherwise.
+  [[nodiscard]] QString fetchFailureText() const;
+
   // What the buttons do.
+  Q_INVOKABLE void tryAgain() { Q_EMIT fetchRequested(inputs_.failedScope); }
+
   Q_INVOKABLE void fetchAll() { Q_EMIT fetchRequested(CatalogScope::all); }
 
   Q_INVOKABLE void fetchFormulae() { Q_EMIT fetchRequested(CatalogScope::formulae); }
@@ -153,6 +159,7 @@ class FormulaCatalogViewModel : public QObject {
   QTimer filteringDelay_;
   PackageListModel packages_;
   AnnouncementFilter spoken_;
+  AnnouncementFilter spokenFailure_;
   bool isFiltering_ = false;
   /// Counts the questions, so that only the answer to the last one is shown.
   int question_ = 0;

@@ -75,7 +75,9 @@ void CleanupGuidanceViewModel::applyInputs(const LocalInventoryInputs& previous)
   if (otherPrefix) {
     setCacheState(std::nullopt);
   }
-  if (otherPackages || otherPrefix) {
+  // What was just run may have been a cleanup.
+  const bool ranSomething = inputs().endedRuns != previous.endedRuns;
+  if (otherPackages || otherPrefix || ranSomething) {
     ++request_;
     isMeasuring_ = false;
     if (isShown_ && phase() == Loaded) {

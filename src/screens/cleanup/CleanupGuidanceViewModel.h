@@ -80,6 +80,10 @@ class CleanupGuidanceViewModel : public quillmere::LocalInventoryViewModel {
  private:
   void applyInputs(const LocalInventoryInputs& previous) override;
   [[nodiscard]] QString spokenResult() const override;
+
+  /// Old versions are old whatever the catalog says.
+  [[nodiscard]] bool usesCatalog() const override { return false; }
+
   QCoro::Task<> measureCache(std::optional<QUrl> prefixURL);
   void setCacheState(std::optional<CacheState> state);
 

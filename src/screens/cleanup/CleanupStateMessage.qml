@@ -9,24 +9,35 @@ StateMessage {
     required property CleanupGuidanceViewModel viewModel
 
     readonly property bool idle: viewModel.phase === CleanupGuidanceViewModel.Idle
+    readonly property bool canScanAgain: viewModel.accessProblemText.length > 0
     readonly property bool accessNeeded: viewModel.phase === CleanupGuidanceViewModel.AccessNeeded
     readonly property bool failed: viewModel.phase === CleanupGuidanceViewModel.Failed
 
-    note: idle ? viewModel.inventoryFreshnessText : ""
+    note: idle ? viewModel.inventoryFreshnessText : viewModel.accessProblemText
     symbolName: viewModel.symbolName
     text: viewModel.text
     title: viewModel.title
 
     PrimaryButton {
-        focus: root.accessNeeded
+        focus: visible
+        text: "Scan Again"
+        visible: root.canScanAgain
+
+        onClicked: root.viewModel.scanRequested()
+    }
+
+    PrimaryButton {
+        focus: visible && prominent
+        prominent: !root.canScanAgain
         text: "Select Homebrew Prefix"
-        visible: root.accessNeeded
+        visible: root.accessNeeded || root.viewModel.needsPrefix
 
         onClicked: root.viewModel.selectPrefixRequested()
     }
 
     PrimaryButton {
-        focus: root.idle
+        focus: visible && prominent
+        prominent: !root.viewModel.needsPrefix
         text: "Scan Read-Only Inventory"
         visible: root.idle
 
@@ -34,7 +45,7 @@ StateMessage {
     }
 
     PrimaryButton {
-        focus: root.failed
+        focus: visible
         text: "Scan Again"
         visible: root.failed
 

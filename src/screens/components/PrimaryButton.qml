@@ -1,8 +1,10 @@
 import QtQuick
 
-// The one action that a place is there for.
+// The one action that a place is there for; an ordinary button while another one is.
 ActionButton {
-    fill: Theme.accent
-    textColor: Theme.accentText
-    outline: Theme.accent
+    property bool prominent: true
+
+    fill: prominent ? Theme.accent : Theme.card
+    textColor: prominent ? Theme.accentText : Theme.text
+    outline: prominent ? Theme.accent : Theme.controlBorder
 }

@@ -14,6 +14,7 @@ Card {
     property string tint: "neutral"
     property int parts: 0
     property int partsLeft: 0
+    property string warning: ""
 
     Layout.fillHeight: true
     Layout.fillWidth: true
@@ -66,5 +67,13 @@ Card {
         Layout.fillWidth: true
         color: Theme.secondaryText
         text: root.detail
+    }
+
+    CaptionText {
+        Layout.fillWidth: true
+        color: Theme.orange
+        text: root.warning
+        visible: text.length > 0
+        wrapMode: Text.Wrap
     }
 }

@@ -42,6 +42,7 @@ ScreenPage {
             tint: root.viewModel.inventoryTint
             title: "Local Homebrew"
             value: root.viewModel.inventoryValue
+            warning: root.viewModel.accessProblemText
         }
 
         DashboardCard {

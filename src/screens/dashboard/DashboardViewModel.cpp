@@ -62,7 +62,7 @@ DashboardViewModel::DashboardViewModel(LocalPersistenceStore& store,
   connect(&nextChange_, &QTimer::timeout, this, &DashboardViewModel::refresh);
   for (const auto change : {&LocalPersistenceStore::catalogLastRefreshDateChanged,
                             &LocalPersistenceStore::localInventoryLastScanDateChanged,
-                            &LocalPersistenceStore::selectedHomebrewPrefixPathChanged}) {
+                            &LocalPersistenceStore::prefixSelected}) {
     connect(&store_, change, this, &DashboardViewModel::refresh);
   }
   refresh();
@@ -91,6 +91,12 @@ QString DashboardViewModel::inventoryDetail() const {
              : QStringLiteral(
                    "No local prefix selected. This is supported; local-only sections will ask "
                    "before accessing files.");
+}
+
+void DashboardViewModel::setAccessProblem(const QString& text) {
+  if (std::exchange(accessProblemText_, text) != text) {
+    Q_EMIT changed();
+  }
 }
 
 QString DashboardViewModel::inventoryTint() const {

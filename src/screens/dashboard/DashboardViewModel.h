@@ -31,6 +31,7 @@ class DashboardViewModel : public QObject {
   Q_PROPERTY(QString inventoryValue READ inventoryValue NOTIFY changed)
   Q_PROPERTY(QString inventoryDetail READ inventoryDetail NOTIFY changed)
   Q_PROPERTY(QString inventoryTint READ inventoryTint NOTIFY changed)
+  Q_PROPERTY(QString accessProblemText READ accessProblemText NOTIFY changed)
   Q_PROPERTY(bool hasInventoryAge READ hasInventoryAge NOTIFY changed)
   Q_PROPERTY(int inventoryGaugePartsLeft READ inventoryGaugePartsLeft NOTIFY changed)
   Q_PROPERTY(QString commandSafetyValue READ commandSafetyValue CONSTANT)
@@ -62,6 +63,11 @@ class DashboardViewModel : public QObject {
   [[nodiscard]] QString inventoryValue() const;
   [[nodiscard]] QString inventoryDetail() const;
   [[nodiscard]] QString inventoryTint() const;
+
+  /// Which prefix could not be read and why; empty otherwise.
+  [[nodiscard]] const QString& accessProblemText() const { return accessProblemText_; }
+
+  void setAccessProblem(const QString& text);
 
   [[nodiscard]] bool hasInventoryAge() const { return shown_.inventoryGaugePartsLeft.has_value(); }
 
@@ -96,6 +102,7 @@ class DashboardViewModel : public QObject {
   AppCapabilities appCapabilities_;
   Clock clock_;
   Shown shown_;
+  QString accessProblemText_;
   QTimer nextChange_;
 };
 

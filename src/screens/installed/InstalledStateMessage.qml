@@ -9,6 +9,7 @@ StateMessage {
     required property InstalledPackagesViewModel viewModel
 
     readonly property int screenState: viewModel.state
+    readonly property bool canScanAgain: viewModel.accessProblemText.length > 0
     readonly property bool accessNeeded: screenState === InstalledPackagesViewModel.NeedsAccess
     readonly property bool failed: screenState === InstalledPackagesViewModel.ScanFailed
     readonly property bool nothingInstalled: screenState === InstalledPackagesViewModel.NothingInstalled
@@ -16,12 +17,22 @@ StateMessage {
     // The search was emptied: the next one may begin.
     signal searchCleared
 
+    note: viewModel.accessProblemText
     symbolName: viewModel.symbolName
     text: viewModel.text
     title: viewModel.title
 
     PrimaryButton {
         focus: visible
+        text: "Scan Again"
+        visible: root.canScanAgain
+
+        onClicked: root.viewModel.scanRequested()
+    }
+
+    PrimaryButton {
+        focus: visible && prominent
+        prominent: !root.canScanAgain
         text: "Select Homebrew Prefix"
         visible: root.accessNeeded
 

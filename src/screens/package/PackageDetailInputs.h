@@ -1,33 +1,28 @@
 #pragma once
 
-#include <QtCore/QDateTime>
 #include <QtCore/QString>
 
-#include <optional>
-
 #include "catalog/PackageCatalog.h"
-#include "guidance/InstalledPackagesState.h"
 #include "screens/package/PackageDetailViewModel.h"
+#include "screens/shared/LocalInventoryInputs.h"
 
 namespace quillmere {
 
-/// What is known when a package is opened, and where it is opened.
+/// What is known of packages at the moment.
 struct PackageDetailContext {
   /// Null when no catalog is loaded.
   PackageCatalogPtr catalog;
-  InstalledPackagesState inventory;
-  std::optional<QDateTime> catalogLastRefreshDate;
-  std::optional<QDateTime> localInventoryLastScanDate;
-  /// The name of the section, for the history.
-  QString sourceScreen;
+  LocalInventoryInputs inventory;
 };
 
-/// What the page of a package of the catalog shows. Pure; any thread.
-[[nodiscard]] PackageDetailViewModel::Inputs catalogPackageInputs(
-    const HomebrewPackageSummary& package, const PackageDetailContext& context);
+/// Where a package is opened, which decides what is said while its dependants are unknown.
+enum class PackageDetailOrigin { catalog, inventory };
 
-/// What the page of an installed package shows. Pure; any thread.
-[[nodiscard]] PackageDetailViewModel::Inputs installedPackageInputs(
-    const InstalledPackageSummary& package, const PackageDetailContext& context);
+/// What the page of a package shows: what the loaded catalog says of it, or else `package` as it
+/// was opened, and what the last scan found. `sourceScreen` is the name of the section, for the
+/// history. Pure; any thread.
+[[nodiscard]] PackageDetailViewModel::Inputs packageDetailInputs(
+    const HomebrewPackageSummary& package, PackageDetailOrigin origin, const QString& sourceScreen,
+    const PackageDetailContext& context);
 
 }  // namespace quillmere

@@ -38,6 +38,18 @@ PackageDetailViewModel::PackageDetailViewModel(Inputs inputs, PreviewCallback pr
       commands_(packageCommands(inputs_.package.kind, inputs_.package.id)) {
 }
 
+void PackageDetailViewModel::update(Inputs inputs) {
+  if (inputs == inputs_) {
+    return;
+  }
+  const Inputs previous = std::exchange(inputs_, std::move(inputs));
+  Q_EMIT changed();
+  if (previous.package.detailItems != inputs_.package.detailItems ||
+      previous.reverseDependencyNames != inputs_.reverseDependencyNames) {
+    Q_EMIT listsChanged();
+  }
+}
+
 QString PackageDetailViewModel::name() const {
   return sanitizedText(inputs_.package.name);
 }

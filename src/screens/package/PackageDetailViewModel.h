@@ -19,39 +19,40 @@
 
 namespace quillmere {
 
-/// One package, from the catalog or from the local inventory. What it shows never changes: the
-/// package is opened anew to see more. Owned by `ContentViewModel`, which makes one for each
-/// package that is opened. UI thread only.
+/// One package, as the catalog and the local inventory know it at the moment. Owned by
+/// `ContentViewModel`, which makes one for each package that is opened and keeps it up to date. UI
+/// thread only.
 class PackageDetailViewModel : public QObject {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the main window's view model")
   Q_PROPERTY(QString name READ name CONSTANT)
   Q_PROPERTY(QString kindText READ kindText CONSTANT)
-  Q_PROPERTY(QString versionText READ versionText CONSTANT)
-  Q_PROPERTY(QString descriptionText READ descriptionText CONSTANT)
+  Q_PROPERTY(QString versionText READ versionText NOTIFY changed)
+  Q_PROPERTY(QString descriptionText READ descriptionText NOTIFY changed)
   Q_PROPERTY(QString notListedText READ notListedText CONSTANT)
-  Q_PROPERTY(QString latestKnownText READ latestKnownText CONSTANT)
-  Q_PROPERTY(QString headVersionText READ headVersionText CONSTANT)
-  Q_PROPERTY(QString homepageText READ homepageText CONSTANT)
-  Q_PROPERTY(bool canOpenHomepage READ canOpenHomepage CONSTANT)
+  Q_PROPERTY(QString latestKnownText READ latestKnownText NOTIFY changed)
+  Q_PROPERTY(QString headVersionText READ headVersionText NOTIFY changed)
+  Q_PROPERTY(QString homepageText READ homepageText NOTIFY changed)
+  Q_PROPERTY(bool canOpenHomepage READ canOpenHomepage NOTIFY changed)
   Q_PROPERTY(QString homepageProblem READ homepageProblem NOTIFY homepageProblemChanged)
-  Q_PROPERTY(QString licenseText READ licenseText CONSTANT)
-  Q_PROPERTY(QString tapText READ tapText CONSTANT)
-  Q_PROPERTY(bool isInstalled READ isInstalled CONSTANT)
-  Q_PROPERTY(QString installedVersionText READ installedVersionText CONSTANT)
-  Q_PROPERTY(QString localSourceText READ localSourceText CONSTANT)
+  Q_PROPERTY(QString licenseText READ licenseText NOTIFY changed)
+  Q_PROPERTY(QString tapText READ tapText NOTIFY changed)
+  Q_PROPERTY(bool isInstalled READ isInstalled NOTIFY changed)
+  Q_PROPERTY(QString installedVersionText READ installedVersionText NOTIFY changed)
+  Q_PROPERTY(QString localSourceText READ localSourceText NOTIFY changed)
   Q_PROPERTY(bool isFormula READ isFormula CONSTANT)
   Q_PROPERTY(QString detailTitle READ detailTitle CONSTANT)
   Q_PROPERTY(QString detailSymbolName READ detailSymbolName CONSTANT)
-  Q_PROPERTY(QString detailText READ detailText CONSTANT)
-  Q_PROPERTY(QList<QString> detailItems READ detailItems CONSTANT)
-  Q_PROPERTY(bool canOpenDetailItems READ canOpenDetailItems CONSTANT)
+  Q_PROPERTY(QString detailText READ detailText NOTIFY listsChanged)
+  Q_PROPERTY(QList<QString> detailItems READ detailItems NOTIFY listsChanged)
+  Q_PROPERTY(bool canOpenDetailItems READ canOpenDetailItems NOTIFY changed)
   Q_PROPERTY(QString formulaProblem READ formulaProblem NOTIFY formulaProblemChanged)
-  Q_PROPERTY(QString reverseDependencyText READ reverseDependencyText CONSTANT)
-  Q_PROPERTY(QList<QString> reverseDependencyNames READ reverseDependencyNames CONSTANT)
-  Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText CONSTANT)
-  Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText CONSTANT)
+  Q_PROPERTY(QString reverseDependencyText READ reverseDependencyText NOTIFY changed)
+  Q_PROPERTY(QList<QString> reverseDependencyNames READ reverseDependencyNames NOTIFY listsChanged)
+  Q_PROPERTY(QString catalogFreshnessText READ catalogFreshnessText NOTIFY changed)
+  Q_PROPERTY(QString inventoryFreshnessText READ inventoryFreshnessText NOTIFY changed)
+  Q_PROPERTY(QString rescanWarning READ rescanWarning NOTIFY changed)
   Q_PROPERTY(quillmere::PackageCommandListModel* commands READ commands CONSTANT)
   Q_PROPERTY(QString commandsText READ commandsText CONSTANT)
 
@@ -73,13 +74,24 @@ class PackageDetailViewModel : public QObject {
     bool hasInventory = false;
     /// Whether there is a catalog that formulae can be looked up in.
     bool hasCatalog = false;
+    /// Why what is said of the installed package may be out of date; empty otherwise.
+    QString rescanWarning;
     /// The name of the section that it was opened in, for the history.
     QString sourceScreen;
+
+    bool operator==(const Inputs&) const = default;
   };
 
   PackageDetailViewModel(Inputs inputs, PreviewCallback previewCallback,
                          Clock clock = &QDateTime::currentDateTimeUtc,
                          UrlOpener openUrl = &QDesktopServices::openUrl, QObject* parent = nullptr);
+
+  [[nodiscard]] const Inputs& inputs() const { return inputs_; }
+
+  /// Shows what has become known of the same package since.
+  void update(Inputs inputs);
+
+  [[nodiscard]] const QString& rescanWarning() const { return inputs_.rescanWarning; }
 
   [[nodiscard]] QString name() const;
   /// "Formula" or "Cask".
@@ -144,6 +156,9 @@ class PackageDetailViewModel : public QObject {
   Q_INVOKABLE void previewCommand(int row);
 
  Q_SIGNALS:
+  void changed();
+  /// The lists of other packages, which take longer to draw, have changed.
+  void listsChanged();
   void homepageProblemChanged();
   void formulaProblemChanged();
   /// The user goes back to where the package was opened.

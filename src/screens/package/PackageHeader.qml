@@ -56,6 +56,13 @@ ColumnLayout {
         }
     }
 
+    Pill {
+        symbolName: "exclamationmark.triangle"
+        text: root.viewModel.rescanWarning
+        tint: "orange"
+        visible: text.length > 0
+    }
+
     BodyText {
         Layout.fillWidth: true
         color: Theme.secondaryText

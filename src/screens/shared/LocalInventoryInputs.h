@@ -15,6 +15,12 @@ struct LocalInventoryInputs {
   InstalledPackagesState state;
   /// Whether a command that may have changed the prefix ran since what is known was scanned.
   bool needsRescan = false;
+  /// How many such commands have ended since the start.
+  int endedRuns = 0;
+  /// Whether a catalog was fetched since, so that other versions are the latest known now.
+  bool isCatalogNewer = false;
+  /// Why the selected prefix could not be read, as a sentence; empty where it could.
+  QString accessProblem;
   /// Of the scan that is under way.
   int scannedPackages = 0;
   int totalPackages = 0;
@@ -25,5 +31,9 @@ struct LocalInventoryInputs {
 
   bool operator==(const LocalInventoryInputs&) const = default;
 };
+
+/// Why what is known of the inventory is older than what was done or fetched since; empty where it
+/// is not. `usesCatalog` says whether versions of the catalog are shown beside it. Pure.
+[[nodiscard]] QString rescanWarning(const LocalInventoryInputs& inputs, bool usesCatalog);
 
 }  // namespace quillmere

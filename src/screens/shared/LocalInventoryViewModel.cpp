@@ -3,7 +3,18 @@
 #include <utility>
 #include <variant>
 
+#include "platform/SanitizedText.h"
+
 namespace quillmere {
+
+QString rescanWarning(const LocalInventoryInputs& inputs, bool usesCatalog) {
+  if (inputs.needsRescan) {
+    return QStringLiteral("A command ran since this scan");
+  }
+  return inputs.isCatalogNewer && usesCatalog
+             ? QStringLiteral("A newer catalog was fetched since this scan")
+             : QString();
+}
 
 LocalInventoryViewModel::LocalInventoryViewModel(Clock clock, QObject* parent)
     : QObject(parent), clock_(std::move(clock)) {
@@ -21,7 +32,18 @@ LocalInventoryViewModel::Phase LocalInventoryViewModel::phase() const {
 }
 
 QString LocalInventoryViewModel::rescanWarning() const {
-  return inputs_.needsRescan ? QStringLiteral("A command ran since this scan") : QString();
+  return quillmere::rescanWarning(inputs_, usesCatalog());
+}
+
+QString LocalInventoryViewModel::accessProblemText() const {
+  return phase() == AccessNeeded && inputs_.selectedPrefixPath && !inputs_.accessProblem.isEmpty()
+             ? QStringLiteral("Selected prefix: %1. %2")
+                   .arg(sanitizedText(*inputs_.selectedPrefixPath), inputs_.accessProblem)
+             : QString();
+}
+
+bool LocalInventoryViewModel::needsPrefix() const {
+  return phase() == Idle && !inputs_.selectedPrefixPath;
 }
 
 QString LocalInventoryViewModel::progressText() const {

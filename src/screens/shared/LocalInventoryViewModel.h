@@ -24,6 +24,8 @@ class LocalInventoryViewModel : public QObject {
   Q_PROPERTY(QString text READ text NOTIFY changed)
   Q_PROPERTY(QString symbolName READ symbolName NOTIFY changed)
   Q_PROPERTY(QString rescanWarning READ rescanWarning NOTIFY changed)
+  Q_PROPERTY(QString accessProblemText READ accessProblemText NOTIFY changed)
+  Q_PROPERTY(bool needsPrefix READ needsPrefix NOTIFY changed)
   Q_PROPERTY(QString progressText READ progressText NOTIFY changed)
   Q_PROPERTY(double progressFraction READ progressFraction NOTIFY changed)
 
@@ -40,8 +42,13 @@ class LocalInventoryViewModel : public QObject {
 
   [[nodiscard]] Phase phase() const;
 
-  /// That what is shown may be less than what a command has made of the prefix; empty otherwise.
+  /// Why what is shown is older than what is known or was done since; empty otherwise.
   [[nodiscard]] QString rescanWarning() const;
+
+  /// Which prefix could not be read and why, so that it may be scanned again; empty otherwise.
+  [[nodiscard]] QString accessProblemText() const;
+  /// Whether a scan could not be made, since no prefix is selected.
+  [[nodiscard]] bool needsPrefix() const;
 
   // What the screen says in place of its list.
   [[nodiscard]] virtual QString title() const = 0;
@@ -75,6 +82,9 @@ class LocalInventoryViewModel : public QObject {
   virtual void applyInputs(const LocalInventoryInputs& previous) = 0;
   /// What a loaded inventory comes to, as it is said aloud.
   [[nodiscard]] virtual QString spokenResult() const = 0;
+
+  /// Whether the screen compares with the catalog.
+  [[nodiscard]] virtual bool usesCatalog() const { return true; }
 
   void notifyChanges();
 

@@ -12,18 +12,28 @@ StateMessage {
     property bool initialFocus: true
 
     readonly property bool idle: viewModel.phase === UpdatesViewModel.Idle
+    readonly property bool canScanAgain: viewModel.accessProblemText.length > 0
     readonly property bool accessNeeded: viewModel.phase === UpdatesViewModel.AccessNeeded
     readonly property bool loaded: viewModel.phase === UpdatesViewModel.Loaded
 
-    note: idle ? viewModel.catalogFreshnessText : ""
+    note: idle ? viewModel.catalogFreshnessText : viewModel.accessProblemText
     symbolName: viewModel.symbolName
     text: viewModel.text
     title: viewModel.title
 
     PrimaryButton {
-        focus: root.initialFocus && root.accessNeeded
+        focus: root.initialFocus && visible
+        text: "Scan Again"
+        visible: root.canScanAgain
+
+        onClicked: root.viewModel.scanRequested()
+    }
+
+    PrimaryButton {
+        focus: root.initialFocus && visible && prominent
+        prominent: !root.canScanAgain
         text: "Select Homebrew Prefix"
-        visible: root.accessNeeded
+        visible: root.accessNeeded || root.viewModel.needsPrefix
 
         onClicked: root.viewModel.selectPrefixRequested()
     }
@@ -36,7 +46,8 @@ StateMessage {
     }
 
     PrimaryButton {
-        focus: root.initialFocus && visible
+        focus: root.initialFocus && visible && prominent
+        prominent: !root.viewModel.needsPrefix
         text: root.viewModel.scanTitle
         visible: !root.accessNeeded
 

@@ -91,7 +91,11 @@ QString UpdatesViewModel::symbolName() const {
     case Failed:
       return u"externaldrive.badge.exclamationmark"_s;
     case Loaded:
-      return u"checkmark.circle"_s;
+      // Without a catalog, or with an older one, nothing says that all is well.
+      if (inputs().catalogLastRefreshDate && rescanWarning().isEmpty()) {
+        return u"checkmark.circle"_s;
+      }
+      break;
     case Idle:
     case AccessNeeded:
     case Loading:

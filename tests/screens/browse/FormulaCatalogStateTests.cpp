@@ -338,5 +338,23 @@ TEST_F(FormulaCatalogStateTest, OffersTheTypesInOrder) {
   EXPECT_EQ(model_.search()->filterIndex(), 2);
 }
 
+TEST_F(FormulaCatalogStateTest, SaysWhyTheCacheIsShownAndTriesTheSameAgain) {
+  std::optional<CatalogScope> asked;
+  QObject::connect(&model_, &ViewModel::fetchRequested, &model_,
+                   [&asked](CatalogScope scope) { asked = scope; });
+  EXPECT_EQ(model_.fetchFailureText(), QString());
+  inputs_.fetchFailure = u"Homebrew returned HTTP status 503."_s;
+  inputs_.failedScope = CatalogScope::casks;
+  model_.setInputs(inputs_);
+  const QString text =
+      u"The catalog could not be fetched. Homebrew returned HTTP status 503. The cached catalog is "
+      "shown."_s;
+  EXPECT_EQ(model_.fetchFailureText(), text);
+  model_.setInputs(inputs_);
+  EXPECT_EQ(std::ranges::count(announced_, text), 1) << "said once";
+  model_.tryAgain();
+  EXPECT_EQ(asked, CatalogScope::casks);
+}
+
 }  // namespace
 }  // namespace quillmere

@@ -230,6 +230,32 @@ TEST_F(Cleanup, DoesNotAskTwiceAtOnce) {
   EXPECT_EQ(cleanup_.cachePath(), u"/a/cache"_s) << "what was known stays until then";
 }
 
+TEST_F(Cleanup, IsNotOutOfDateForANewerCatalog) {
+  LocalInventoryInputs inputs = loadedFrom(u"/a"_s);
+  inputs.isCatalogNewer = true;
+  cleanup_.setInputs(inputs);
+  EXPECT_EQ(cleanup_.rescanWarning(), QString());
+}
+
+TEST_F(Cleanup, MeasuresAgainAfterEachCommandThatMayHaveCleanedUp) {
+  LocalInventoryInputs inputs = loadedFrom(u"/a"_s);
+  cleanup_.setInputs(inputs);
+  cleanup_.appear();
+  answer({CacheState::Readable{u"/a/cache"_s, 2000}});
+  EXPECT_EQ(cleanup_.cacheSizeText(), u"2 KB"_s);
+  for (int run = 1; run <= 2; ++run) {
+    inputs.needsRescan = true;
+    inputs.endedRuns = run;
+    disk_->state = {CacheState::Readable{u"/a/cache"_s, 2000 - run * 1000}};
+    disk_->answers.release();
+    QSignalSpy changed(&cleanup_, &CleanupGuidanceViewModel::cacheChanged);
+    cleanup_.setInputs(inputs);
+    ASSERT_TRUE(!changed.isEmpty() || changed.wait());
+    EXPECT_EQ(cleanup_.cacheSizeText(), run == 1 ? u"1 KB"_s : u"Zero KB"_s);
+  }
+  EXPECT_EQ(disk_->measured, 3);
+}
+
 TEST_F(Cleanup, ShowsNothingOfAnotherPrefix) {
   cleanup_.setInputs(loadedFrom(u"/a"_s));
   cleanup_.appear();

@@ -11,10 +11,15 @@ InventoryTestCase {
     function test_eachStateOffersWhatItCan_data() {
         return [{tag: "idle", title: "Scan For Cleanup Guidance",
                  text: "Select a Homebrew prefix before deriving cleanup guidance.",
-                 actions: ["Scan Read-Only Inventory"]},
+                 actions: ["Select Homebrew Prefix", "Scan Read-Only Inventory"]},
+                {tag: "idle-prefix", title: "Scan For Cleanup Guidance",
+                 text: /^Selected prefix: /, actions: ["Scan Read-Only Inventory"]},
                 {tag: "access", title: "Local Access Needed",
                  text: "Cleanup guidance needs read-only local inventory. Quillmere Direct can run cleanup only after showing the command and asking for stronger confirmation.",
                  actions: ["Select Homebrew Prefix"]},
+                {tag: "away", title: "Local Access Needed",
+                 text: /^Selected prefix: .*\. There is no such folder at the moment\.$/,
+                 actions: ["Scan Again", "Select Homebrew Prefix"]},
                 {tag: "scanning",
                  title: "Scanning installed packages before deriving cleanup guidance...",
                  text: "130 of 412 packages scanned", actions: ["Cancel"]},
@@ -32,7 +37,7 @@ InventoryTestCase {
     function test_eachStateOffersWhatItCan(data) {
         show(data.tag);
         shows(data.title);
-        shows(data.text);
+        showsText(data.text);
         compare(buttons(), data.actions);
     }
 

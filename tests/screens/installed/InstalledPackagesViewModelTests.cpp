@@ -292,5 +292,30 @@ TEST_F(InstalledPackagesViewModelTest, AnnouncesEachChangeOnce) {
                   u"No Installed Packages Found"_s));
 }
 
+TEST_F(InstalledPackagesViewModelTest, NamesThePrefixThatCannotBeReadAndWhy) {
+  LocalInventoryInputs inputs;
+  inputs.state.value = InstalledPackagesState::AccessNeeded{};
+  model_.setInputs(inputs);
+  EXPECT_EQ(model_.accessProblemText(), QString());
+  inputs.selectedPrefixPath = u"/opt/homebrew"_s;
+  inputs.accessProblem = u"There is no such folder at the moment."_s;
+  model_.setInputs(inputs);
+  EXPECT_EQ(model_.title(), u"Local Access Needed"_s);
+  EXPECT_EQ(model_.accessProblemText(),
+            u"Selected prefix: /opt/homebrew. There is no such folder at the moment."_s);
+  inputs.state.value = InstalledPackagesState::Idle{};
+  model_.setInputs(inputs);
+  EXPECT_EQ(model_.accessProblemText(), QString());
+}
+
+TEST_F(InstalledPackagesViewModelTest, NeedsAPrefixBeforeAScan) {
+  model_.setInputs({});
+  EXPECT_TRUE(model_.needsPrefix());
+  LocalInventoryInputs inputs;
+  inputs.selectedPrefixPath = u"/opt/homebrew"_s;
+  model_.setInputs(inputs);
+  EXPECT_FALSE(model_.needsPrefix());
+}
+
 }  // namespace
 }  // namespace quillmere

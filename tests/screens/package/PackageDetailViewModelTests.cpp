@@ -317,5 +317,26 @@ TEST(PackageTarget, TakesTheNameFromTheIdentifier) {
             (BrewCommandTarget{BrewCommandTargetKind::cask, u"formula:odd"_s}));
 }
 
+TEST_F(PackageDetail, FollowsWhatBecomesKnown) {
+  auto inputs = formula();
+  const auto page = detail(inputs);
+  QSignalSpy changed(page.get(), &PackageDetailViewModel::changed);
+  QSignalSpy listsChanged(page.get(), &PackageDetailViewModel::listsChanged);
+  page->update(inputs);
+  EXPECT_EQ(changed.count(), 0);
+  inputs.hasInventory = true;
+  inputs.installedPackage = test::installed("formula:wget", {"1.25.0"});
+  inputs.rescanWarning = u"A command ran since this scan"_s;
+  page->update(inputs);
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_EQ(listsChanged.count(), 0);
+  EXPECT_EQ(page->installedVersionText(), u"1.25.0"_s);
+  EXPECT_EQ(page->rescanWarning(), u"A command ran since this scan"_s);
+  inputs.reverseDependencyNames = {text(u"curl"_s)};
+  page->update(inputs);
+  EXPECT_EQ(listsChanged.count(), 1);
+  EXPECT_EQ(page->reverseDependencyNames(), QStringList(u"curl"_s));
+}
+
 }  // namespace
 }  // namespace quillmere

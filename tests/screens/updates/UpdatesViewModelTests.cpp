@@ -58,6 +58,13 @@ LocalInventoryInputs scanning(int scanned, int known) {
   return inputs;
 }
 
+/// What was compared with a catalog of today.
+LocalInventoryInputs compared(std::vector<InstalledPackageSummary> packages) {
+  LocalInventoryInputs inputs = loaded(std::move(packages));
+  inputs.catalogLastRefreshDate = now;
+  return inputs;
+}
+
 class UpdatesMessages : public Updates, public testing::WithParamInterface<Message> {};
 
 TEST_P(UpdatesMessages, SayWhereTheInventoryStands) {
@@ -90,18 +97,36 @@ INSTANTIATE_TEST_SUITE_P(
                 UpdatesViewModel::Failed, u"Could Not Derive Updates"_s,
                 u"externaldrive.badge.exclamationmark"_s,
                 u"Local inventory could not be scanned: gone"_s},
-        Message{loaded({installed("formula:wget", {"1.0"}, "1.0")}), UpdatesViewModel::Loaded,
+        Message{compared({installed("formula:wget", {"1.0"}, "1.0")}), UpdatesViewModel::Loaded,
                 u"No Updates Found"_s, u"checkmark.circle"_s,
                 u"All comparable installed packages match the latest-known catalog versions. This "
                 "is based on cached/public metadata, not live brew output."_s},
-        Message{loaded({installed("formula:wget", {"1.0"})}), UpdatesViewModel::Loaded,
+        Message{compared({installed("formula:wget", {"1.0"})}), UpdatesViewModel::Loaded,
                 u"No Comparable Updates Found"_s, u"checkmark.circle"_s,
                 u"No comparable outdated packages were found. 1 package have missing, newer, or "
                 "non-comparable version data."_s},
-        Message{loaded({installed("formula:a", {"1.0"}), installed("formula:b", {"2"}, "1")}),
+        Message{compared({installed("formula:a", {"1.0"}), installed("formula:b", {"2"}, "1")}),
                 UpdatesViewModel::Loaded, u"No Comparable Updates Found"_s, u"checkmark.circle"_s,
                 u"No comparable outdated packages were found. 2 packages have missing, newer, or "
                 "non-comparable version data."_s}));
+
+TEST_F(Updates, DoNotSayThatAllIsWellWithoutACatalogOfTheScan) {
+  LocalInventoryInputs inputs = compared({});
+  updates_.setInputs(inputs);
+  EXPECT_EQ(updates_.symbolName(), u"checkmark.circle"_s);
+  inputs.isCatalogNewer = true;
+  updates_.setInputs(inputs);
+  EXPECT_EQ(updates_.title(), u"No Updates Found"_s);
+  EXPECT_EQ(updates_.symbolName(), u"arrow.triangle.2.circlepath"_s);
+  EXPECT_EQ(updates_.rescanWarning(), u"A newer catalog was fetched since this scan"_s);
+  inputs.isCatalogNewer = false;
+  inputs.needsRescan = true;
+  updates_.setInputs(inputs);
+  EXPECT_EQ(updates_.symbolName(), u"arrow.triangle.2.circlepath"_s);
+  EXPECT_EQ(updates_.rescanWarning(), u"A command ran since this scan"_s);
+  updates_.setInputs(loaded({}));
+  EXPECT_EQ(updates_.symbolName(), u"arrow.triangle.2.circlepath"_s);
+}
 
 TEST_F(Updates, NameTheScanAfterTheState) {
   updates_.setInputs(inputsOf(State::Idle{}));

@@ -11,10 +11,16 @@ InventoryTestCase {
     function test_eachStateOffersWhatItCan_data() {
         return [{tag: "idle", title: "Scan For Updates",
                  text: "Select a Homebrew prefix before deriving update guidance.",
+                 actions: ["Select Homebrew Prefix", "Scan Read-Only Inventory",
+                           "Refresh Catalog", "Run brew update"]},
+                {tag: "idle-prefix", title: "Scan For Updates", text: /^Selected prefix: /,
                  actions: ["Scan Read-Only Inventory", "Refresh Catalog", "Run brew update"]},
                 {tag: "access", title: "Local Access Needed",
                  text: "Update guidance needs read-only local inventory plus latest-known public catalog metadata. Quillmere Direct can run approved update and upgrade commands after prefix selection and required confirmation.",
                  actions: ["Select Homebrew Prefix", "Browse Catalog Instead"]},
+                {tag: "away", title: "Local Access Needed",
+                 text: /^Selected prefix: .*\. There is no such folder at the moment\.$/,
+                 actions: ["Scan Again", "Select Homebrew Prefix", "Browse Catalog Instead"]},
                 {tag: "scanning",
                  title: "Scanning installed packages before deriving update guidance...",
                  text: "130 of 412 packages scanned", actions: ["Cancel"]},
@@ -35,7 +41,7 @@ InventoryTestCase {
     function test_eachStateOffersWhatItCan(data) {
         show(data.tag);
         shows(data.title);
-        shows(data.text);
+        showsText(data.text);
         compare(buttons(), data.actions);
     }
 

@@ -15,6 +15,14 @@ WindowTestCase {
         verify(waitForRendering(window.contentItem));
     }
 
+    // `text` is the whole text or a pattern of it.
+    function showsText(text) {
+        if (text instanceof RegExp)
+            showsLike(text);
+        else
+            shows(text);
+    }
+
     // Every button that can be seen, in reading order.
     function buttons() {
         return spoken().filter(item => item.Accessible.role === Accessible.Button)
