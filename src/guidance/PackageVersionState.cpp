@@ -45,4 +45,13 @@ Status packageVersionStatus(const std::optional<SharedText>& current,
   return order < 0 ? Status::outdated : Status::newerThanCatalog;
 }
 
+bool isRebuild(const std::optional<SharedText>& current, const std::optional<SharedText>& latest) {
+  if (!current || !latest || !current->view().starts_with(latest->view())) {
+    return false;
+  }
+  const std::string_view revision = current->view().substr(latest->view().size());
+  return revision.size() > 1 && revision.front() == '_' &&
+         revision.find_first_not_of("0123456789", 1) == std::string_view::npos;
+}
+
 }  // namespace quillmere

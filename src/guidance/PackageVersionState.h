@@ -42,4 +42,9 @@ inline constexpr auto rawValues<PackageVersionState::Status> =
 [[nodiscard]] PackageVersionState::Status packageVersionStatus(
     const std::optional<SharedText>& current, const std::optional<SharedText>& latest);
 
+/// Whether `current` is a later build of the very version `latest`: "2.0_1" of "2.0". Homebrew
+/// counts its own rebuilds so, and the catalog's version does not show them. Pure; any thread.
+[[nodiscard]] bool isRebuild(const std::optional<SharedText>& current,
+                             const std::optional<SharedText>& latest);
+
 }  // namespace quillmere

@@ -90,5 +90,21 @@ TEST(PackageVersionStatus, KnowsTheDigitsOfEveryScript) {
   EXPECT_EQ(status("v\U0001F37A", "1.0"), Status::notComparable);
 }
 
+TEST(PackageVersionStatus, KnowsARebuildOfTheSameVersion) {
+  const auto isRebuildOf = [](std::string_view current, std::string_view latest) {
+    return isRebuild(SharedText(current), SharedText(latest));
+  };
+  EXPECT_TRUE(isRebuildOf("2.0_1", "2.0"));
+  EXPECT_TRUE(isRebuildOf("2.0_12", "2.0"));
+  EXPECT_FALSE(isRebuildOf("2.0", "2.0"));
+  EXPECT_FALSE(isRebuildOf("2.0_", "2.0"));
+  EXPECT_FALSE(isRebuildOf("2.0_1", "2.0_1"));
+  EXPECT_FALSE(isRebuildOf("2.0_beta", "2.0"));
+  EXPECT_FALSE(isRebuildOf("2.0.1", "2.0"));
+  EXPECT_FALSE(isRebuildOf("2.1_1", "2.0"));
+  EXPECT_FALSE(isRebuild(std::nullopt, SharedText(std::string_view("2.0"))));
+  EXPECT_FALSE(isRebuild(SharedText(std::string_view("2.0_1")), std::nullopt));
+}
+
 }  // namespace
 }  // namespace quillmere

@@ -94,6 +94,10 @@ QVariant PackageUpdateListModel::data(const QModelIndex& index, int role) const 
       return QString("Preview upgrade command for "_L1 + sanitizedText(row.package.name));
     case HeadingRole:
       return heading(index.row());
+    case NoteRole:
+      return isRebuild(row.versionState.currentVersion, row.versionState.latestKnownVersion)
+                 ? u"Rebuilt by Homebrew, same version"_s
+                 : QString();
     default:
       return {};
   }
@@ -108,7 +112,8 @@ QHash<int, QByteArray> PackageUpdateListModel::roleNames() const {
           {LatestKnownTextRole, "latestKnownText"},
           {AccessibleLabelRole, "accessibleLabel"},
           {UpgradeLabelRole, "upgradeLabel"},
-          {HeadingRole, "heading"}};
+          {HeadingRole, "heading"},
+          {NoteRole, "note"}};
 }
 
 }  // namespace quillmere

@@ -27,6 +27,7 @@ class PackageUpdateListModel : public QAbstractListModel {
     AccessibleLabelRole,
     UpgradeLabelRole,
     HeadingRole,
+    NoteRole,
   };
 
   using QAbstractListModel::QAbstractListModel;

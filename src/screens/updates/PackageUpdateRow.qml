@@ -16,6 +16,7 @@ FocusScope {
     required property string latestKnownText
     required property string accessibleLabel
     required property string upgradeLabel
+    required property string note
 
     readonly property real titleHeight: heading.length > 0 ? title.implicitHeight : 0
 
@@ -49,6 +50,7 @@ FocusScope {
 
         Accessible.role: Accessible.ListItem
         Accessible.name: root.accessibleLabel
+        Accessible.description: root.note
 
         HoverHandler {
             id: hover
@@ -114,6 +116,14 @@ FocusScope {
                 Item {
                     Layout.fillWidth: true
                 }
+            }
+
+            CaptionText {
+                Layout.fillWidth: true
+                text: root.note
+                visible: text.length > 0
+
+                Accessible.ignored: true
             }
         }
 

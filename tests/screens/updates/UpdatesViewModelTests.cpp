@@ -157,6 +157,14 @@ TEST_F(Updates, KnowOfNoneOnceTheInventoryIsGone) {
   EXPECT_EQ(updates_.packages()->rowCount(), 0);
 }
 
+TEST_F(Updates, SayThatARebuildIsTheSameVersion) {
+  updates_.setInputs(
+      loaded({installed("formula:a", {"2.0_1"}, "2.0"), installed("formula:b", {"3"}, "2")}));
+  EXPECT_EQ(value(0, PackageUpdateListModel::StatusTextRole), u"Newer than latest-known"_s);
+  EXPECT_EQ(value(0, PackageUpdateListModel::NoteRole), u"Rebuilt by Homebrew, same version"_s);
+  EXPECT_EQ(value(1, PackageUpdateListModel::NoteRole), QString());
+}
+
 TEST_F(Updates, ListWhatIsOutdatedAboveWhatNeedsReview) {
   const QAbstractItemModelTester tester(updates_.packages(),
                                         QAbstractItemModelTester::FailureReportingMode::Fatal);
