@@ -6,6 +6,7 @@
 
 #include "execution/DirectCommandOutputPresentation.h"
 #include "execution/FailureAdvice.h"
+#include "execution/RunOutcome.h"
 #include "execution/TranscriptWords.h"
 #include "support/Printers.h"
 
@@ -97,6 +98,24 @@ std::string adviceOf(const DirectCommandResult& result) {
                               : failureAdvice(result).section(u'.', 0, 0).toStdString();
 }
 
+/// The sentence, the details, the lines of the caveats, the warnings; of each as many as there are.
+std::string outcomeOf(const DirectCommandResult& result) {
+  const RunOutcome outcome = makeRunOutcome({.operation = result.command.operation,
+                                             .target = result.command.target.name.value_or(u""_s),
+                                             .exitCode = result.exitCode,
+                                             .standardOutput = result.standardOutput,
+                                             .standardError = result.standardError});
+  QStringList parts{outcome.sentence};
+  parts += outcome.details;
+  if (!outcome.caveats.isEmpty()) {
+    parts += u"caveats: %1 lines"_s.arg(outcome.caveats.count(u'\n') + 1);
+  }
+  for (const QString& warning : outcome.warnings) {
+    parts += u"warning: "_s + warning;
+  }
+  return parts.join(u" | "_s).toStdString();
+}
+
 TEST_F(TranscriptWords, AreKnownForEachTranscript) {
   for (const QString& name : names()) {
     EXPECT_TRUE(std::ranges::any_of(test::transcriptWords, [&name](const auto& words) {
@@ -112,6 +131,7 @@ TEST_F(TranscriptWords, AreWhatAUserReads) {
     EXPECT_EQ(stepsOf(result), result.exitCode == 0 ? "++++" : "+-+-");
     EXPECT_EQ(rowsOf(result), words.rows);
     EXPECT_EQ(adviceOf(result), words.advice);
+    EXPECT_EQ(outcomeOf(result), words.outcome);
   }
 }
 
