@@ -24,14 +24,21 @@ struct Ending {
 
 CommandHistoryRecord ran(const BrewCommand& command, const QString& screen, const QDateTime& start,
                          const Ending& ending) {
-  return makeExecutionRecord({.command = command,
-                              .standardOutput = ending.standardOutput,
-                              .standardError = ending.standardError,
-                              .exitCode = ending.exitCode,
-                              .startedAt = start,
-                              .endedAt = start.addSecs(ending.seconds),
-                              .wasCancelled = ending.wasCancelled},
-                             screen);
+  return makeExecutionRecord(
+      {.command = command,
+       .standardOutput = ending.standardOutput,
+       .standardError = ending.standardError,
+       .exitCode = ending.exitCode,
+       .startedAt = start,
+       .endedAt = start.addSecs(ending.seconds),
+       .wasCancelled = ending.wasCancelled,
+       .outcome = makeRunOutcome({.operation = command.operation,
+                                  .target = command.target.name.value_or(QString()),
+                                  .exitCode = ending.exitCode,
+                                  .wasCancelled = ending.wasCancelled,
+                                  .standardOutput = ending.standardOutput,
+                                  .standardError = ending.standardError})},
+      screen);
 }
 
 BrewCommandTarget formula(const QString& name) {
@@ -55,6 +62,8 @@ CommandHistory historyUntil(const QDateTime& now) {
       ran(builder.upgrade(formula(u"ripgrep"_s)).value(), u"Updates"_s, ago(day + 2 * hour),
           {.seconds = 8,
            .standardOutput = "==> Upgrading 1 outdated package:\nripgrep 14.1.1 -> 15.1.0\n"
+                             "==> Pouring ripgrep--15.1.0.bottle.tar.gz\n"
+                             "/home/anna/homebrew/Cellar/ripgrep/15.1.0: 6 files, 6.1MB\n"
                              "==> Upgraded 1 outdated package\n",
            .standardError = "==> Fetching downloads for: ripgrep\n"}),
       ran(builder.install(cask(u"blender"_s)).value(), u"Browse"_s, ago(day + 3 * hour),

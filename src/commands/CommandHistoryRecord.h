@@ -33,6 +33,8 @@ struct CommandHistoryRecord {
   std::optional<std::int32_t> executionExitCode;
   std::optional<bool> executionCancelled;
   std::optional<QString> executionOutputSummary;
+  /// What came of the run, in one sentence. Records of earlier versions have none.
+  std::optional<QString> executionOutcome;
 
   bool operator==(const CommandHistoryRecord&) const = default;
 };

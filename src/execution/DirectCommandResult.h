@@ -8,6 +8,7 @@
 #include <cstdint>
 
 #include "commands/BrewCommand.h"
+#include "execution/RunOutcome.h"
 
 namespace quillmere {
 
@@ -25,6 +26,9 @@ struct DirectCommandResult {
   QDateTime startedAt;
   QDateTime endedAt;
   bool wasCancelled = false;
+  /// What came of it, in words: made beside the result, so that whoever shows or keeps the run need
+  /// not read its output again.
+  RunOutcome outcome;
 
   bool operator==(const DirectCommandResult&) const = default;
 };

@@ -235,7 +235,7 @@ void ProcessDirectCommandExecution::collectRemainingOutput() {
 }
 
 DirectCommandResult ProcessDirectCommandExecution::makeResult(std::int32_t exitCode) const {
-  return {
+  DirectCommandResult result{
       .command = run_.command,
       .brewExecutableURL = run_.brewExecutableURL,
       .arguments = run_.arguments,
@@ -245,7 +245,15 @@ DirectCommandResult ProcessDirectCommandExecution::makeResult(std::int32_t exitC
       .startedAt = startedAt_,
       .endedAt = QDateTime::currentDateTimeUtc(),
       .wasCancelled = cancellationState_.isCancelled(),
+      .outcome = {},
   };
+  result.outcome = makeRunOutcome({.operation = run_.command.operation,
+                                   .target = run_.command.target.name.value_or(QString()),
+                                   .exitCode = exitCode,
+                                   .wasCancelled = result.wasCancelled,
+                                   .standardOutput = result.standardOutput,
+                                   .standardError = result.standardError});
+  return result;
 }
 
 }  // namespace quillmere

@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "persistence/ExecutionOutputSummary.h"
+#include "platform/AbbreviatedText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +27,7 @@ constexpr qint64 endMSecs = 253'402'300'800'000;
 constexpr qsizetype usualRecordSize = 512;
 
 /// The keys of a record, for the writer and the reader alike. Stops where `visit` returns false.
+/// Keys that were added later say so: to earlier versions they are keys that nobody knows.
 template <typename Record, typename Visit>
 bool visitFields(Record& record, Visit&& visit) {
   return visit("id"_L1, record.id) && visit("command"_L1, record.command) &&
@@ -37,7 +39,8 @@ bool visitFields(Record& record, Visit&& visit) {
          visit("executionEndedAt"_L1, record.executionEndedAt) &&
          visit("executionExitCode"_L1, record.executionExitCode) &&
          visit("executionCancelled"_L1, record.executionCancelled) &&
-         visit("executionOutputSummary"_L1, record.executionOutputSummary);
+         visit("executionOutputSummary"_L1, record.executionOutputSummary) &&
+         visit.added("executionOutcome"_L1, record.executionOutcome);
 }
 
 // Not written by QJsonDocument, because the whole history is written after every command, and
@@ -118,6 +121,10 @@ struct FieldWriter {
   bool operator()(QLatin1StringView key, const std::optional<T>& value) const {
     return !value || (*this)(key, *value);
   }
+
+  bool added(QLatin1StringView key, const std::optional<QString>& value) const {
+    return (*this)(key, value);
+  }
 };
 
 bool read(const QJsonValue& json, QString& text) {
@@ -176,6 +183,14 @@ struct FieldReader {
     return isAbsent(key) || read(object[key], value.emplace());
   }
 
+  /// Whatever stands there, the record stays readable.
+  bool added(QLatin1StringView key, std::optional<QString>& value) const {
+    if (object[key].isString()) {
+      value = object[key].toString();
+    }
+    return true;
+  }
+
   [[nodiscard]] bool isAbsent(QLatin1StringView key) const {
     const QJsonValue value = object[key];
     return value.isUndefined() || value.isNull();
@@ -212,8 +227,22 @@ std::optional<CommandHistory> decodeCommandHistory(const QByteArray& json) {
   return history;
 }
 
+namespace {
+
+/// A sentence is one line; an error that Homebrew quotes may be long.
+constexpr qsizetype longestOutcome = 300;
+
+std::optional<QString> keptOutcome(const RunOutcome& outcome, const Secrets& secrets) {
+  return outcome.sentence.isEmpty()
+             ? std::nullopt
+             : std::optional(abbreviated(secrets.redacted(outcome.sentence), longestOutcome));
+}
+
+}  // namespace
+
 CommandHistoryRecord makeExecutionRecord(const DirectCommandResult& result,
                                          const std::optional<QString>& sourceScreen) {
+  const Secrets secrets(QProcessEnvironment::systemEnvironment());
   return {
       .id = QUuid::createUuid(),
       .command = result.command.commandText,
@@ -228,8 +257,8 @@ CommandHistoryRecord makeExecutionRecord(const DirectCommandResult& result,
       .executionExitCode = result.exitCode,
       .executionCancelled = result.wasCancelled,
       .executionOutputSummary =
-          executionOutputSummary(result.standardOutput, result.standardError,
-                                 Secrets(QProcessEnvironment::systemEnvironment())),
+          executionOutputSummary(result.standardOutput, result.standardError, secrets),
+      .executionOutcome = keptOutcome(result.outcome, secrets),
   };
 }
 

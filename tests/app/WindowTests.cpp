@@ -202,6 +202,12 @@ class Stage : public QObject {
         "#!/bin/sh\necho 'Error: A `brew upgrade` process has already locked wget.' >&2\nexit 1\n");
   }
 
+  /// From now on, brew has something to say to its user.
+  Q_INVOKABLE void printCaveats() {
+    world_->prefix.withBrew(
+        "#!/bin/sh\necho '==> Caveats'\necho 'To start it:'\necho '  brew services start it'\n");
+  }
+
   /// From now on, brew does not end when it is asked to, but only when it is released.
   Q_INVOKABLE void ignoreRequestsToEnd() {
     world_->prefix.withBrew(

@@ -72,7 +72,8 @@ def it_is_no_update_any_more(window, prefix):
 def the_history_has_it(window):
     window.key("ctrl+7")
     record = window.get("list item", contains=RECORD)
-    expect(record.description == "Executed", f"the record says {record.description!r}")
+    expect(record.description == "Executed. Upgraded jq 1.7.1 to 1.8.1",
+           f"the record says {record.description!r}")
 
 
 def tell(stage):

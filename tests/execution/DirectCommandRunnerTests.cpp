@@ -47,6 +47,14 @@ TEST(DirectCommandRunner, TellsEachStepOfARunInOrder) {
   EXPECT_EQ(run.text(standardOutput), "info|wget|");
 }
 
+TEST(DirectCommandRunner, SaysInItsResultWhatCameOfTheRun) {
+  TestPrefix prefix;
+  prefix.withBrew("#!/bin/sh\necho 'Error: no such thing' >&2\nexit 1\n");
+  const DirectCommandResult result = finish(startRun(prefix)).result;
+  EXPECT_EQ(result.outcome.sentence, QStringLiteral("Failed: no such thing"));
+  EXPECT_EQ(result.outcome.kind, RunOutcome::Kind::failure);
+}
+
 TEST(DirectCommandRunner, DescribesTheRunInItsResult) {
   TestPrefix prefix;
   prefix.withBrew("#!/bin/sh\necho out\necho err >&2\n");

@@ -57,6 +57,21 @@ QString output(const CommandHistoryRecord& record) {
   return sanitizedText(record.executionOutputSummary.value_or(QString()).simplified());
 }
 
+/// What came of a run, where the record says it.
+QString sentence(const CommandHistoryRecord& record) {
+  return sanitizedText(record.executionOutcome.value_or(QString()).simplified());
+}
+
+/// How a record came to be and what came of it, for those who do not see the row.
+QString description(const CommandHistoryRecord& record) {
+  const QString how = cancelled(record) ? QStringLiteral("Cancelled") : outcomeText(record);
+  const QString what = sentence(record);
+  if (what.isEmpty()) {
+    return how;
+  }
+  return what.startsWith(how) ? what : how + ". "_L1 + what;
+}
+
 std::string foldedSearchText(const CommandHistoryRecord& record, const QLocale& locale) {
   return searchableForm(searchText(record), locale);
 }
@@ -126,6 +141,10 @@ QVariant CommandHistoryListModel::data(const QModelIndex& index, int role) const
       return details(record);
     case OutputRole:
       return output(record);
+    case SentenceRole:
+      return sentence(record);
+    case DescriptionRole:
+      return description(record);
     case TimeTextRole:
       return timeText(record);
     case ExecutedRole:
@@ -147,6 +166,8 @@ QHash<int, QByteArray> CommandHistoryListModel::roleNames() const {
   return {{CommandRole, "command"},
           {DetailsRole, "details"},
           {OutputRole, "output"},
+          {SentenceRole, "sentence"},
+          {DescriptionRole, "description"},
           {TimeTextRole, "timeText"},
           {ExecutedRole, "executed"},
           {CancelledRole, "cancelled"},

@@ -27,6 +27,8 @@ class CommandHistoryListModel : public quillmere::ReplaceableListModel {
     CommandRole = Qt::UserRole,
     DetailsRole,
     OutputRole,
+    SentenceRole,
+    DescriptionRole,
     TimeTextRole,
     ExecutedRole,
     CancelledRole,

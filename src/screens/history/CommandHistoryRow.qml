@@ -10,6 +10,8 @@ Item {
     required property string command
     required property string details
     required property string output
+    required property string sentence
+    required property string description
     required property string timeText
     required property string outcomeText
     required property string accessibleLabel
@@ -24,7 +26,7 @@ Item {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: accessibleLabel
-    Accessible.description: cancelled ? "Cancelled" : outcomeText
+    Accessible.description: description
 
     // As in PackageRow.
     ListView.onReused: Accessible.ignored = false
@@ -84,8 +86,8 @@ Item {
             CaptionText {
                 Layout.fillWidth: true
                 elide: Text.ElideRight
-                font.family: Theme.monospacedFamily
-                text: root.output
+                font.family: root.sentence.length > 0 ? Theme.family : Theme.monospacedFamily
+                text: root.sentence.length > 0 ? root.sentence : root.output
                 visible: text.length > 0
                 wrapMode: Text.NoWrap
 

@@ -66,6 +66,12 @@ SheetPage {
         }
     }
 
+    RunOutcomeBlock {
+        Layout.fillWidth: true
+        viewModel: root.viewModel
+        visible: root.viewModel.hasOutcome && !(root.low && root.viewModel.showsRawOutput)
+    }
+
     OutputSummary {
         Layout.fillWidth: true
         viewModel: root.viewModel

@@ -21,6 +21,8 @@ namespace quillmere {
 namespace {
 
 constexpr auto readInterval = 100ms;
+/// Between two announcements: the second of two at once would take the first one's place.
+constexpr auto announcementPause = 1500ms;
 /// How much is read at one look, in bytes. A child that prints faster than we read would make each
 /// look longer than the one before, and the screen stand still meanwhile.
 constexpr qsizetype mostForALook = 8Z * 1024 * 1024;
@@ -39,6 +41,25 @@ QLatin1StringView tintOf(const DirectExecutionSessionStatus& status) {
   };
 
   return std::visit(Tint(), status);
+}
+
+struct Looks {
+  QLatin1StringView symbol;
+  QLatin1StringView tint;
+};
+
+constexpr Looks looksOf(RunOutcome::Kind kind) {
+  switch (kind) {
+    case RunOutcome::Kind::success:
+      return {"checkmark.circle.fill"_L1, "green"_L1};
+    case RunOutcome::Kind::information:
+      return {"info.circle"_L1, "blue"_L1};
+    case RunOutcome::Kind::failure:
+      return {"xmark.octagon"_L1, "red"_L1};
+    case RunOutcome::Kind::cancellation:
+      return {"stop.circle"_L1, "neutral"_L1};
+  }
+  return {};
 }
 
 }  // namespace
@@ -89,6 +110,10 @@ DirectExecutionSessionViewModel::DirectExecutionSessionViewModel(
   readTimer_.setSingleShot(true);
   readTimer_.setInterval(readInterval);
   connect(&readTimer_, &QTimer::timeout, this, [this] { readOutput(); });
+  outcomeTimer_.setSingleShot(true);
+  outcomeTimer_.setInterval(announcementPause);
+  connect(&outcomeTimer_, &QTimer::timeout, this,
+          &DirectExecutionSessionViewModel::announceOutcome);
   connect(&controller_, &DirectExecutionSessionController::outputChunksChanged, this, [this] {
     if (!readTimer_.isActive()) {
       readTimer_.start();
@@ -116,6 +141,14 @@ QString DirectExecutionSessionViewModel::statusSymbol() const {
 
 QString DirectExecutionSessionViewModel::statusTint() const {
   return tintOf(controller_.status());
+}
+
+QString DirectExecutionSessionViewModel::outcomeSymbol() const {
+  return looksOf(outcome_.kind).symbol;
+}
+
+QString DirectExecutionSessionViewModel::outcomeTint() const {
+  return looksOf(outcome_.kind).tint;
 }
 
 QString DirectExecutionSessionViewModel::durationText() const {
@@ -245,7 +278,7 @@ void DirectExecutionSessionViewModel::show(Read read) {
   presentation_ = std::move(read.presentation);
   hasOutput_ = read.hasOutput;
   if (read.isLast) {
-    advise();
+    showOutcome();
   }
   Q_EMIT presentationChanged();
   showSteps();
@@ -255,15 +288,24 @@ void DirectExecutionSessionViewModel::show(Read read) {
   }
 }
 
-void DirectExecutionSessionViewModel::advise() {
+void DirectExecutionSessionViewModel::showOutcome() {
   const auto& result = controller_.result();
-  if (!result || !std::holds_alternative<SessionFailed>(controller_.status())) {
+  if (!result) {
     return;
   }
-  adviceText_ = failureAdvice(*result);
-  if (!adviceText_.isEmpty()) {
-    Q_EMIT announced(adviceText_);
+  outcome_ = result->outcome;
+  if (std::holds_alternative<SessionFailed>(controller_.status())) {
+    adviceText_ = failureAdvice(*result);
   }
+  if (!outcome_.sentence.isEmpty() || !adviceText_.isEmpty()) {
+    outcomeTimer_.start();
+  }
+}
+
+void DirectExecutionSessionViewModel::announceOutcome() {
+  QStringList said{outcome_.sentence, adviceText_};
+  said.removeAll(QString());
+  Q_EMIT announced(said.join(". "_L1));
 }
 
 }  // namespace quillmere

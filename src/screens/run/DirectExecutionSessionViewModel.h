@@ -35,6 +35,13 @@ class DirectExecutionSessionViewModel : public QObject {
   Q_PROPERTY(QString summaryTitle READ summaryTitle NOTIFY presentationChanged)
   Q_PROPERTY(QString summarySymbol READ summarySymbol NOTIFY presentationChanged)
   Q_PROPERTY(QString summaryEmptyText READ summaryEmptyText NOTIFY presentationChanged)
+  Q_PROPERTY(bool hasOutcome READ hasOutcome NOTIFY presentationChanged)
+  Q_PROPERTY(QString outcomeSentence READ outcomeSentence NOTIFY presentationChanged)
+  Q_PROPERTY(QString outcomeSymbol READ outcomeSymbol NOTIFY presentationChanged)
+  Q_PROPERTY(QString outcomeTint READ outcomeTint NOTIFY presentationChanged)
+  Q_PROPERTY(QStringList outcomeDetails READ outcomeDetails NOTIFY presentationChanged)
+  Q_PROPERTY(QString outcomeCaveats READ outcomeCaveats NOTIFY presentationChanged)
+  Q_PROPERTY(QStringList outcomeWarnings READ outcomeWarnings NOTIFY presentationChanged)
   Q_PROPERTY(QString adviceText READ adviceText NOTIFY presentationChanged)
   Q_PROPERTY(quillmere::OutputSummaryListModel* summaryRows READ summaryRows CONSTANT)
   Q_PROPERTY(quillmere::ProgressStepListModel* progressSteps READ progressSteps CONSTANT)
@@ -69,6 +76,21 @@ class DirectExecutionSessionViewModel : public QObject {
   [[nodiscard]] QString summarySymbol() const { return presentation_.symbolName; }
 
   [[nodiscard]] QString summaryEmptyText() const { return presentation_.emptyText; }
+
+  /// Whether there is anything to say of what came of the run, which there is not before it ended.
+  [[nodiscard]] bool hasOutcome() const { return !outcome_.isEmpty() || !adviceText_.isEmpty(); }
+
+  [[nodiscard]] QString outcomeSentence() const { return outcome_.sentence; }
+
+  [[nodiscard]] QString outcomeSymbol() const;
+  /// "green", "red", "blue" or "neutral".
+  [[nodiscard]] QString outcomeTint() const;
+
+  [[nodiscard]] QStringList outcomeDetails() const { return outcome_.details; }
+
+  [[nodiscard]] QString outcomeCaveats() const { return outcome_.caveats; }
+
+  [[nodiscard]] QStringList outcomeWarnings() const { return outcome_.warnings; }
 
   /// What can be done about a run that failed; empty where nothing is known.
   [[nodiscard]] QString adviceText() const { return adviceText_; }
@@ -113,7 +135,8 @@ class DirectExecutionSessionViewModel : public QObject {
   QCoro::Task<> readOutput();
   [[nodiscard]] QFuture<std::shared_ptr<Read>> startReading();
   void show(Read read);
-  void advise();
+  void showOutcome();
+  void announceOutcome();
 
   DirectExecutionSessionController& controller_;
   std::shared_ptr<OutputTranscript> transcript_;
@@ -121,7 +144,9 @@ class DirectExecutionSessionViewModel : public QObject {
   bool isReading_ = false;
   bool isSettled_ = false;
   QTimer readTimer_;
+  QTimer outcomeTimer_;
   DirectCommandOutputPresentation presentation_;
+  RunOutcome outcome_;
   QString adviceText_;
   bool hasOutput_ = false;
   OutputSummaryListModel summaryRows_;

@@ -30,22 +30,4 @@ SectionBlock {
             Layout.fillWidth: true
         }
     }
-
-    RowLayout {
-        Layout.fillWidth: true
-        Layout.topMargin: Theme.small
-        spacing: Theme.small
-        visible: root.viewModel.adviceText.length > 0
-
-        Symbol {
-            name: "lightbulb"
-            Layout.alignment: Qt.AlignTop
-            color: Theme.accent
-        }
-
-        BodyText {
-            Layout.fillWidth: true
-            text: root.viewModel.adviceText
-        }
-    }
 }

@@ -48,6 +48,33 @@ class CommandHistoryScreen : public testing::Test {
                                   QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
+TEST_F(CommandHistoryScreen, SaysInARowWhatCameOfTheRun) {
+  CommandHistoryRecord record = executed(0);
+  record.executionOutputSummary = QStringLiteral("==> Would upgrade 1 outdated package");
+  store.appendHistory(record);
+  record.id = QUuid::createUuid();
+  record.executionOutcome = QStringLiteral("Upgraded wget 1.24 to\n1.25");
+  store.appendHistory(record);
+  EXPECT_EQ(at(0, Role::SentenceRole).toString(), QStringLiteral("Upgraded wget 1.24 to 1.25"));
+  EXPECT_EQ(at(1, Role::SentenceRole).toString(), QString());
+  EXPECT_EQ(at(0, Role::DescriptionRole).toString(),
+            QStringLiteral("Executed. Upgraded wget 1.24 to 1.25"));
+  EXPECT_EQ(at(1, Role::DescriptionRole).toString(), QStringLiteral("Executed"));
+  EXPECT_EQ(at(1, Role::OutputRole).toString(),
+            QStringLiteral("==> Would upgrade 1 outdated package"));
+}
+
+TEST_F(CommandHistoryScreen, SaysOnlyOnceThatARunWasCancelled) {
+  CommandHistoryRecord record = executed(1, true);
+  record.executionOutcome = QStringLiteral("Cancelled while upgrading wget");
+  store.appendHistory(record);
+  record.executionOutcome = QStringLiteral("Upgraded wget");
+  store.appendHistory(record);
+  EXPECT_EQ(at(0, Role::DescriptionRole).toString(), QStringLiteral("Cancelled. Upgraded wget"));
+  EXPECT_EQ(at(1, Role::DescriptionRole).toString(),
+            QStringLiteral("Cancelled while upgrading wget"));
+}
+
 TEST_F(CommandHistoryScreen, IsEmptyWithoutRecords) {
   EXPECT_EQ(history.state(), CommandHistoryViewModel::Empty);
 }

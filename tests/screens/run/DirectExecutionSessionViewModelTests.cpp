@@ -70,7 +70,8 @@ TEST_F(SessionView, AdvisesOnAFailureThatItKnows) {
   const QSignalSpy said(model.get(), &DirectExecutionSessionViewModel::announced);
   runToEnd();
   EXPECT_TRUE(session.adviceText().startsWith(QStringLiteral("Another brew process is working")));
-  EXPECT_EQ(said.last()[0].toString(), session.adviceText());
+  const QString both = session.outcomeSentence() + QStringLiteral(". ") + session.adviceText();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return said.last()[0].toString() == both; }));
 }
 
 TEST_F(SessionView, AdvisesOnNothingThatWentWell) {
@@ -187,6 +188,50 @@ TEST_F(SessionView, AnnouncesHowItStandsEachTimeThatChanges) {
   EXPECT_EQ(announced.at(0).constFirst().toString(), QStringLiteral("Running"));
   EXPECT_EQ(announced.at(1).constFirst().toString(),
             QStringLiteral("Command exited with status 1."));
+}
+
+TEST_F(SessionView, SaysWhatCameOfARunWhenItHasEnded) {
+  auto& session = view(
+      "#!/bin/sh\necho '==> Upgrading jq'\necho '  1.7 -> 1.8'\n"
+      "echo '==> Caveats'\necho 'Mind the gap.'\necho '==> Summary'\n"
+      "echo '/opt/Cellar/jq/1.8: 20 files, 1MB'\necho 'Warning: careful' >&2\n",
+      upgrade);
+  QSignalSpy announced(model.get(), &DirectExecutionSessionViewModel::announced);
+  EXPECT_FALSE(session.hasOutcome());
+  runToEnd();
+  EXPECT_TRUE(session.hasOutcome());
+  EXPECT_EQ(session.outcomeSentence(), QStringLiteral("Upgraded jq 1.7 to 1.8"));
+  EXPECT_EQ(session.outcomeSymbol(), QStringLiteral("checkmark.circle.fill"));
+  EXPECT_EQ(session.outcomeTint(), QStringLiteral("green"));
+  EXPECT_EQ(session.outcomeCaveats(), QStringLiteral("Mind the gap."));
+  EXPECT_EQ(session.outcomeWarnings(), QStringList(QStringLiteral("careful")));
+  // The status is heard first.
+  EXPECT_EQ(announced.last()[0].toString(), session.statusText());
+  const auto before = announced.count();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return announced.count() > before; }));
+  EXPECT_EQ(announced.last()[0].toString(), session.outcomeSentence());
+  EXPECT_EQ(announced.count(), before + 1);
+}
+
+TEST_F(SessionView, SaysNothingOfAnOutcomeThatItDoesNotKnow) {
+  auto& session = view("#!/bin/sh\necho something\nexit 1\n", upgrade);
+  runToEnd();
+  EXPECT_FALSE(session.hasOutcome());
+}
+
+TEST_F(SessionView, SaysWhatACancelledRunWasDoing) {
+  auto& session = view(
+      "#!/bin/sh\ntrap 'echo Error: SIGTERM >&2; exit 1' TERM\ncd \"${0%/*}/..\"\n"
+      "echo '==> Upgrading jq'\nwhile [ -e bin/brew ]; do sleep 0.05; done\n",
+      upgrade);
+  controller->start();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !summary().isEmpty(); }));
+  QSignalSpy settled(model.get(), &DirectExecutionSessionViewModel::outputSettled);
+  session.cancel();
+  ASSERT_TRUE(settled.wait());
+  EXPECT_EQ(session.outcomeSentence(),
+            QStringLiteral("Cancelled while upgrading jq; a part of it may have been left"));
+  EXPECT_EQ(session.outcomeTint(), QStringLiteral("neutral"));
 }
 
 TEST_F(SessionView, ShowsALineThatGrows) {

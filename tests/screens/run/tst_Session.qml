@@ -50,7 +50,7 @@ SessionTestCase {
         press("Confirm brew upgrade");
         shows("Command exited with status 1.");
         shows(advice);
-        announces(advice);
+        announces("Failed: A `brew upgrade` process has already locked wget. " + advice);
     }
 
     function test_aRunThatMayChangeThePrefixOvertakesTheScan_data() {
