@@ -160,6 +160,10 @@ bool DirectExecutionSessionViewModel::isRunning() const {
   return !hasEnded(controller_.status());
 }
 
+bool DirectExecutionSessionViewModel::isCancelled() const {
+  return std::holds_alternative<SessionCancelled>(controller_.status());
+}
+
 bool DirectExecutionSessionViewModel::cancellationPending() const {
   return isRunning() && controller_.cancellationRequested();
 }
@@ -226,7 +230,7 @@ void DirectExecutionSessionViewModel::followCancellation() {
 
 void DirectExecutionSessionViewModel::showSteps() {
   progressSteps_.setSteps(
-      makeProgressSteps(controller_.command(), controller_.status(), hasOutput_));
+      makeProgressSteps(controller_.command(), controller_.status(), hasOutput_), isCancelled());
 }
 
 QCoro::Task<> DirectExecutionSessionViewModel::readOutput() {
@@ -274,7 +278,7 @@ void DirectExecutionSessionViewModel::show(Read read) {
     rawOutput_.append(std::move(read.lines), std::move(read.unfinishedLine));
     Q_EMIT rawOutputGrew();
   }
-  summaryRows_.setRows(read.presentation.rows);
+  summaryRows_.setRows(read.presentation.rows, isCancelled());
   presentation_ = std::move(read.presentation);
   hasOutput_ = read.hasOutput;
   if (read.isLast) {

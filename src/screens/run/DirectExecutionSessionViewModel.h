@@ -129,6 +129,7 @@ class DirectExecutionSessionViewModel : public QObject {
   struct Reading;
   struct Read;
 
+  [[nodiscard]] bool isCancelled() const;
   void followStatus();
   void followCancellation();
   void showSteps();

@@ -40,6 +40,8 @@ QVariant OutputSummaryListModel::data(const QModelIndex& index, int role) const 
       return row.symbolName;
     case TintRole:
       return QString(tintName(row.tint));
+    case ShownTintRole:
+      return cancelled_ ? u"neutral"_s : QString(tintName(row.tint));
     default:
       return {};
   }
@@ -49,10 +51,13 @@ QHash<int, QByteArray> OutputSummaryListModel::roleNames() const {
   return {{TitleRole, "title"},
           {DetailRole, "detail"},
           {SymbolNameRole, "symbolName"},
-          {TintRole, "tint"}};
+          {TintRole, "tint"},
+          {ShownTintRole, "shownTint"}};
 }
 
-void OutputSummaryListModel::setRows(std::vector<DirectCommandOutputPresentation::Row> rows) {
+void OutputSummaryListModel::setRows(std::vector<DirectCommandOutputPresentation::Row> rows,
+                                     bool cancelled) {
+  cancelled_ = cancelled;
   const int before = rowCount();
   const int after = static_cast<int>(rows.size());
   if (after < before) {

@@ -16,7 +16,14 @@ class OutputSummaryListModel : public QAbstractListModel {
   QML_ANONYMOUS
 
  public:
-  enum Role { TitleRole = Qt::UserRole, DetailRole, SymbolNameRole, TintRole };
+  enum Role {
+    TitleRole = Qt::UserRole,
+    DetailRole,
+    SymbolNameRole,
+    TintRole,
+    /// The tint to draw in, which is the row's but for a run that was cancelled.
+    ShownTintRole
+  };
 
   using QAbstractListModel::QAbstractListModel;
 
@@ -24,10 +31,12 @@ class OutputSummaryListModel : public QAbstractListModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-  void setRows(std::vector<DirectCommandOutputPresentation::Row> rows);
+  /// `cancelled`: whether the run was, whose rows are no success.
+  void setRows(std::vector<DirectCommandOutputPresentation::Row> rows, bool cancelled = false);
 
  private:
   std::vector<DirectCommandOutputPresentation::Row> rows_;
+  bool cancelled_ = false;
 };
 
 }  // namespace quillmere

@@ -9,7 +9,7 @@ RowLayout {
     required property string title
     required property string detail
     required property string symbolName
-    required property string tint
+    required property string shownTint
 
     // Homebrew's own columns.
     readonly property bool isTable: detail.includes("\n")
@@ -19,7 +19,7 @@ RowLayout {
     Symbol {
         name: root.symbolName
         Layout.alignment: Qt.AlignTop
-        color: Theme.tint(root.tint)
+        color: Theme.tint(root.shownTint)
     }
 
     ColumnLayout {

@@ -9,6 +9,7 @@ ColumnLayout {
     required property int index
     required property string title
     required property string stepState
+    required property string tint
 
     readonly property bool complete: stepState === "complete"
     readonly property bool active: stepState === "active"
@@ -24,20 +25,20 @@ ColumnLayout {
 
         BusySymbol {
             name: "arrow.triangle.2.circlepath"
-            color: Theme.blue
+            color: Theme.tint(root.tint)
             visible: root.active
         }
 
         Symbol {
             name: root.complete ? "checkmark.circle.fill" : root.failed ? "xmark.octagon"
                 : "circle"
-            color: root.complete ? Theme.green : root.failed ? Theme.red : Theme.secondaryText
+            color: Theme.tint(root.tint)
             visible: !root.active
         }
 
         Hairline {
             Layout.fillWidth: true
-            color: root.complete ? Theme.green : Theme.hairline
+            color: root.complete ? Theme.tint(root.tint) : Theme.hairline
             opacity: root.complete ? 0.5 : 1
             visible: root.index < 3
         }

@@ -21,6 +21,20 @@ QLatin1StringView stateName(DirectExecutionProgressStep::State state) {
   return {};
 }
 
+QLatin1StringView tintName(DirectExecutionProgressStep::State state) {
+  switch (state) {
+    case DirectExecutionProgressStep::State::complete:
+      return "green"_L1;
+    case DirectExecutionProgressStep::State::active:
+      return "blue"_L1;
+    case DirectExecutionProgressStep::State::pending:
+      return "neutral"_L1;
+    case DirectExecutionProgressStep::State::failed:
+      return "red"_L1;
+  }
+  return {};
+}
+
 }  // namespace
 
 ProgressStepListModel::ProgressStepListModel(Steps steps, QObject* parent)
@@ -42,19 +56,22 @@ QVariant ProgressStepListModel::data(const QModelIndex& index, int role) const {
       return step.title;
     case StateRole:
       return QString(stateName(step.state));
+    case TintRole:
+      return cancelled_ ? u"neutral"_s : QString(tintName(step.state));
     default:
       return {};
   }
 }
 
 QHash<int, QByteArray> ProgressStepListModel::roleNames() const {
-  return {{TitleRole, "title"}, {StateRole, "stepState"}};
+  return {{TitleRole, "title"}, {StateRole, "stepState"}, {TintRole, "tint"}};
 }
 
-void ProgressStepListModel::setSteps(Steps steps) {
-  if (steps == steps_) {
+void ProgressStepListModel::setSteps(Steps steps, bool cancelled) {
+  if (steps == steps_ && cancelled == cancelled_) {
     return;
   }
+  cancelled_ = cancelled;
   steps_ = std::move(steps);
   Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }

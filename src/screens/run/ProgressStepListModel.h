@@ -17,7 +17,7 @@ class ProgressStepListModel : public QAbstractListModel {
  public:
   using Steps = std::array<DirectExecutionProgressStep, 4>;
 
-  enum Role { TitleRole = Qt::UserRole, StateRole };
+  enum Role { TitleRole = Qt::UserRole, StateRole, TintRole };
 
   explicit ProgressStepListModel(Steps steps, QObject* parent = nullptr);
 
@@ -25,10 +25,12 @@ class ProgressStepListModel : public QAbstractListModel {
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
   [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-  void setSteps(Steps steps);
+  /// `cancelled`: whether the run was, whose complete steps are no success.
+  void setSteps(Steps steps, bool cancelled = false);
 
  private:
   Steps steps_;
+  bool cancelled_ = false;
 };
 
 }  // namespace quillmere

@@ -234,6 +234,39 @@ TEST_F(SessionView, SaysWhatACancelledRunWasDoing) {
   EXPECT_EQ(session.outcomeTint(), QStringLiteral("neutral"));
 }
 
+TEST_F(SessionView, DrawsACancelledRunAsNoSuccess) {
+  auto& session = view(
+      "#!/bin/sh\ntrap 'exit 1' TERM\ncd \"${0%/*}/..\"\n"
+      "echo '==> Upgrading jq'\nwhile [ -e bin/brew ]; do sleep 0.05; done\n",
+      upgrade);
+  controller->start();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !summary().isEmpty(); }));
+  const auto row = session.summaryRows()->index(0);
+  EXPECT_EQ(row.data(OutputSummaryListModel::ShownTintRole), QStringLiteral("green"));
+  QSignalSpy settled(model.get(), &DirectExecutionSessionViewModel::outputSettled);
+  session.cancel();
+  ASSERT_TRUE(settled.wait());
+  EXPECT_EQ(row.data(OutputSummaryListModel::TintRole), QStringLiteral("green"));
+  EXPECT_EQ(row.data(OutputSummaryListModel::ShownTintRole), QStringLiteral("neutral"));
+  EXPECT_EQ(stepStates(), QStringList(4, QStringLiteral("complete")));
+  for (int step = 0; step < 4; ++step) {
+    EXPECT_EQ(session.progressSteps()->index(step).data(ProgressStepListModel::TintRole),
+              QStringLiteral("neutral"));
+  }
+}
+
+TEST_F(SessionView, DrawsTheStepsOfARunByTheirStates) {
+  auto& session = view("#!/bin/sh\nexit 1\n", upgrade);
+  const auto tint = [&session](int step) {
+    return session.progressSteps()->index(step).data(ProgressStepListModel::TintRole).toString();
+  };
+  EXPECT_EQ(tint(0), QStringLiteral("green"));
+  EXPECT_EQ(tint(1), QStringLiteral("neutral"));
+  runToEnd();
+  EXPECT_EQ(tint(0), QStringLiteral("green"));
+  EXPECT_EQ(tint(1), QStringLiteral("red"));
+}
+
 TEST_F(SessionView, ShowsALineThatGrows) {
   RawOutputListModel log;
   const QAbstractItemModelTester tester(&log);
