@@ -11,17 +11,14 @@
 #include <thread>
 #include <utility>
 
+#include "execution/RemainingOutput.h"
 #include "platform/FileUrl.h"
 
 namespace quillmere {
 namespace {
 
 using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
 
-// How long to read on after the child's exit while another process still holds a pipe. The child's
-// own output is in the pipe by then; this is for the last output of the processes it started.
-constexpr auto graceAfterExit = 500ms;
 // How often to check for the child's exit where the system has no descriptor to wait for.
 constexpr auto exitPollInterval = 50ms;
 
@@ -33,18 +30,6 @@ QString valueOrUnset(const Environment& environment, const std::string& name) {
   const auto entry = environment.find(name);
   return entry == environment.end() ? QStringLiteral("unset")
                                     : QString::fromStdString(entry->second);
-}
-
-pollfd listenTo(const FileDescriptor& fd) {
-  // `poll` skips a negative descriptor, so that a closed one needs no case of its own.
-  return {.fd = fd.get(), .events = POLLIN, .revents = 0};
-}
-
-/// Reads once if `entry` says that there is something, and closes at the end.
-void readIfReady(FileHandleDataReader& reader, const pollfd& entry) {
-  if (entry.revents != 0 && reader.readAvailable() == FileHandleDataReader::State::atEnd) {
-    reader.finish();
-  }
 }
 
 }  // namespace
@@ -174,7 +159,7 @@ DirectCommandOutcome ProcessDirectCommandExecution::launchAndFollow() {
                                "Collecting remaining output.")
                     .arg(description(SystemFailure{exitCode.error()})));
   }
-  collectRemainingOutput();
+  readRemainingOutput(standardOutputReader_, standardErrorReader_);
   logger_.log(QStringLiteral("Output collection finished. Closing Direct session stream."));
   output_->finish();
   if (!exitCode) {
@@ -210,27 +195,6 @@ void ProcessDirectCommandExecution::readUntilExitOrCancel(const ChildProcess& ch
       readIfReady(standardErrorReader_, entries[1]);
     }
     woken = !canWaitForExit || (ready > 0 && (entries[2].revents != 0 || entries[3].revents != 0));
-  }
-}
-
-void ProcessDirectCommandExecution::collectRemainingOutput() {
-  const auto deadline = Clock::now() + graceAfterExit;
-  while (standardOutputReader_.fileHandle().isOpen() ||
-         standardErrorReader_.fileHandle().isOpen()) {
-    const auto left =
-        std::chrono::duration_cast<std::chrono::milliseconds>(deadline - Clock::now());
-    std::array entries = {listenTo(standardOutputReader_.fileHandle()),
-                          listenTo(standardErrorReader_.fileHandle())};
-    if (left < 0ms || poll(entries.data(), entries.size(), static_cast<int>(left.count())) == 0) {
-      break;
-    }
-    readIfReady(standardOutputReader_, entries[0]);
-    readIfReady(standardErrorReader_, entries[1]);
-  }
-  for (auto* const reader : {&standardOutputReader_, &standardErrorReader_}) {
-    if (reader->fileHandle().isOpen()) {
-      reader->finish();
-    }
   }
 }
 

@@ -53,7 +53,6 @@ class ProcessDirectCommandExecution
   [[nodiscard]] DirectCommandOutcome launchAndFollow();
   void followUntilExit(const ChildProcess& child);
   void readUntilExitOrCancel(const ChildProcess& child);
-  void collectRemainingOutput();
   [[nodiscard]] DirectCommandResult makeResult(std::int32_t exitCode) const;
 
   Run run_;
