@@ -10,6 +10,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 constexpr QSize usualSize(1200, 800);
+constexpr QSize smallestSize(900, 600);
 const BrewCommandBuilder builder;
 
 BrewCommandTarget formula(const QString& name) {
@@ -182,6 +183,39 @@ void captureRefusal(Stage& stage) {
   stage.content().commands()->preview()->close();
 }
 
+/// A brew that upgrades a service, with what its user has to know.
+QByteArray brewWithCaveats() {
+  return "#!/bin/sh\ncellar=$(cd \"${0%/*}/..\" && pwd)/Cellar\ncat <<EOF\n"
+         "==> Upgrading 2 outdated packages:\nicu4c@78 78.1 -> 78.2\n"
+         "postgresql@17 17.6 -> 17.7\n==> Upgrading icu4c@78\n  78.1 -> 78.2 \n"
+         "$cellar/icu4c@78/78.2: 278 files, 86.4MB\n==> Upgrading postgresql@17\n"
+         "  17.6 -> 17.7 \n==> Caveats\n"
+         "This formula has created a default database cluster with:\n"
+         "  initdb --locale=en_US.UTF-8 -E UTF-8 $cellar/../var/postgresql@17\n\n"
+         "To start postgresql@17 now and restart at login:\n"
+         "  brew services start postgresql@17\n"
+         "Or, if you don't want/need a background service you can just run:\n"
+         "  LC_ALL=\"en_US.UTF-8\" $cellar/../opt/postgresql@17/bin/postgres\n==> Summary\n"
+         "$cellar/postgresql@17/17.7: 3,832 files, 79.9MB\n"
+         "==> Running \\`brew cleanup postgresql@17\\`...\n"
+         "Removing: $cellar/postgresql@17/17.6... (3,830 files, 79.8MB)\n"
+         "==> Upgraded 2 outdated packages\nEOF\n"
+         "echo 'Warning: Not upgrading 1 pinned package:' >&2\n";
+}
+
+void captureSmallest(Album& album) {
+  Stage stage(album, DemoUser::regular, smallestSize);
+  stage.loadCatalog(u"run-caveats"_s);
+  stage.scan(u"run-caveats"_s);
+  stage.setBrew(brewWithCaveats());
+  stage.show(AppSection::updates);
+  stage.openPreview(builder.upgrade(formula(u"postgresql@17"_s)).value(), u"Updates"_s);
+  stage.run(u"run-caveats"_s);
+  captureEnd(stage, u"run-caveats"_s);
+  stage.show(AppSection::history);
+  stage.takePicture(u"history-small"_s);
+}
+
 }  // namespace
 
 void captureRuns(Album& album) {
@@ -196,6 +230,7 @@ void captureRuns(Album& album) {
   captureHistory(stage);
   captureCancellation(stage);
   captureRefusal(stage);
+  captureSmallest(album);
 }
 
 }  // namespace quillmere::demo
