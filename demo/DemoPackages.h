@@ -9,8 +9,9 @@
 namespace quillmere::demo {
 
 /// What the screens of the inventory are given in a scene: "idle", "idle-prefix", "access",
-/// "away" (a prefix that cannot be read), "looking", "scanning", "failed", "empty", "current", "review", "updates", "many" (five thousand
-/// packages), "long" (texts without an end, in several scripts).
+/// "away" (a prefix that cannot be read), "looking", "scanning", "failed", "empty", "current",
+/// "review", "updates", "many" (five thousand packages), "long" (texts without an end, in several
+/// scripts).
 [[nodiscard]] LocalInventoryInputs demoInventory(const QString& scene, const QUrl& prefix);
 
 /// What a package's page is given in a scene: "formula", "installed", "cask", "installed-cask",
