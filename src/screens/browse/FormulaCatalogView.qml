@@ -54,7 +54,7 @@ FocusScope {
         Banner {
             Layout.fillWidth: true
             text: root.viewModel.fetchFailureText
-            visible: text.length > 0 && !root.loading
+            visible: text.length > 0
 
             ActionButton {
                 text: "Try Again"

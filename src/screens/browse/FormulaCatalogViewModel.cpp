@@ -127,7 +127,7 @@ QString FormulaCatalogViewModel::freshnessText() const {
 }
 
 QString FormulaCatalogViewModel::fetchFailureText() const {
-  return inputs_.fetchFailure.isEmpty()
+  return inputs_.fetchFailure.isEmpty() || state() == Loading
              ? QString()
              : QStringLiteral("The catalog could not be fetched. %1 The cached catalog is shown.")
                    .arg(inputs_.fetchFailure);
@@ -230,12 +230,17 @@ QString FormulaCatalogViewModel::spokenState() const {
 }
 
 void FormulaCatalogViewModel::announce() {
+  // In one text: of two announcements at once only the second is heard.
+  QStringList news;
+  if (spokenFailure_.accept(fetchFailureText())) {
+    news += fetchFailureText();
+  }
   const QString spoken = spokenState();
   if (spoken_.accept(spoken)) {
-    Q_EMIT announced(spoken);
+    news += spoken;
   }
-  if (spokenFailure_.accept(fetchFailureText())) {
-    Q_EMIT announced(fetchFailureText());
+  if (!news.isEmpty()) {
+    Q_EMIT announced(news.join(u' '));
   }
 }
 
