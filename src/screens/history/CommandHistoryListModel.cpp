@@ -64,7 +64,7 @@ QString sentence(const CommandHistoryRecord& record) {
 
 /// How a record came to be and what came of it, for those who do not see the row.
 QString description(const CommandHistoryRecord& record) {
-  const QString how = cancelled(record) ? QStringLiteral("Cancelled") : outcomeText(record);
+  QString how = cancelled(record) ? QStringLiteral("Cancelled") : outcomeText(record);
   const QString what = sentence(record);
   if (what.isEmpty()) {
     return how;
